@@ -1,0 +1,37 @@
+// The disk as the core sees it: whole files by the model's own (Windows) paths. Tests put a failing disk in
+// its place. One thread at a time.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brevant {
+
+class TCFileSystem {
+ public:
+  virtual ~TCFileSystem() = default;
+
+  // True when `path` names a regular file, or a link to one, that can be opened for reading. A folder, FIFO
+  // or device is no file, and asking about one never blocks.
+  [[nodiscard]] virtual bool FileExists(std::u16string_view path) = 0;
+
+  // All bytes of the file; empty when it is no readable regular file, when reading breaks off, or when it
+  // holds more than `maxBytes`.
+  [[nodiscard]] virtual std::optional<std::string> ReadFile(std::u16string_view path,
+                                                            std::size_t maxBytes) = 0;
+
+  // Puts `bytes` under `path` so that after a crash, a kill or a full disk the old file or the new one stands
+  // there, never half of one. Permissions survive; a symbolic link stays a link and its target is replaced.
+  // The folder must exist. False when anything failed; the old file is then untouched.
+  [[nodiscard]] virtual bool ReplaceFile(std::u16string_view path, std::string_view bytes) = 0;
+
+  // Makes the folder and every missing one above it. True when it stands there afterwards.
+  [[nodiscard]] virtual bool MakeFolder(std::u16string_view path) = 0;
+
+  // False when the file is still there afterwards.
+  virtual bool DeleteFile(std::u16string_view path) = 0;
+};
+
+}  // namespace brevant

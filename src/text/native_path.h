@@ -1,0 +1,39 @@
+// Turns the model's Windows paths into the system's own and back. The only place that knows the difference.
+// Immutable after construction, so any thread may use one.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brevant {
+
+class TCNativePaths {
+ public:
+  // Drive letter (upper case) to the native folder that stands for it, without a trailing slash.
+  using DriveFolders = std::map<char, std::string>;
+
+  TCNativePaths() = default;
+  explicit TCNativePaths(DriveFolders drives);
+
+  // The system's name for `path`: `\` becomes `/`, a drive letter its folder. A drive that no folder stands
+  // for is left as it is written ("D:/..."), which names nothing. Lone surrogates give a name that names
+  // nothing.
+  [[nodiscard]] std::string ToNative(std::u16string_view path) const;
+
+  // The model's name for a file chosen, dropped or named on the command line: `/home/me/a.mp3` is
+  // `\home\me\a.mp3`. Empty when the model cannot hold it: a backslash, double quote or line break inside a
+  // name, or bytes that are not UTF-8.
+  [[nodiscard]] static std::optional<std::u16string> FromNative(std::string_view native);
+
+  // The native name of an existing file or folder: as written when that stands on the disk, else one that
+  // differs only in upper and lower case. ToNative's answer when neither does. Reads folders, so it can block
+  // as long as the disk does.
+  [[nodiscard]] std::string FindOnDisk(std::u16string_view path) const;
+
+ private:
+  DriveFolders drives;
+};
+
+}  // namespace brevant

@@ -1,0 +1,33 @@
+// Text that never changes and is shared by its copies: thousands of songs in one folder hold its name once.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace brevant {
+
+class TCSharedText {
+ public:
+  TCSharedText() = default;
+  TCSharedText(std::u16string value)  // NOLINT(google-explicit-constructor): a text like any other
+      : text(value.empty() ? nullptr : std::make_shared<const std::u16string>(std::move(value))) {}
+  TCSharedText(const char16_t* value)
+      : TCSharedText(std::u16string(value)) {}  // NOLINT(google-explicit-constructor)
+
+  [[nodiscard]] const std::u16string& str() const {
+    static const std::u16string kEmpty;
+    return text ? *text : kEmpty;
+  }
+  operator std::u16string_view() const { return str(); }  // NOLINT(google-explicit-constructor)
+  [[nodiscard]] bool empty() const { return !text; }
+
+  friend bool operator==(const TCSharedText& a, const TCSharedText& b) {
+    return a.text == b.text || a.str() == b.str();
+  }
+
+ private:
+  std::shared_ptr<const std::u16string> text;
+};
+
+}  // namespace brevant

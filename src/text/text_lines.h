@@ -1,0 +1,37 @@
+// Text line files: the one way in which documents, playlists, group lists and lyrics are cut into lines.
+// A carriage return ends a line and swallows the one unit after it, whatever it is; a lone line feed is text.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/file_system.h"
+
+namespace brevant {
+
+using TextLines = std::vector<std::u16string>;
+
+// A file past this size is no text line file of ours and is refused like one that cannot be opened.
+inline constexpr std::size_t kMaxTextFileBytes = std::size_t{256} << 20;
+
+// UTF-16 little-endian. Marks (U+FEFF) before the first character are dropped; an odd last byte is ignored.
+// An unfinished last line is kept only when it is the only line.
+[[nodiscard]] TextLines SplitUtf16Lines(std::string_view bytes);
+
+// The 8-bit twin: the same line rules, no mark rule (a UTF-8 mark stays at the head of the first line).
+[[nodiscard]] TextLines SplitAnsiLines(std::string_view bytes);
+
+// Every line followed by carriage return and line feed, UTF-16 little-endian, no mark.
+[[nodiscard]] std::string JoinUtf16Lines(const TextLines& lines);
+
+// Empties `lines` and fills it from the file. False only when the file cannot be read; an empty file gives
+// true and no lines.
+[[nodiscard]] bool ReadTextLines(TCFileSystem& files, std::u16string_view path, TextLines& lines);
+[[nodiscard]] bool ReadAnsiTextLines(TCFileSystem& files, std::u16string_view path, TextLines& lines);
+
+// False when the file cannot be written, and also when `lines` is empty (the file is then left empty).
+[[nodiscard]] bool WriteTextLines(TCFileSystem& files, std::u16string_view path, const TextLines& lines);
+
+}  // namespace brevant
