@@ -20,6 +20,7 @@ class TCMemoryFiles final : public TCFileSystem {
  public:
   // Switches. A file made unreadable is still there, but it can neither be opened nor found.
   bool failWrites = false;
+  bool failCopies = false;
   bool failFolders = false;
   bool failDeletes = false;
 
@@ -79,6 +80,13 @@ class TCMemoryFiles final : public TCFileSystem {
     writes.emplace_back(path);
     if (failWrites) return false;
     files[ToLower(path)] = std::string(bytes);
+    return true;
+  }
+
+  [[nodiscard]] bool CopyFile(std::u16string_view from, std::u16string_view to) override {
+    const std::string* bytes = Readable(from);
+    if (failCopies || bytes == nullptr) return false;
+    files[ToLower(to)] = *bytes;
     return true;
   }
 
