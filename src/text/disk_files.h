@@ -19,6 +19,7 @@ class TCDiskFiles final : public TCFileSystem {
   [[nodiscard]] bool FileExists(std::u16string_view path) override;
   [[nodiscard]] std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override;
   [[nodiscard]] bool ReplaceFile(std::u16string_view path, std::string_view bytes) override;
+  [[nodiscard]] bool CopyFile(std::u16string_view from, std::u16string_view to) override;
   [[nodiscard]] bool MakeFolder(std::u16string_view path) override;
   bool DeleteFile(std::u16string_view path) override;
 
