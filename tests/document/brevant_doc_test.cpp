@@ -206,7 +206,7 @@ TEST_F(BrevantDocTest, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
            Case{TCCommandId::ImmediatePlay, &TCSettings::immediatePlay},
            Case{TCCommandId::PlaylistManagerImmediatePlay, &TCSettings::playlistManagerImmediatePlay},
            Case{TCCommandId::WhiteOnBlack, &TCSettings::whiteOnBlack},
-           Case{TCCommandId::DynamicColours, &TCSettings::dynamicPlayColours},
+           Case{TCCommandId::DynamicPlayColours, &TCSettings::dynamicPlayColours},
            Case{TCCommandId::FoldersSaveFormat, &TCSettings::foldersSaveFormat},
            Case{TCCommandId::LoadLastFile, &TCSettings::loadLastFileOnProgramRun},
            Case{TCCommandId::Reset, &TCSettings::resetPending},
@@ -229,7 +229,7 @@ TEST_F(BrevantDocTest, WhiteOnBlackSwapsTheColoursAtOnce) {
   document.OnCommand(TCCommandId::WhiteOnBlack);
   EXPECT_EQ(record.settings.backgroundColour, kWhite);
   EXPECT_EQ(view.rows[0].colours.background, kWhite);
-  document.OnCommand(TCCommandId::DynamicColours);
+  document.OnCommand(TCCommandId::DynamicPlayColours);
   EXPECT_EQ(view.rows[0].colours.text, kBlack);
 }
 
