@@ -24,6 +24,8 @@ void TCCommandActions::AddActions(QWidget& window) {
     action->setToolTip(ToQString(ToolTip(command)));
     action->setStatusTip(ToQString(StatusLine(command)));
     action->setCheckable(command.trait == TCCommandTrait::Checkable);
+    // In a menu a picture would take the place of the tick.
+    action->setIconVisibleInMenu(!action->isCheckable());
     action->setIcon(PictureIcon(IconName(command.id)));
     // An application-wide shortcut would fire behind an open menu or dialog.
     action->setShortcutContext(Qt::WindowShortcut);

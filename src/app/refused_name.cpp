@@ -10,7 +10,7 @@ std::u16string RefusedNameText(std::string_view nativeName) {
   for (char16_t& unit : name) {
     if (unit < u' ') unit = u'?';
   }
-  return u"Not opened: a name with a backslash, double quote or line break in it cannot be used: " + name;
+  return u"A name with a backslash, double quote or line break in it cannot be used: " + name;
 }
 
 }  // namespace brevant

@@ -2,8 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QStyleFactory>
 #include <QTemporaryDir>
+
+#include "app/stage_style.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -17,6 +18,6 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("Brevant"));
   QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
   const QApplication toolkit(argc, argv);
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new brevant::TCStageStyle);
   return RUN_ALL_TESTS();
 }
