@@ -106,6 +106,15 @@ TEST(IniText, AValueWithALineBreakReadsTheSameBeforeAndAfterWriting) {
   EXPECT_EQ(ini.GetInt(u"T", u"x", 0), 2);
 }
 
+TEST(IniText, AMarkAtTheHeadIsNoTextWhereverItCameFrom) {
+  EXPECT_EQ(TCIniText::Parse("\xEF\xBB\xBF\xEF\xBB\xBF[S]\r\n").Serialize(), "[S]\r\n");
+  auto ini = TCIniText::Parse("a=1\r\n\xEF\xBB\xBF[S]\r\nk=1\r\n");
+  EXPECT_EQ(ini.GetString(u"S", u"k", u"DEF"), u"DEF");
+  ini.DeleteKey(u"", u"a");
+  EXPECT_EQ(ini.GetString(u"S", u"k", u"DEF"), u"1");
+  EXPECT_EQ(ini.Serialize(), "[S]\r\nk=1\r\n");
+}
+
 TEST(IniText, AnyBytesAreReadAsSomething) {
   for (const std::string& bytes : {
            std::string(),
