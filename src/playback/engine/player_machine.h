@@ -50,6 +50,9 @@ class TCPlayerMachine {
   [[nodiscard]] std::uint64_t Barrier() const { return barrier; }
   // How many songs have come to their end so far.
   [[nodiscard]] std::uint64_t Ends() const { return ends; }
+  [[nodiscard]] bool IsProbing(std::uint64_t build) const {
+    return file == File::Probing && build == buildNumber;
+  }
   [[nodiscard]] std::uint64_t LoadNumber() const { return loadNumber; }
   [[nodiscard]] const std::u16string& Url() const { return url; }
   [[nodiscard]] const std::shared_ptr<const TCPlayable>& Playable() const { return playable; }
