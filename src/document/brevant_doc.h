@@ -10,10 +10,11 @@
 #include "document/playlist_presenter.h"
 #include "document/prompts.h"
 #include "model/app_record.h"
+#include "model/document_file.h"
 #include "model/message_display.h"
 #include "model/program_folders.h"
 #include "playback/transport.h"
-#include "resources/command_table.h"
+#include "resources/command_id.h"
 
 namespace brevant {
 
@@ -70,12 +71,16 @@ class TCBrevantDoc {
   void ShowBanner();
   void ShowTitle();
   void KeepRecoveryCopy(std::u16string_view path);
-  void ToggleWhiteOnBlack();
+  void RunTransportCommand(TCCommandId command);
+  void RunFileCommand(TCCommandId command);
+  void ToggleOption(TCCommandId command);
   void Cancel();
-  bool SaveToKnownPath();
+  // False when the user cancelled.
+  bool Save();
   bool SaveAs();
 
   TCDocumentParts parts;
+  TCDocumentFile documentFile;
   TCPlaylistPresenter presenter;
   TCTransport transport;
   std::u16string pathName;

@@ -38,7 +38,8 @@ class TCPlaylistDisplay {
   // Replaces all rows. Afresh: nothing selected, scrolled to the top. KeepPlace: selection and scroll stay
   // where they were, as far as those rows are still there.
   virtual void ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) = 0;
-  // One record a row, first to last; everything is redrawn.
+  // One record a row, first to last; everything is redrawn. A row without a record takes the window's
+  // colours.
   virtual void SetRowColours(std::vector<TCRowColours> colours) = 0;
   // A row that is not there is ignored.
   virtual void SetRowTexts(std::int32_t row, const TCRowTexts& texts) = 0;

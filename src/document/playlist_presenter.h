@@ -23,8 +23,10 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
   void RefreshPlaylistTotal() override;
   void FocusPlaylist() override;
 
-  // Sets the play marks of the current playlist and redraws its colours. Nothing when the position is wrong.
+  // Sets the play marks after the current song and redraws the colours. Nothing when no song is current.
   void Recolour();
+  // Redraws the colours after an option changed them, also when no song is current.
+  void ShowColours();
   void Clear();
 
   // The row of the current song at the last recolouring; -1 before the first.

@@ -12,7 +12,7 @@ namespace brevant {
 class TCSettingsFile {
  public:
   // `folder` ends with a backslash and may not exist yet.
-  TCSettingsFile(TCFileSystem& files, std::u16string_view folder);
+  TCSettingsFile(TCFileSystem& fileSystem, std::u16string_view settingsFolder);
 
   [[nodiscard]] std::u16string SettingsFilePath() const { return path; }
 

@@ -4,21 +4,25 @@
 
 #include <cstdint>
 
-namespace brevant {
+#include "model/set_list_store.h"
 
-// What the poll knows while a song is playing.
-struct TCTickInput {
-  bool started = false;   // the position has been seen to move since the last Play
-  double position = 0.0;  // seconds; exactly 0.0 when the song has ended
-};
+namespace brevant {
 
 enum class TCTickAction {
   Wait,         // nothing to do until the next poll
   MarkStarted,  // the sound has begun
-  EndSong,      // the song ended or was stopped by the player itself
+  EndSong,      // the song ended, or the player itself stopped it
 };
 
-[[nodiscard]] TCTickAction DecideTick(const TCTickInput& input);
+// Asked on every poll while a song is playing. `started`: the position has been seen to move since the last
+// Play. `position`: seconds, exactly 0.0 when nothing sounds.
+[[nodiscard]] TCTickAction DecideTick(bool started, double position);
+
+enum class TCAdvance {
+  Rest,          // the set has ended, or the musician goes on by hand
+  NextSong,      // of the same playlist
+  NextPlaylist,  // its first song; behind the last playlist of all the first one of all
+};
 
 struct TCAdvanceInput {
   bool autoSongAdvance = false;
@@ -26,19 +30,19 @@ struct TCAdvanceInput {
   bool hasNextSong = false;  // the current playlist holds a song behind the current one
 };
 
-enum class TCAdvance {
-  Rest,  // the set has ended, or the musician advances by hand
-  NextSong,
-  NextPlaylist,  // its first song; after the last playlist of the last group the first of all
-};
-
+// Where an ended song leads.
 [[nodiscard]] TCAdvance DecideAdvance(const TCAdvanceInput& input);
 
-// Where a step between playlists leads; `moves` is false when there is nowhere to go.
+// Where a step from one playlist to its neighbour leads; `moves` is false when there is nowhere to go.
 struct TCPlaylistStep {
   bool moves = false;
   std::int32_t group = 0;
   std::int32_t playlist = 0;
 };
+
+// Behind the last playlist of a group comes the first one of the next group.
+[[nodiscard]] TCPlaylistStep StepToNextPlaylist(const TCSetListStore& store);
+// Before the first playlist of a group comes the first, not the last, one of the group before.
+[[nodiscard]] TCPlaylistStep StepToPriorPlaylist(const TCSetListStore& store);
 
 }  // namespace brevant

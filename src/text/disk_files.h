@@ -1,34 +1,46 @@
 // The real disk behind TCFileSystem. Used on the user-interface thread only.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "text/file_handle.h"
 #include "text/file_system.h"
 #include "text/native_path.h"
+#include "text/other_case.h"
 
 namespace brevant {
 
+// Every name is tried as it is written. Only where nothing stands under it, a name that differs in upper and
+// lower case is looked for. A document of 100,000 songs asks for 100,000 lyric files that are not there, so
+// the names of the folders are remembered for that: see TCOtherCase.
 class TCDiskFiles final : public TCFileSystem {
  public:
-  explicit TCDiskFiles(TCNativePaths paths);
-  ~TCDiskFiles() override;
+  // The clock decides how long the names of a folder are remembered; tests bring their own.
+  explicit TCDiskFiles(TCNativePaths paths, TCOtherCase::Clock clock = std::chrono::steady_clock::now);
 
   [[nodiscard]] bool FileExists(std::u16string_view path) override;
   [[nodiscard]] std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override;
+
+  // Also false for a file that is write-protected, and for one in a folder that takes no new file: the new
+  // content is written beside the old.
   [[nodiscard]] bool ReplaceFile(std::u16string_view path, std::string_view bytes) override;
+
+  [[nodiscard]] bool CopyFile(std::u16string_view from, std::u16string_view to) override;
+
+  // New folders can be entered by the user alone: what the program makes of its own is the user's.
   [[nodiscard]] bool MakeFolder(std::u16string_view path) override;
   bool DeleteFile(std::u16string_view path) override;
 
  private:
-  // A document of 100,000 songs asks for 100,000 lyric files that are not there; each miss would read its
-  // folder again in search of other upper and lower case. This remembers each folder's names for a moment.
-  class FolderNames;
+  [[nodiscard]] TCFileHandle OpenForReading(std::u16string_view path);
+  // The name under which something stands there: `native`, or its like in other case, or else `native` within
+  // the folder that answers to its folder's name.
+  [[nodiscard]] std::string Locate(const std::string& native);
 
   TCNativePaths paths;
-  std::unique_ptr<FolderNames> folderNames;
+  TCOtherCase otherCase;
 };
 
 }  // namespace brevant

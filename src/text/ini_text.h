@@ -1,7 +1,9 @@
 // The text of an INI file: sections of key=value lines, read and written by the rules of the platform's
-// private-profile calls. Used by the settings file and the per-user profile.
+// private-profile calls. Used by the settings file and the per-user profile. Section and key names match
+// without regard to case and to white space around them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -15,14 +17,18 @@ class TCIniText {
   TCIniText() = default;
 
   // Reads UTF-16 little-endian with a mark, UTF-8 (with or without a mark), else Windows-1252. Never fails:
-  // what is no section and no key is kept as a line of its own.
+  // what is no section and no key is kept as a line of its own. A line feed, a carriage return, or returns
+  // before a line feed end a line.
   [[nodiscard]] static TCIniText Parse(std::string_view bytes);
 
-  // UTF-8 without a mark, carriage return and line feed after every line.
+  // UTF-8 without a mark, carriage return and line feed after every line. Lines that were not set are written
+  // as they were read: comments, blank lines and the blanks round an equals sign are the user's.
   [[nodiscard]] std::string Serialize() const;
 
-  // The value without surrounding white space and one pair of quotes; `fallback` (trailing blanks removed)
-  // when the section or key is missing. The first of several equal sections or keys is the one that answers.
+  // The value up to a zero character, without surrounding white space and one pair of double or single
+  // quotes; `fallback` (without trailing blanks and one pair of quotes) when the section or key is missing or
+  // the key's line has no equals sign. The first of several equal sections or keys is the one that answers.
+  // Keys above the first heading belong to the section "".
   [[nodiscard]] std::u16string GetString(std::u16string_view section, std::u16string_view key,
                                          std::u16string_view fallback) const;
 
@@ -31,23 +37,35 @@ class TCIniText {
   [[nodiscard]] std::int32_t GetInt(std::u16string_view section, std::u16string_view key,
                                     std::int32_t fallback) const;
 
-  // Replaces the first such key, or adds it at the end of the section, or adds the section at the end.
+  // Replaces the first such key, or adds it behind the section's last line that is not blank, or adds the
+  // section at the end. White space before the key and the value is not written. A value with a line break in
+  // it spills into lines of its own, and GetString reads what a reader of the file will read.
   void SetString(std::u16string_view section, std::u16string_view key, std::u16string_view value);
   void DeleteKey(std::u16string_view section, std::u16string_view key);
+
+  // The first such section, with its comments.
   void DeleteSection(std::u16string_view section);
 
+  // In order, as written; a key that stands twice is there twice. Lines without an equals sign and comments
+  // are no keys.
   [[nodiscard]] std::vector<std::u16string> Keys(std::u16string_view section) const;
 
  private:
-  struct Line {
-    // A heading holds the section name in `name`; a key line its key and, after '=', its value as written;
-    // other lines (comments) stand whole in `value`.
-    enum class Kind { Heading, Key, Other } kind = Kind::Other;
-    std::u16string name;
-    std::optional<std::u16string> value;
+  // A half-open range of lines: a section without its heading.
+  struct Range {
+    std::size_t begin = 0;
+    std::size_t end = 0;
   };
 
-  std::vector<Line> lines;
+  [[nodiscard]] std::optional<Range> FindSection(std::u16string_view section) const;
+  [[nodiscard]] std::optional<std::size_t> FindKey(Range range, std::u16string_view key) const;
+  [[nodiscard]] std::optional<std::u16string_view> FindValue(std::u16string_view section,
+                                                             std::u16string_view key) const;
+  void InsertText(std::size_t at, std::u16string_view text);
+
+  // The lines as they are written, without their ends. What a line means is read off it when it is asked for:
+  // so nothing can be held here that a reader of the file would not find in it.
+  std::vector<std::u16string> lines;
 };
 
 }  // namespace brevant

@@ -1,0 +1,89 @@
+// The lyric data of one song: its timed lines and the header values of its lyric file. Held by every song of
+// the model, filled by the lyric reader, read by the lyric display and the properties pane. User-interface
+// thread.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brevant {
+
+// The end of a line that no other line follows: far behind the end of any song (milliseconds).
+inline constexpr std::int32_t kEndOfLyrics = 268435455;
+
+// One timed line. It is current while start <= t < end (milliseconds from the start of the song).
+struct TCLyric {
+  std::u16string text;  // with its singer mark, if it has one
+  std::int32_t start = 0;
+  std::int32_t end = 0;
+  std::int32_t singer = 0;  // 0 none, 1 "M:", 2 "F:", 3 "D:"
+
+  friend bool operator==(const TCLyric&, const TCLyric&) = default;
+};
+
+// What the tags at the head of a lyric file say, as written.
+struct TCLyricHeaders {
+  std::u16string artist;
+  std::u16string album;
+  std::u16string title;
+  std::u16string songCreator;
+  std::u16string length;
+  std::u16string lyricWriter;
+  std::u16string editor;
+  std::u16string version;
+  std::u16string offset;  // milliseconds
+
+  friend bool operator==(const TCLyricHeaders&, const TCLyricHeaders&) = default;
+};
+
+// Lyric data while it is being read: lines in file order, never sorted.
+struct TCLyricSheet {
+  std::vector<TCLyric> lines;
+  TCLyricHeaders headers;
+};
+
+// A finished sheet, packed: a value like any other, but copies share what they hold, since it never changes
+// and is only ever replaced whole. A set list of 100,000 songs keeps one of these in each of them, most of
+// them empty: an empty one is a null pointer.
+class TCSongLyrics {
+ public:
+  TCSongLyrics() = default;
+  explicit TCSongLyrics(const TCLyricSheet& sheet);
+
+  // True without lines; header values may still be there.
+  [[nodiscard]] bool Empty() const { return LineCount() == 0; }
+  [[nodiscard]] std::size_t LineCount() const;
+
+  // Line `index` in file order; a line without text and times when there is no such line.
+  [[nodiscard]] TCLyric LineAt(std::size_t index) const;
+
+  // The first line with start <= timeMs < end, or -1. Unpacks no text.
+  [[nodiscard]] std::int32_t FindLineAt(std::int32_t timeMs) const;
+
+  [[nodiscard]] std::u16string Artist() const;
+  [[nodiscard]] std::u16string Album() const;
+  [[nodiscard]] std::u16string Title() const;
+  [[nodiscard]] std::u16string SongCreator() const;
+  [[nodiscard]] std::u16string Length() const;
+  [[nodiscard]] std::u16string LyricWriter() const;
+  [[nodiscard]] std::u16string Editor() const;
+  [[nodiscard]] std::u16string Version() const;
+  [[nodiscard]] std::u16string Offset() const;
+
+  [[nodiscard]] TCLyricHeaders Headers() const;
+
+  // Equal when they hold the same lines and header values.
+  friend bool operator==(const TCSongLyrics& a, const TCSongLyrics& b);
+
+ private:
+  struct Packed;
+
+  [[nodiscard]] std::u16string HeaderAt(std::size_t header) const;
+
+  std::shared_ptr<const Packed> packed;
+};
+
+}  // namespace brevant

@@ -1,0 +1,24 @@
+// Finds the soundfont that MIDI songs are played with. Reads folders, so it may block as long as the disk
+// does; any thread.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brevant {
+
+// The folders of shared data in order of preference: XDG_DATA_HOME, then each of XDG_DATA_DIRS. Empty texts
+// stand for variables that are not set, and relative folders count for nothing.
+[[nodiscard]] std::vector<std::string> DataFolders(std::string_view home, std::string_view dataHome,
+                                                   std::string_view dataDirs);
+
+// The same out of this process's environment.
+[[nodiscard]] std::vector<std::string> DataFoldersOfEnvironment();
+
+// Every soundfont worth trying, best first: `configured` when it stands on the disk, the system's default,
+// then what lies in sounds/sf2, sounds/sf3 and soundfonts below `dataFolders`, by name.
+[[nodiscard]] std::vector<std::string> FindSoundfonts(const std::string& configured,
+                                                      const std::vector<std::string>& dataFolders);
+
+}  // namespace brevant

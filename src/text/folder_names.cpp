@@ -1,0 +1,110 @@
+#include "text/folder_names.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <ctime>
+#include <memory>
+
+#include "text/case_folding.h"
+#include "text/unicode.h"
+
+namespace brevant {
+
+namespace {
+
+// Time stamps of folders are as coarse as two seconds on some file systems.
+constexpr std::int64_t kStampGrainSeconds = 3;
+
+struct CloseFolder {
+  void operator()(DIR* folder) const { closedir(folder); }
+};
+
+const char* NativeName(const std::string& folder) {
+  return folder.empty() ? "." : folder.c_str();
+}
+
+std::uint32_t AddToHash(std::uint32_t hash, char16_t unit) {
+  return (hash ^ unit) * 16777619U;
+}
+
+// Empty for a name that is not UTF-8. Plain ASCII, nearly every name, is hashed without being converted.
+std::optional<std::uint32_t> FoldedHash(std::string_view name) {
+  constexpr std::uint32_t kSeed = 2166136261U;
+  std::uint32_t hash = kSeed;
+  const bool ascii = std::all_of(name.begin(), name.end(), [&hash](char byte) {
+    hash = AddToHash(hash, ToLower(static_cast<unsigned char>(byte)));
+    return static_cast<unsigned char>(byte) < 0x80;
+  });
+  if (ascii) return hash;
+
+  const std::optional<std::u16string> text = DecodeUtf8(name);
+  if (!text) return std::nullopt;
+  hash = kSeed;
+  for (const char16_t unit : *text) hash = AddToHash(hash, ToLower(unit));
+  return hash;
+}
+
+bool SameFolded(std::string_view a, std::string_view b) {
+  const std::optional<std::u16string> left = DecodeUtf8(a);
+  const std::optional<std::u16string> right = DecodeUtf8(b);
+  return left && right && EqualIgnoringCase(*left, *right);
+}
+
+}  // namespace
+
+TCFolderNames TCFolderNames::Read(const std::string& folder) {
+  TCFolderNames result;
+  // The stamp is taken first: a change while the names are read shows as a newer one afterwards.
+  result.stamp = StampOf(folder);
+  const std::unique_ptr<DIR, CloseFolder> handle(result.stamp ? opendir(NativeName(folder)) : nullptr);
+  if (!handle) return result;
+
+  result.settled = std::time(nullptr) - result.stamp->seconds > kStampGrainSeconds;
+  while (const dirent* entry = readdir(handle.get())) result.Add(entry->d_name);
+  std::sort(result.entries.begin(), result.entries.end(),
+            [](const Entry& a, const Entry& b) { return a.hash < b.hash; });
+  result.names.shrink_to_fit();
+  result.entries.shrink_to_fit();
+  return result;
+}
+
+bool TCFolderNames::StillHolds(const std::string& folder) const {
+  const std::optional<Stamp> now = StampOf(folder);
+  return stamp == now && (settled || !now);
+}
+
+std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {
+  std::vector<std::string> matches;
+  const std::optional<std::uint32_t> hash = FoldedHash(name);
+  if (!hash) return matches;
+
+  auto entry = std::lower_bound(entries.begin(), entries.end(), *hash,
+                                [](const Entry& a, std::uint32_t b) { return a.hash < b; });
+  for (; entry != entries.end() && entry->hash == *hash; ++entry) {
+    const std::string_view found(names.c_str() + entry->offset);
+    if (SameFolded(found, name)) matches.emplace_back(found);
+  }
+  std::sort(matches.begin(), matches.end(), [name](const std::string& a, const std::string& b) {
+    return (a == name) != (b == name) ? a == name : a < b;
+  });
+  return matches;
+}
+
+std::optional<TCFolderNames::Stamp> TCFolderNames::StampOf(const std::string& folder) {
+  struct stat status {};
+  if (stat(NativeName(folder), &status) != 0) return std::nullopt;
+  return Stamp{status.st_dev, status.st_ino, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+void TCFolderNames::Add(const char* name) {
+  const std::optional<std::uint32_t> hash = FoldedHash(name);
+  if (!hash) return;
+  entries.push_back({*hash, static_cast<std::uint32_t>(names.size())});
+  names.append(name).push_back('\0');
+}
+
+}  // namespace brevant

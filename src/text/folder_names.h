@@ -1,0 +1,54 @@
+// The names in one folder as they stood when it was read, found again without regard to case. Part of the
+// search for files in other upper and lower case.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brevant {
+
+class TCFolderNames {
+ public:
+  // Reads the folder ("" is the working folder). No names when it cannot be read. Names that are not UTF-8
+  // have no upper and lower case and are passed over.
+  [[nodiscard]] static TCFolderNames Read(const std::string& folder);
+
+  // True when the folder has certainly not changed since. A folder that was changed shortly before it was
+  // read may have changed again within the same tick of its time stamp: it counts as changed.
+  [[nodiscard]] bool StillHolds(const std::string& folder) const;
+
+  // The names equal to `name` without regard to case: `name` itself first, the others in byte order.
+  [[nodiscard]] std::vector<std::string> Matches(std::string_view name) const;
+
+  [[nodiscard]] std::size_t Count() const { return entries.size(); }
+
+ private:
+  // Which folder this is and when it last changed.
+  struct Stamp {
+    std::uint64_t device = 0;
+    std::uint64_t node = 0;
+    std::int64_t seconds = 0;
+    std::int64_t nanoseconds = 0;
+
+    friend bool operator==(const Stamp&, const Stamp&) = default;
+  };
+  struct Entry {
+    std::uint32_t hash = 0;    // of the folded name
+    std::uint32_t offset = 0;  // into `names`
+  };
+
+  [[nodiscard]] static std::optional<Stamp> StampOf(const std::string& folder);
+  void Add(const char* name);
+
+  // A folder may hold a hundred thousand files: one text and eight bytes a name, sorted by hash.
+  std::string names;
+  std::vector<Entry> entries;
+  std::optional<Stamp> stamp;
+  bool settled = false;
+};
+
+}  // namespace brevant

@@ -1,0 +1,85 @@
+#include "text/native_path.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "text/case_folding.h"
+#include "text/other_case.h"
+#include "text/unicode.h"
+
+namespace brevant {
+
+namespace {
+
+bool StartsWithDrive(std::u16string_view path) {
+  if (path.size() < 2 || path[1] != u':') return false;
+  const char16_t letter = ToLower(path[0]);
+  return letter >= u'a' && letter <= u'z';
+}
+
+bool HasLoneSurrogate(std::u16string_view text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if ((text[at] & 0xF800) != 0xD800) continue;
+    const bool pair = (text[at] & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
+    if (!pair) return true;
+    ++at;
+  }
+  return false;
+}
+
+std::string WithoutTrailingSlashes(std::string_view folder) {
+  return std::string(folder.substr(0, folder.find_last_not_of('/') + 1));
+}
+
+bool Exists(const std::string& native) {
+  struct stat status {};
+  return stat(native.c_str(), &status) == 0;
+}
+
+}  // namespace
+
+TCNativePaths::TCNativePaths(DriveFolders driveFolders) : drives(std::move(driveFolders)) {}
+
+std::string TCNativePaths::ToNative(std::u16string_view path) const {
+  // Neither can be part of a name here; with a replacement in its place, the text could name another file.
+  if (path.find(u'\0') != std::u16string_view::npos || HasLoneSurrogate(path)) return {};
+
+  std::string native;
+  if (StartsWithDrive(path)) {
+    const auto letter = static_cast<char>(ToLower(path[0]) - u'a' + u'A');
+    const auto drive = drives.find(letter);
+    if (drive != drives.end() && !drive->second.empty()) {
+      path.remove_prefix(2);
+      native = WithoutTrailingSlashes(drive->second);
+      const bool needsSlash = path.empty() ? native.empty() : path.front() != u'\\' && path.front() != u'/';
+      if (needsSlash) native.push_back('/');
+    }
+  }
+  std::string rest = EncodeUtf8(path);
+  std::replace(rest.begin(), rest.end(), '\\', '/');
+  return native + rest;
+}
+
+std::optional<std::u16string> TCNativePaths::FromNative(std::string_view native) {
+  constexpr std::string_view kUnknownToTheModel("\\\"\r\n\0", 5);
+  if (native.find_first_of(kUnknownToTheModel) != std::string_view::npos) return std::nullopt;
+  std::optional<std::u16string> path = DecodeUtf8(native);
+  // A relative name such as "C:/a.mp3" would come back as a file on a drive.
+  if (!path || StartsWithDrive(*path)) return std::nullopt;
+  std::replace(path->begin(), path->end(), u'/', u'\\');
+  return path;
+}
+
+std::string TCNativePaths::FindOnDisk(std::u16string_view path) const {
+  std::string native = ToNative(path);
+  if (Exists(native)) return native;
+  for (std::string& found : TCOtherCase().Find(WithoutTrailingSlashes(native))) {
+    if (Exists(found)) return std::move(found);
+  }
+  return native;
+}
+
+}  // namespace brevant

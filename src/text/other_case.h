@@ -1,0 +1,62 @@
+// Finds what stands on the disk under a name that differs in upper and lower case only, in the file's name or
+// in any folder above it. Used behind TCDiskFiles and TCNativePaths; one thread at a time.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "text/folder_names.h"
+
+namespace brevant {
+
+class TCOtherCase {
+ public:
+  using Clock = std::function<std::chrono::steady_clock::time_point()>;
+
+  // How long a folder's names are taken as they were read. After that they count as long as the folder's time
+  // stamp has not moved.
+  static constexpr std::chrono::seconds kTrust{1};
+
+  explicit TCOtherCase(Clock clock = std::chrono::steady_clock::now);
+
+  // The native names of everything that is `native` but for upper and lower case, `native` itself included if
+  // it is there; the nearest first. Usually none.
+  [[nodiscard]] std::vector<std::string> Find(std::string_view native);
+
+  // For after a change that this program made itself.
+  void Forget();
+
+ private:
+  struct HashText {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+  };
+  template <class Value>
+  using MapByName = std::unordered_map<std::string, Value, HashText, std::equal_to<>>;
+
+  struct Names {
+    TCFolderNames names;
+    std::chrono::steady_clock::time_point checked;
+  };
+  // The folders that a folder's name as written can mean: itself, and its likes in other case.
+  struct Folders {
+    std::vector<std::string> found;
+    std::chrono::steady_clock::time_point checked;
+  };
+
+  const TCFolderNames& NamesIn(const std::string& folder);
+  const std::vector<std::string>& FoldersFor(std::string_view folder);
+  [[nodiscard]] std::vector<std::string> ReadFoldersFor(std::string_view folder);
+
+  Clock clock;
+  MapByName<Names> namesByFolder;
+  MapByName<Folders> foldersByWrittenName;
+  std::size_t nameCount = 0;  // in all of namesByFolder
+};
+
+}  // namespace brevant

@@ -1,0 +1,129 @@
+#include "text/text_lines.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+
+#include "text/unicode.h"
+
+namespace brevant {
+
+namespace {
+
+constexpr char16_t kReturn = u'\r';
+constexpr char16_t kMark = u'\uFEFF';
+
+// The two sources of units that lines are cut from.
+
+class Utf16Units {
+ public:
+  static constexpr bool kDropsMarks = true;
+
+  explicit Utf16Units(std::string_view source) : bytes(source) {}
+  [[nodiscard]] std::size_t size() const { return bytes.size() / 2; }
+  [[nodiscard]] char16_t operator[](std::size_t index) const {
+    const auto low = static_cast<unsigned char>(bytes[2 * index]);
+    const auto high = static_cast<unsigned char>(bytes[2 * index + 1]);
+    return static_cast<char16_t>(low | high << 8);
+  }
+
+ private:
+  std::string_view bytes;
+};
+
+class DecodedUnits : public std::u16string_view {
+ public:
+  static constexpr bool kDropsMarks = false;
+
+  explicit DecodedUnits(const std::u16string& text) : std::u16string_view(text) {}
+};
+
+template <class Units>
+std::u16string Slice(const Units& units, std::size_t begin, std::size_t end) {
+  std::u16string line(end - begin, u'\0');
+  for (std::size_t i = begin; i < end; ++i) line[i - begin] = units[i];
+  return line;
+}
+
+// How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
+template <class Units>
+std::size_t CountLines(const Units& units) {
+  std::size_t lines = 0;
+  for (std::size_t at = 0; at < units.size(); ++at) {
+    if (units[at] != kReturn) continue;
+    ++lines;
+    ++at;
+  }
+  return std::max<std::size_t>(lines, 1);
+}
+
+template <class Units>
+TextLines SplitLines(const Units& units) {
+  TextLines lines;
+  lines.reserve(CountLines(units));
+  bool atStart = Units::kDropsMarks;  // no character but marks and line ends has been seen
+  std::size_t at = 0;
+  while (at < units.size()) {
+    std::size_t begin = at;
+    while (at < units.size() && units[at] != kReturn) ++at;
+    const bool finished = at < units.size();
+
+    if (atStart) {
+      while (begin < at && units[begin] == kMark) ++begin;
+      atStart = begin == at;
+    }
+    if (finished || (lines.empty() && begin < at)) lines.push_back(Slice(units, begin, at));
+    at += 2;  // the carriage return and the unit it swallows
+  }
+  return lines;
+}
+
+}  // namespace
+
+TextLines SplitUtf16Lines(std::string_view bytes) {
+  return SplitLines(Utf16Units(bytes));
+}
+
+TextLines SplitAnsiLines(std::string_view bytes) {
+  const std::u16string text = DecodeAnsi(bytes);
+  return SplitLines(DecodedUnits(text));
+}
+
+std::string JoinUtf16Lines(const TextLines& lines) {
+  std::size_t units = 0;
+  for (const std::u16string& line : lines) units += line.size() + 2;
+
+  std::string bytes;
+  bytes.reserve(2 * units);
+  const auto put = [&bytes](std::u16string_view text) {
+    for (const char16_t unit : text) {
+      bytes.push_back(static_cast<char>(unit & 0xFF));
+      bytes.push_back(static_cast<char>(unit >> 8));
+    }
+  };
+  for (const std::u16string& line : lines) {
+    put(line);
+    put(u"\r\n");
+  }
+  return bytes;
+}
+
+bool ReadTextLines(TCFileSystem& files, std::u16string_view path, TextLines& lines) {
+  lines.clear();
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
+  if (bytes) lines = SplitUtf16Lines(*bytes);
+  return bytes.has_value();
+}
+
+bool ReadAnsiTextLines(TCFileSystem& files, std::u16string_view path, TextLines& lines) {
+  lines.clear();
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
+  if (bytes) lines = SplitAnsiLines(*bytes);
+  return bytes.has_value();
+}
+
+bool WriteTextLines(TCFileSystem& files, std::u16string_view path, const TextLines& lines) {
+  return files.ReplaceFile(path, JoinUtf16Lines(lines)) && !lines.empty();
+}
+
+}  // namespace brevant

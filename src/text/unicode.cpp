@@ -1,0 +1,129 @@
+#include "text/unicode.h"
+
+#include <array>
+#include <cstdint>
+
+namespace brevant {
+
+namespace {
+
+constexpr char16_t kReplacement = u'\uFFFD';
+
+bool IsHighSurrogate(char16_t unit) {
+  return (unit & 0xFC00) == 0xD800;
+}
+bool IsLowSurrogate(char16_t unit) {
+  return (unit & 0xFC00) == 0xDC00;
+}
+
+// 0x80 to 0x9F; the rest of the code page is the same as Latin-1. Where it has no character the C1 control of
+// the same number stands, as the platform's own conversion gives it.
+constexpr std::array<char16_t, 32> kWindows1252 = {
+    u'\u20AC', 0x0081,    u'\u201A', u'\u0192', u'\u201E', u'\u2026', u'\u2020', u'\u2021',
+    u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', 0x008D,    u'\u017D', 0x008F,
+    0x0090,    u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
+    u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', 0x009D,    u'\u017E', u'\u0178'};
+
+// The length of the sequence that `lead` opens, and the least value that needs so many bytes.
+struct Sequence {
+  std::size_t length = 0;  // 0: no lead byte
+  std::uint32_t leadBits = 0;
+  std::uint32_t least = 0;
+};
+
+Sequence SequenceOf(std::uint8_t lead) {
+  if ((lead & 0xE0) == 0xC0) return {2, lead & 0x1FU, 0x80};
+  if ((lead & 0xF0) == 0xE0) return {3, lead & 0x0FU, 0x800};
+  if ((lead & 0xF8) == 0xF0) return {4, lead & 0x07U, 0x10000};
+  return {};
+}
+
+void AppendCodePoint(std::u16string& text, std::uint32_t codePoint) {
+  if (codePoint < 0x10000) {
+    text.push_back(static_cast<char16_t>(codePoint));
+    return;
+  }
+  text.push_back(static_cast<char16_t>(0xD800 + ((codePoint - 0x10000) >> 10)));
+  text.push_back(static_cast<char16_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF)));
+}
+
+void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
+  const auto put = [&bytes](std::uint32_t value) { bytes.push_back(static_cast<char>(value)); };
+  if (codePoint < 0x80) {
+    put(codePoint);
+  } else if (codePoint < 0x800) {
+    put(0xC0 | (codePoint >> 6));
+    put(0x80 | (codePoint & 0x3F));
+  } else if (codePoint < 0x10000) {
+    put(0xE0 | (codePoint >> 12));
+    put(0x80 | ((codePoint >> 6) & 0x3F));
+    put(0x80 | (codePoint & 0x3F));
+  } else {
+    put(0xF0 | (codePoint >> 18));
+    put(0x80 | ((codePoint >> 12) & 0x3F));
+    put(0x80 | ((codePoint >> 6) & 0x3F));
+    put(0x80 | (codePoint & 0x3F));
+  }
+}
+
+}  // namespace
+
+std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
+  std::u16string text;
+  text.reserve(bytes.size());
+  for (std::size_t at = 0; at < bytes.size();) {
+    const auto lead = static_cast<std::uint8_t>(bytes[at]);
+    if (lead < 0x80) {
+      text.push_back(lead);
+      ++at;
+      continue;
+    }
+    const Sequence sequence = SequenceOf(lead);
+    if (sequence.length == 0 || sequence.length > bytes.size() - at) return std::nullopt;
+    std::uint32_t codePoint = sequence.leadBits;
+    for (std::size_t next = 1; next < sequence.length; ++next) {
+      const auto byte = static_cast<std::uint8_t>(bytes[at + next]);
+      if ((byte & 0xC0) != 0x80) return std::nullopt;
+      codePoint = codePoint << 6 | (byte & 0x3FU);
+    }
+    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    if (codePoint < sequence.least || codePoint > 0x10FFFF || surrogate) return std::nullopt;
+    AppendCodePoint(text, codePoint);
+    at += sequence.length;
+  }
+  return text;
+}
+
+std::u16string DecodeWindows1252(std::string_view bytes) {
+  std::u16string text;
+  text.reserve(bytes.size());
+  for (const char byte : bytes) {
+    const auto value = static_cast<std::uint8_t>(byte);
+    const bool differs = value >= 0x80 && value <= 0x9F;
+    text.push_back(differs ? kWindows1252[value - 0x80U] : value);
+  }
+  return text;
+}
+
+std::u16string DecodeAnsi(std::string_view bytes) {
+  if (std::optional<std::u16string> text = DecodeUtf8(bytes)) return *std::move(text);
+  return DecodeWindows1252(bytes);
+}
+
+std::string EncodeUtf8(std::u16string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const char16_t unit = text[at];
+    if (IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1])) {
+      const std::uint32_t high = unit & 0x3FFU;
+      const std::uint32_t low = text[++at] & 0x3FFU;
+      AppendUtf8(bytes, 0x10000 + (high << 10 | low));
+    } else {
+      AppendUtf8(bytes, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
+    }
+  }
+  return bytes;
+}
+
+}  // namespace brevant
