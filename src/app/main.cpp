@@ -8,11 +8,11 @@
 #include "app/brevant_app.h"
 #include "app/command_line.h"
 #include "app/drive_folders.h"
-#include "app/libraries.h"
 #include "app/picture_icon.h"
 #include "app/stage_style.h"
 #include "app/termination_signals.h"
 #include "playback/gst/gst_player.h"
+#include "playback/gst/library_versions.h"
 #include "text/disk_files.h"
 
 namespace {
@@ -29,6 +29,12 @@ TCStartFile StartFileOf(const TCCommandLine& line) {
   std::error_code ignored;
   const std::string workingFolder = std::filesystem::current_path(ignored).native();
   return {true, *line.file, ModelPathOf(*line.file, workingFolder)};
+}
+
+QStringList LibraryNames() {
+  QStringList names{QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion()))};
+  for (const std::string& name : LibraryVersions()) names.append(QString::fromStdString(name));
+  return names;
 }
 
 }  // namespace
@@ -60,8 +66,9 @@ int main(int argc, char** argv) {
 
   const QString layoutFile = QFile::decodeName(paths.ToNative(folders.settings + u"Layout.ini").c_str());
   TCBrevantApp program({files, player, player, paths, folders, layoutFile, LibraryNames()});
-  TCTerminationSignals signals;
-  QObject::connect(&signals, &TCTerminationSignals::endWanted, &program, &TCBrevantApp::EndSession);
+  TCTerminationSignals terminationSignals;
+  QObject::connect(&terminationSignals, &TCTerminationSignals::endWanted, &program,
+                   &TCBrevantApp::EndSession);
   program.InitInstance(StartFileOf(commandLine));
   return QApplication::exec();
 }
