@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -84,6 +86,14 @@ bool TCDiskFiles::ReplaceFile(std::u16string_view path, std::string_view bytes) 
   const bool replaced = ReplaceFileSafely(Locate(native), bytes);
   otherCase.Forget();
   return replaced;
+}
+
+bool TCDiskFiles::CopyFile(std::u16string_view from, std::u16string_view to) {
+  std::error_code failure;
+  const bool copied = std::filesystem::copy_file(Locate(paths.ToNative(from)), Locate(paths.ToNative(to)),
+                                                 std::filesystem::copy_options::overwrite_existing, failure);
+  otherCase.Forget();
+  return copied && !failure;
 }
 
 bool TCDiskFiles::MakeFolder(std::u16string_view path) {

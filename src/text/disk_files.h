@@ -27,6 +27,8 @@ class TCDiskFiles final : public TCFileSystem {
   // content is written beside the old.
   [[nodiscard]] bool ReplaceFile(std::u16string_view path, std::string_view bytes) override;
 
+  [[nodiscard]] bool CopyFile(std::u16string_view from, std::u16string_view to) override;
+
   // New folders can be entered by the user alone: what the program makes of its own is the user's.
   [[nodiscard]] bool MakeFolder(std::u16string_view path) override;
   bool DeleteFile(std::u16string_view path) override;

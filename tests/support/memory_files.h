@@ -20,6 +20,7 @@ class TCMemoryFiles final : public TCFileSystem {
  public:
   // Switches. A file made unreadable is still there, but it can neither be opened nor found.
   bool failWrites = false;
+  bool failCopies = false;
   bool failFolders = false;
   bool failDeletes = false;
 
@@ -45,6 +46,7 @@ class TCMemoryFiles final : public TCFileSystem {
 
   void Remove(std::u16string_view path) { files.erase(ToLower(path)); }
   void MakeUnreadable(std::u16string_view path) { unreadable.insert(ToLower(path)); }
+  void MakeUnwritable(std::u16string_view path) { unwritable.insert(ToLower(path)); }
   void MakeReadable(std::u16string_view path) { unreadable.erase(ToLower(path)); }
 
   // The bytes that stand there now, readable or not; empty when there is no such file.
@@ -77,8 +79,15 @@ class TCMemoryFiles final : public TCFileSystem {
 
   [[nodiscard]] bool ReplaceFile(std::u16string_view path, std::string_view bytes) override {
     writes.emplace_back(path);
-    if (failWrites) return false;
+    if (failWrites || unwritable.contains(ToLower(path))) return false;
     files[ToLower(path)] = std::string(bytes);
+    return true;
+  }
+
+  [[nodiscard]] bool CopyFile(std::u16string_view from, std::u16string_view to) override {
+    const std::string* bytes = Readable(from);
+    if (failCopies || bytes == nullptr) return false;
+    files[ToLower(to)] = *bytes;
     return true;
   }
 
@@ -103,6 +112,7 @@ class TCMemoryFiles final : public TCFileSystem {
 
   std::map<std::u16string, std::string> files;
   std::set<std::u16string> unreadable;
+  std::set<std::u16string> unwritable;
 };
 
 }  // namespace brevant

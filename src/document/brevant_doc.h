@@ -1,0 +1,93 @@
+// The document: the open file's name and modified mark, and the handlers of the set-list, transport and
+// option commands. It owns no songs; those live in the application record. User-interface thread only.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "document/frame_display.h"
+#include "document/playlist_presenter.h"
+#include "document/prompts.h"
+#include "model/app_record.h"
+#include "model/document_file.h"
+#include "model/message_display.h"
+#include "model/program_folders.h"
+#include "playback/transport.h"
+#include "resources/command_id.h"
+
+namespace brevant {
+
+// Everything the document works with. All of it outlives the document.
+struct TCDocumentParts {
+  TCAppRecord& record;
+  TCFileSystem& files;
+  TCPlayer* player = nullptr;  // null when there is none
+  TCPlaylistDisplay& playlistView;
+  TCMessageDisplay& messages;
+  TCFrameDisplay& frame;
+  TCPrompts& prompts;
+  TCProgramFolders folders;
+};
+
+class TCBrevantDoc {
+ public:
+  explicit TCBrevantDoc(TCDocumentParts documentParts);
+
+  // Each returns true in every case: a file that cannot be read opens as an empty document of that name, and
+  // a failed save is silent (its lines go to the recovery folder).
+  bool OnNewDocument();
+  bool OnOpenDocument(std::u16string_view path);
+  bool OnSaveDocument(std::u16string_view path);
+
+  // Opens `path` unless the user holds on to unsaved changes; the open file is read again.
+  void OpenDocumentFile(std::u16string_view path);
+
+  // True when nothing stands in the way of losing the document: no changes, saved, or given up by the user.
+  [[nodiscard]] bool SaveModified();
+
+  // The session ends and nobody can be asked: unsaved changes go to the recovery folder.
+  void KeepUnsavedChanges();
+
+  // The path as opened or saved; empty for a new document.
+  [[nodiscard]] const std::u16string& GetPathName() const { return pathName; }
+  [[nodiscard]] bool IsModified() const { return modified; }
+  void SetModified();
+
+  // Runs a command that is the document's. False when it is not.
+  bool OnCommand(TCCommandId command);
+  // True when the document handles `command` at all.
+  [[nodiscard]] static bool Handles(TCCommandId command);
+  // The check mark of an option; false for every other command.
+  [[nodiscard]] bool IsChecked(TCCommandId command) const;
+
+  // A row of the playlist was double-clicked (-1: none): it becomes current and may start.
+  void PickRow(std::int32_t row);
+  // Every 300 ms.
+  void OnPlayTimerTick() { transport.OnPlayTimerTick(); }
+
+  [[nodiscard]] const TCTransport& Transport() const { return transport; }
+  [[nodiscard]] TCPlaylistPresenter& Presenter() { return presenter; }
+
+ private:
+  void ClearViewsAndStore();
+  void ShowBanner();
+  void ShowTitle();
+  void KeepRecoveryCopy(std::u16string_view path);
+  void RunTransportCommand(TCCommandId command);
+  void RunFileCommand(TCCommandId command);
+  void ToggleOption(TCCommandId command);
+  void Cancel();
+  // False when the user cancelled.
+  bool Save();
+  bool SaveAs();
+
+  TCDocumentParts parts;
+  TCDocumentFile documentFile;
+  TCPlaylistPresenter presenter;
+  TCTransport transport;
+  std::u16string pathName;
+  bool modified = false;
+};
+
+}  // namespace brevant

@@ -1,0 +1,99 @@
+#include "document/playlist_presenter.h"
+
+#include "model/play_marks.h"
+#include "resources/string_table.h"
+#include "text/numbers.h"
+
+namespace brevant {
+
+TCPlaylistPresenter::TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView)
+    : record(appRecord), view(playlistView) {}
+
+void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist) {
+  const TCPlayList* shown = record.setLists.PlaylistAt(group, playlist);
+  // An emptied playlist stays on the screen until another one is shown.
+  if (shown == nullptr || shown->items.empty()) return;
+  record.setLists.RecordLastShownNames();
+
+  const bool sameAsBefore = group == shownGroup && playlist == shownPlaylist;
+  shownGroup = group;
+  shownPlaylist = playlist;
+  if (UpdatePlayMarks(record.setLists)) rowToMove = record.setLists.currentSong;
+
+  std::vector<TCPlaylistRow> rows;
+  rows.reserve(shown->items.size());
+  std::int32_t row = 0;
+  for (const TCPlayListItem& song : shown->items) rows.push_back({TextsOf(row++, song), ColoursOf(song)});
+  ShowHeader(*shown);
+  view.ShowRows(std::move(rows), sameAsBefore ? TCShowRows::KeepPlace : TCShowRows::Afresh);
+}
+
+void TCPlaylistPresenter::ShowHeader(const TCPlayList& playlist) {
+  std::u16string header = playlist.name;
+  header += u" - ";
+  header += TextOf(TCTextId::TotalPlaylistTime);
+  header += u": ";
+  header += playlist.totalTime;
+  view.SetPlaylistHeader(header);
+}
+
+void TCPlaylistPresenter::Recolour() {
+  if (!UpdatePlayMarks(record.setLists)) return;
+  ShowColours();
+  rowToMove = record.setLists.currentSong;
+}
+
+void TCPlaylistPresenter::ShowColours() {
+  const TCPlayList* playlist = record.setLists.CurrentPlaylist();
+  if (playlist == nullptr) return;
+  std::vector<TCRowColours> colours;
+  colours.reserve(playlist->items.size());
+  for (const TCPlayListItem& song : playlist->items) colours.push_back(ColoursOf(song));
+  view.SetRowColours(std::move(colours));
+}
+
+void TCPlaylistPresenter::HighlightCurrentSong() {
+  Recolour();
+  if (record.setLists.IsValidSongIndex(record.setLists.currentSong)) {
+    view.ScrollToRow(record.setLists.currentSong);
+  }
+}
+
+void TCPlaylistPresenter::RefreshSongRow(std::int32_t row, const TCPlayListItem& song) {
+  view.SetRowTexts(row, TextsOf(row, song));
+}
+
+void TCPlaylistPresenter::SetSongTime(std::int32_t row, std::u16string_view time) {
+  if (!time.empty()) view.SetRowTime(row, time);
+}
+
+void TCPlaylistPresenter::RefreshPlaylistTotal() {
+  if (const TCPlayList* playlist = record.setLists.CurrentPlaylist()) ShowHeader(*playlist);
+}
+
+void TCPlaylistPresenter::FocusPlaylist() {
+  view.TakeFocus();
+}
+
+void TCPlaylistPresenter::Clear() {
+  shownGroup = -1;
+  shownPlaylist = -1;
+  rowToMove = -1;
+  view.ClearRows();
+}
+
+TCRowColours TCPlaylistPresenter::ColoursOf(const TCPlayListItem& song) const {
+  return {record.settings.backgroundColour, RowTextColour(song.flags, record.settings)};
+}
+
+TCRowTexts TCPlaylistPresenter::TextsOf(std::int32_t row, const TCPlayListItem& song) {
+  TCRowTexts texts;
+  texts.number = FormatDecimal(std::int64_t{row} + 1);
+  texts.status = StatusText(song.status);
+  if (!song.lyrics.Empty()) texts.status += TextOf(TCTextId::LyricsMark);
+  texts.time = song.time;
+  texts.name = song.fileName;
+  return texts;
+}
+
+}  // namespace brevant

@@ -1,0 +1,47 @@
+// Shows the set lists' current playlist in the playlist view: which rows, which texts, which colours. Stands
+// between the transport and document, which say when, and the view, which draws. User-interface thread only.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "document/frame_display.h"
+#include "document/playlist_display.h"
+#include "model/app_record.h"
+#include "playback/set_list_display.h"
+
+namespace brevant {
+
+class TCPlaylistPresenter final : public TCSetListDisplay {
+ public:
+  TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView);
+
+  void ShowPlaylist(std::int32_t group, std::int32_t playlist) override;
+  void HighlightCurrentSong() override;
+  void RefreshSongRow(std::int32_t row, const TCPlayListItem& song) override;
+  void SetSongTime(std::int32_t row, std::u16string_view time) override;
+  void RefreshPlaylistTotal() override;
+  void FocusPlaylist() override;
+
+  // Sets the play marks after the current song and redraws the colours. Nothing when no song is current.
+  void Recolour();
+  // Redraws the colours after an option changed them, also when no song is current.
+  void ShowColours();
+  void Clear();
+
+  // The row of the current song at the last recolouring; -1 before the first.
+  [[nodiscard]] std::int32_t RowToMove() const { return rowToMove; }
+
+ private:
+  [[nodiscard]] TCRowColours ColoursOf(const TCPlayListItem& song) const;
+  [[nodiscard]] static TCRowTexts TextsOf(std::int32_t row, const TCPlayListItem& song);
+  void ShowHeader(const TCPlayList& playlist);
+
+  TCAppRecord& record;
+  TCPlaylistDisplay& view;
+  std::int32_t shownGroup = -1;
+  std::int32_t shownPlaylist = -1;
+  std::int32_t rowToMove = -1;
+};
+
+}  // namespace brevant

@@ -1,0 +1,35 @@
+#include "document/recovery_copy.h"
+
+#include "text/numbers.h"
+#include "text/path_parts.h"
+
+namespace brevant {
+
+namespace {
+
+constexpr int kMostCopies = 1000;  // of one name; a disk that fails this often needs no further copies
+
+std::u16string CopyPath(std::u16string_view folder, std::u16string_view fileName, int copy) {
+  std::u16string path(folder);
+  if (copy == 1) return path += fileName;
+  path += PathWithoutExtension(fileName);
+  path += u" (" + FormatDecimal(copy) + u")";
+  if (const std::u16string extension = ExtensionPart(fileName); !extension.empty()) path += u'.' + extension;
+  return path;
+}
+
+}  // namespace
+
+std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder,
+                                 std::u16string_view fileName, const TextLines& lines) {
+  if (fileName.empty()) fileName = u"Brevant.brv";
+  if (!files.MakeFolder(folder)) return {};
+  for (int copy = 1; copy <= kMostCopies; ++copy) {
+    const std::u16string path = CopyPath(folder, fileName, copy);
+    if (files.FileExists(path)) continue;
+    return WriteTextLines(files, path, lines) ? path : std::u16string();
+  }
+  return {};
+}
+
+}  // namespace brevant

@@ -1,0 +1,19 @@
+// Where the lines of a document go whose save failed: into a folder of the user's own, under a name that is
+// not taken yet, so that nothing said and nothing lost go together.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "text/file_system.h"
+#include "text/text_lines.h"
+
+namespace brevant {
+
+// `folder` ends with a backslash and is made when it is missing; `fileName` is the document's, "Brevant.brv"
+// when empty. The copy is "show.brv", or "show (2).brv" and so on when that is taken. Its path, or empty when
+// this failed too.
+std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder,
+                                 std::u16string_view fileName, const TextLines& lines);
+
+}  // namespace brevant

@@ -1,0 +1,162 @@
+#include "model/document_file.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "lyrics/lyric_file.h"
+#include "model/flat_line.h"
+#include "model/group_list_file.h"
+#include "model/media_check.h"
+#include "text/case_folding.h"
+#include "text/path_parts.h"
+
+namespace brevant {
+
+namespace {
+
+bool IsFolderForm(const TextLines& lines) {
+  return !lines.empty() &&
+         ToLower(lines.front()).find(TextOf(TCTextId::GroupListExtension)) != std::u16string::npos;
+}
+
+std::u16string ResolveGroupListLine(std::u16string_view documentFolder, std::u16string_view line) {
+  const std::u16string folder = FolderPart(line);
+  if (!folder.empty() && folder.find(u".\\") == std::u16string::npos) return std::u16string(line);
+  std::u16string path(documentFolder);
+  path += folder.empty() ? line : line.substr(2);  // ".\Tour.brvgl"
+  return path;
+}
+
+// Finds the group and playlist of each line by name. A set list of 100,000 songs may name thousands of
+// playlists, so names are looked up and not searched.
+class NameIndex {
+ public:
+  explicit NameIndex(TCSetListStore& setLists) : store(setLists) {}
+
+  TCPlayList& PlaylistFor(const TCFlatLine& line) {
+    const auto [groupEntry, isNewGroup] = groups.try_emplace(ToLower(line.group));
+    GroupNames& group = groupEntry->second;
+    if (isNewGroup) {
+      group.index = store.groups.size();
+      store.groups.emplace_back().name = line.group;
+    }
+    std::vector<TCPlayList>& playlists = store.groups[group.index].playlists;
+    const auto [entry, isNewPlaylist] = group.playlists.try_emplace(ToLower(line.playlist), playlists.size());
+    if (isNewPlaylist) playlists.emplace_back().name = line.playlist;
+    return playlists[entry->second];
+  }
+
+ private:
+  struct GroupNames {
+    std::size_t index = 0;
+    std::unordered_map<std::u16string, std::size_t> playlists;
+  };
+
+  TCSetListStore& store;
+  std::unordered_map<std::u16string, GroupNames> groups;  // by lower-cased name
+};
+
+}  // namespace
+
+TCDocumentFile::TCDocumentFile(TCFileSystem& fileSystem, TCSetListStore& setLists,
+                               TCMessageDisplay& messageDisplay)
+    : files(fileSystem), store(setLists), messages(messageDisplay) {}
+
+void TCDocumentFile::SetDocumentPath(std::u16string_view path) {
+  store.documentFileName = FileNamePart(path);
+  store.documentFolder = FolderPart(path);
+  store.documentExtension = ExtensionPart(path);
+}
+
+bool TCDocumentFile::OpenSetListDocument(std::u16string_view path) {
+  TextLines lines;
+  if (!ReadTextLines(files, path, lines)) return false;
+  if (lines.empty()) return true;
+  SetDocumentPath(path);
+  if (IsFolderForm(lines)) {
+    LoadFolderDocument(path);  // what of it could be read is the document
+    return true;
+  }
+  return LoadFlatDocument(lines);
+}
+
+bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
+  TextLines lines;
+  if (!ReadTextLines(files, path, lines)) return false;
+  if (lines.empty()) return true;
+  SetDocumentPath(path);
+
+  store.groups.resize(lines.size());
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    TCPlayGroups& group = store.groups[i];
+    const std::u16string groupListPath = ResolveGroupListLine(store.documentFolder, lines[i]);
+    store.SetGroupFileInfo(static_cast<std::int32_t>(i), groupListPath);
+    if (LoadGroupListFile(files, store, messages, group, groupListPath)) {
+      group.folder = FolderPart(lines[i]);
+    } else {
+      messages.AppendMessage(TCTextId::UnableToLoadGroupList, group.name);
+    }
+  }
+  return true;
+}
+
+bool TCDocumentFile::LoadFlatDocument(const TextLines& lines) {
+  store.groups.clear();
+  NameIndex names(store);
+  TCPlayListItem previous;  // the songs of one folder stand together and share its name
+  for (const std::u16string& text : lines) {
+    const TCFlatLine line = ParseFlatLine(text);
+    TCPlayListItem song;
+    song.SetPath(line.path, &previous);
+    song.time = line.time;
+    song.status = SongFileStatus(files, line.path);
+    LoadLyrics(files, line.path, song.lyrics);
+    previous.folder = song.folder;
+    names.PlaylistFor(line).items.push_back(std::move(song));
+  }
+  for (TCPlayGroups& group : store.groups) {
+    for (TCPlayList& playlist : group.playlists) playlist.items.shrink_to_fit();
+  }
+  return true;
+}
+
+TextLines TCDocumentFile::FlatLines() const {
+  TextLines lines;
+  for (const TCPlayGroups& group : store.groups) {
+    for (const TCPlayList& playlist : group.playlists) {
+      for (const TCPlayListItem& song : playlist.items) {
+        lines.push_back(FormatFlatLine(group.name, playlist.name, song));
+      }
+    }
+  }
+  return lines;
+}
+
+bool TCDocumentFile::SaveSetListDocument(std::u16string_view path) {
+  SetDocumentPath(path);
+  store.documentExtension = ToLower(store.documentExtension);
+  if (store.groups.empty()) return false;
+  const TextLines lines = FlatLines();
+  if (lines.empty()) return false;
+  return KeepForeignFile(path) && WriteTextLines(files, path, lines);
+}
+
+bool TCDocumentFile::KeepForeignFile(std::u16string_view path) {
+  if (!files.FileExists(path)) return true;
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
+  if (bytes && IsWholeDocument(*bytes)) return true;
+  return files.CopyFile(path, std::u16string(path) + u'~');
+}
+
+bool IsWholeDocument(std::string_view bytes) {
+  const TextLines lines = SplitUtf16Lines(bytes);
+  const std::string_view mark = "\xFF\xFE";
+  while (bytes.substr(0, mark.size()) == mark) bytes.remove_prefix(mark.size());
+  if (JoinUtf16Lines(lines) != bytes) return false;  // an unended line, an odd byte, a lone carriage return
+  const bool folderForm = IsFolderForm(lines);
+  return std::all_of(lines.begin(), lines.end(), [folderForm](const std::u16string& line) {
+    return line.find(u'\n') == std::u16string::npos && (folderForm || IsWholeFlatLine(line));
+  });
+}
+
+}  // namespace brevant

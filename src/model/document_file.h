@@ -1,0 +1,48 @@
+// Document files (.brv). Two forms are read: the flat form, one line a song, which is also what is written,
+// and the folder form, one group list file a line. Fills and reads the set-list store; user-interface thread
+// only.
+#pragma once
+
+#include <string_view>
+
+#include "model/message_display.h"
+#include "model/set_list_store.h"
+#include "text/file_system.h"
+#include "text/text_lines.h"
+
+namespace brevant {
+
+class TCDocumentFile {
+ public:
+  TCDocumentFile(TCFileSystem& fileSystem, TCSetListStore& setLists, TCMessageDisplay& messageDisplay);
+
+  // Into a store that was cleared before. False when the file cannot be read; a file without lines is an
+  // empty document. What could be read is kept, whatever is missing beside it.
+  bool OpenSetListDocument(std::u16string_view path);
+
+  // A first line with "brvgl" anywhere in it makes a document of the folder form.
+  bool LoadFolderDocument(std::u16string_view path);
+  bool LoadFlatDocument(const TextLines& lines);
+
+  // Writes the flat form. False when that failed, and also when there is no song to write: the file is then
+  // left as it was. A file that this program could not have read whole is kept beside it as "NAME.brv~"
+  // first.
+  bool SaveSetListDocument(std::u16string_view path);
+
+  // The lines that a save writes, in the order group, playlist, song.
+  [[nodiscard]] TextLines FlatLines() const;
+
+ private:
+  void SetDocumentPath(std::u16string_view path);
+  [[nodiscard]] bool KeepForeignFile(std::u16string_view path);
+
+  TCFileSystem& files;
+  TCSetListStore& store;
+  TCMessageDisplay& messages;
+};
+
+// True when reading `bytes` as a document loses nothing: UTF-16, every line ended, nothing but songs or group
+// list files in it.
+[[nodiscard]] bool IsWholeDocument(std::string_view bytes);
+
+}  // namespace brevant

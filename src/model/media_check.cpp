@@ -1,0 +1,43 @@
+#include "model/media_check.h"
+
+#include <algorithm>
+
+#include "text/case_folding.h"
+#include "text/path_parts.h"
+#include "text/quoted_words.h"
+
+namespace brevant {
+
+bool IsValidMediaExtension(TCSetListStore& store, std::u16string_view extension) {
+  if (extension.empty()) return false;
+  store.validMediaExtensions = ToLower(store.validMediaExtensions);
+  const std::vector<std::u16string> words = SplitQuotedWords(store.validMediaExtensions);
+  return std::find(words.begin(), words.end(), ToLower(extension)) != words.end();
+}
+
+TCSongStatus SongFileStatus(TCFileSystem& files, std::u16string_view path) {
+  return files.FileExists(path) ? TCSongStatus::Found : TCSongStatus::NotFound;
+}
+
+void CheckSongFile(TCFileSystem& files, TCPlayListItem& song) {
+  song.status = SongFileStatus(files, song.FullPath());
+}
+
+void SetFolderForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view folder) {
+  const TCSharedText sharedFolder{std::u16string(folder)};
+  for (TCPlayListItem& song : playlist.items) {
+    song.folder = sharedFolder;
+    CheckSongFile(files, song);
+  }
+}
+
+void SetExtensionForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view fileName) {
+  const std::u16string extension = ExtensionPart(fileName);
+  for (TCPlayListItem& song : playlist.items) {
+    song.fileName = ReplaceExtension(song.fileName, extension);
+    song.extension = extension;
+    CheckSongFile(files, song);
+  }
+}
+
+}  // namespace brevant

@@ -1,0 +1,73 @@
+// What a musician performs from: songs in playlists, playlists in groups. Plain values: assigning an element
+// copies all of it, and lists are ordered, zero-based and hold their elements by value.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lyrics/lyrics.h"
+#include "text/shared_text.h"
+
+namespace brevant {
+
+// The node of an entry in the playlist manager tree; meaningless after a clear.
+enum class TCTreeNode : std::uint64_t { None = 0 };
+
+// What the last check of the song's file said. The type of the file is no part of it.
+enum class TCSongStatus : std::uint8_t { Pending, Found, NotFound };
+
+// "Pending", "Found" or "Not found".
+[[nodiscard]] std::u16string_view StatusText(TCSongStatus status);
+
+// How a row stands to the current song; decides its colour.
+enum class TCPlayMark : std::uint8_t { Ordinary = 0, Next = 1, Current = 2, Previous = 3 };
+
+struct TCPlayListItem {
+  std::u16string fileName;   // with its type
+  TCSharedText folder;       // with its trailing backslash; empty when the file was named without one
+  std::u16string extension;  // as written, without the dot
+  TCSongLyrics lyrics;
+  TCPlayMark flags = TCPlayMark::Ordinary;
+  TCSongStatus status = TCSongStatus::Pending;
+  TCTreeNode treeNode = TCTreeNode::None;
+  std::u16string time = u"00:00";
+  std::u16string option1 = u"30";   // no file keeps it; copied with the song
+  std::u16string option2 = u"Yes";  // no file keeps it; copied with the song
+
+  // Folder directly followed by the file name.
+  [[nodiscard]] std::u16string FullPath() const;
+
+  // Takes file name, folder and type from `path`. The folder text is shared with `neighbour` when it is
+  // equal.
+  void SetPath(std::u16string_view path, const TCPlayListItem* neighbour = nullptr);
+};
+
+struct TCPlayList {
+  std::u16string name;
+  TCSharedText folder;  // of the playlist file; empty when it was listed without a folder
+  std::u16string extension = u"brvpl";
+  std::u16string totalTime;
+  std::int32_t state1 = 0;
+  TCTreeNode treeNode = TCTreeNode::None;
+  std::int32_t state2 = 0;
+  std::int32_t state3 = 0;
+  std::vector<TCPlayListItem> items;
+};
+
+struct TCPlayGroups {
+  std::u16string name;
+  TCSharedText folder;  // of the group list file; bare playlist names are resolved against it
+  std::u16string extension = u"brvgl";
+  TCTreeNode treeNode = TCTreeNode::None;
+  std::vector<TCPlayList> playlists;
+};
+
+// The names of one group and its playlists, taken at one moment; later edits do not change it.
+struct TCGroupNamesLists {
+  std::u16string groupName;
+  std::vector<std::u16string> playlistNames;
+};
+
+}  // namespace brevant

@@ -1,0 +1,195 @@
+#include "model/settings_file.h"
+
+#include <array>
+
+#include "text/case_folding.h"
+#include "text/ini_text.h"
+#include "text/numbers.h"
+
+namespace brevant {
+
+namespace {
+
+constexpr std::u16string_view kSection = u"Brevant";
+constexpr std::u16string_view kLastLoadedFileKey = u"LastLoadedFileName";
+constexpr std::size_t kMaxFileBytes = std::size_t{1} << 20;
+constexpr std::size_t kMaxValueUnits = 4091;  // longer values are cut off when read
+
+// How a value is read.
+enum class Rule {
+  UnlessNo,        // a bool: true unless the value begins with n; missing reads as true
+  OnlyYes,         // a bool: true when the value begins with y; missing leaves it as it is
+  OnlyYesElseNo,   // the same, but missing reads as false
+  Text,            // an empty value leaves it as it is
+  Number,          // missing or empty leaves it as it is
+  LyricsFontSize,  // a number; missing or empty takes the playlist's font size
+  BooleanNumber,   // a number, kept as one
+  LastLoadedFile,  // written from the open document; read by LastLoadedFileName alone
+};
+
+using BoolField = bool& (*)(TCAppRecord&);
+using TextField = std::u16string& (*)(TCAppRecord&);
+using NumberField = std::int32_t& (*)(TCAppRecord&);
+
+// One key of the file and the option that it holds.
+struct Row {
+  std::u16string_view key;
+  Rule rule = Rule::Text;
+  BoolField boolean = nullptr;
+  TextField text = nullptr;
+  NumberField number = nullptr;
+  std::u16string_view missingText;  // what a missing text key reads as
+};
+
+constexpr Row Bool(std::u16string_view key, Rule rule, BoolField field) {
+  return {key, rule, field, nullptr, nullptr, {}};
+}
+constexpr Row Text(std::u16string_view key, TextField field, std::u16string_view missing = {}) {
+  return {key, Rule::Text, nullptr, field, nullptr, missing};
+}
+constexpr Row Number(std::u16string_view key, NumberField field, Rule rule = Rule::Number) {
+  return {key, rule, nullptr, nullptr, field, {}};
+}
+
+// NOLINTBEGIN(bugprone-macro-parentheses): a member's name after a point takes no parentheses
+#define BREVANT_FIELD(member)         \
+  [](TCAppRecord & record) -> auto& { \
+    return record.member;             \
+  }
+// NOLINTEND(bugprone-macro-parentheses)
+
+// In the order of writing. Reading in this order too gives "LyricsFontSize" the playlist font size just read.
+constexpr std::array kRows = {
+    Bool(u"LoadLastWindowState", Rule::UnlessNo, BREVANT_FIELD(settings.loadLastWindowState)),
+    Bool(u"LoadLastFileOnProgramRun", Rule::UnlessNo, BREVANT_FIELD(settings.loadLastFileOnProgramRun)),
+    Row{kLastLoadedFileKey, Rule::LastLoadedFile, nullptr, nullptr, nullptr, {}},
+    Bool(u"WhiteOnBlack", Rule::UnlessNo, BREVANT_FIELD(settings.whiteOnBlack)),
+    Bool(u"DynamicPlayColours", Rule::UnlessNo, BREVANT_FIELD(settings.dynamicPlayColours)),
+    Bool(u"ConfirmFileRemove", Rule::UnlessNo, BREVANT_FIELD(settings.confirmFileRemove)),
+    Bool(u"FoldersSaveFormat", Rule::UnlessNo, BREVANT_FIELD(settings.foldersSaveFormat)),
+    Bool(u"ImmediatePlay", Rule::UnlessNo, BREVANT_FIELD(settings.immediatePlay)),
+    Bool(u"PlaylistManagerImmediatePlay", Rule::OnlyYesElseNo,
+         BREVANT_FIELD(settings.playlistManagerImmediatePlay)),
+    Bool(u"AutoSongAdvance", Rule::UnlessNo, BREVANT_FIELD(settings.autoSongAdvance)),
+    Bool(u"AutoRecycle", Rule::UnlessNo, BREVANT_FIELD(settings.autoRecycle)),
+    Bool(u"AutoPlayPlayList", Rule::OnlyYes, BREVANT_FIELD(settings.autoPlayPlayList)),
+    Bool(u"LiveViewMode", Rule::OnlyYes, BREVANT_FIELD(settings.liveViewMode)),
+    Text(u"ValidMediaFileExtensions", BREVANT_FIELD(setLists.validMediaExtensions)),
+    Text(u"LastMediaFileName", BREVANT_FIELD(settings.lastMediaFileName)),
+    Text(u"LastMediaFileExtSpec", BREVANT_FIELD(settings.lastMediaFileExtSpec), u"*.mp3"),
+    Text(u"LastGroupListName", BREVANT_FIELD(setLists.lastGroupListName)),
+    Text(u"LastPlayListName", BREVANT_FIELD(setLists.lastPlayListName)),
+    Text(u"LastSongName", BREVANT_FIELD(setLists.lastSongName)),
+    Text(u"PlayListFontTypeName", BREVANT_FIELD(settings.playListFontTypeName), u"Times New Roman"),
+    Text(u"LyricsFontTypeName", BREVANT_FIELD(settings.lyricsFontTypeName), u"Times New Roman"),
+    Number(u"SongLatencySeconds", BREVANT_FIELD(setLists.songLatencySeconds)),
+    Number(u"FastFowardFastReverseTimeStep", BREVANT_FIELD(settings.seekStepSeconds)),
+    Number(u"VolumeStep", BREVANT_FIELD(settings.volumeStep)),
+    Number(u"Disable Editing", BREVANT_FIELD(settings.disableEditing), Rule::BooleanNumber),
+    Number(u"PlayListFontSize", BREVANT_FIELD(settings.playListFontSize)),
+    Number(u"LyricsFontSize", BREVANT_FIELD(settings.lyricsFontSize), Rule::LyricsFontSize),
+    Number(u"NumberLyricLines", BREVANT_FIELD(settings.numberLyricLines)),
+};
+
+#undef BREVANT_FIELD
+
+std::u16string ReadText(const TCIniText& ini, std::u16string_view key, std::u16string_view fallback) {
+  std::u16string value = ini.GetString(kSection, key, fallback);
+  if (value.size() > kMaxValueUnits) value.resize(kMaxValueUnits);
+  return value;
+}
+
+void ReadBool(const TCIniText& ini, const Row& row, bool& field) {
+  const std::u16string_view missing = row.rule == Rule::UnlessNo        ? u"Yes"
+                                      : row.rule == Rule::OnlyYesElseNo ? u"No"
+                                                                        : u"";
+  const std::u16string value = ToLower(ReadText(ini, row.key, missing));
+  if (value.empty()) return;
+  field = row.rule == Rule::UnlessNo ? value.front() != u'n' : value.front() == u'y';
+}
+
+void ReadRow(const TCIniText& ini, const Row& row, TCAppRecord& record) {
+  switch (row.rule) {
+    case Rule::UnlessNo:
+    case Rule::OnlyYes:
+    case Rule::OnlyYesElseNo:
+      ReadBool(ini, row, row.boolean(record));
+      break;
+    case Rule::Text:
+      if (std::u16string value = ReadText(ini, row.key, row.missingText); !value.empty()) {
+        row.text(record) = std::move(value);
+      }
+      break;
+    case Rule::Number:
+    case Rule::BooleanNumber:
+      row.number(record) = ini.GetInt(kSection, row.key, row.number(record));
+      break;
+    case Rule::LyricsFontSize:
+      row.number(record) = ini.GetInt(kSection, row.key, record.settings.playListFontSize);
+      break;
+    case Rule::LastLoadedFile:
+      break;
+  }
+}
+
+// Reading removes blanks round a value and one pair of quotes; a text that has its own is wrapped once more.
+std::u16string ProtectedText(const std::u16string& text) {
+  if (text.empty()) return text;
+  const auto isBlank = [](char16_t unit) { return unit == u' ' || unit == u'\t'; };
+  const bool quoted =
+      text.size() > 1 && text.front() == text.back() && (text.front() == u'"' || text.front() == u'\'');
+  if (!quoted && !isBlank(text.front()) && !isBlank(text.back())) return text;
+  return u'"' + text + u'"';
+}
+
+std::u16string WrittenValue(const Row& row, TCAppRecord& record) {
+  switch (row.rule) {
+    case Rule::UnlessNo:
+    case Rule::OnlyYes:
+    case Rule::OnlyYesElseNo:
+      return row.boolean(record) ? u"Yes" : u"No";
+    case Rule::Text:
+      return ProtectedText(row.text(record));
+    case Rule::Number:
+    case Rule::BooleanNumber:
+    case Rule::LyricsFontSize:
+      return FormatDecimal(row.number(record));
+    case Rule::LastLoadedFile:
+      break;
+  }
+  return ProtectedText(record.setLists.documentFolder + record.setLists.documentFileName);
+}
+
+}  // namespace
+
+TCSettingsFile::TCSettingsFile(TCFileSystem& fileSystem, std::u16string_view settingsFolder)
+    : files(fileSystem), folder(settingsFolder), path(folder + u"Brevant.ini") {}
+
+bool TCSettingsFile::LoadSettings(TCAppRecord& record) const {
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxFileBytes);
+  record.settings.settingsFileFound = bytes.has_value();
+  if (!bytes) return false;
+  const TCIniText ini = TCIniText::Parse(*bytes);
+  for (const Row& row : kRows) ReadRow(ini, row, record);
+  record.settings.SetWhiteOnBlack(record.settings.whiteOnBlack);
+  return true;
+}
+
+bool TCSettingsFile::SaveSettings(const TCAppRecord& record) const {
+  if (record.settings.resetPending) {
+    files.DeleteFile(path);
+    return false;
+  }
+  TCIniText ini = TCIniText::Parse(files.ReadFile(path, kMaxFileBytes).value_or(std::string()));
+  TCAppRecord written = record;
+  for (const Row& row : kRows) ini.SetString(kSection, row.key, WrittenValue(row, written));
+  if (files.MakeFolder(folder)) (void)files.ReplaceFile(path, ini.Serialize());
+  return true;
+}
+
+std::u16string TCSettingsFile::LastLoadedFileName() const {
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxFileBytes);
+  return bytes ? ReadText(TCIniText::Parse(*bytes), kLastLoadedFileKey, {}) : std::u16string();
+}
+
+}  // namespace brevant

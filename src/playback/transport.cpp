@@ -1,0 +1,185 @@
+#include "playback/transport.h"
+
+#include "model/media_check.h"
+#include "text/time_text.h"
+
+namespace brevant {
+
+TCTransport::TCTransport(TCAppRecord& appRecord, TCFileSystem& fileSystem, TCPlayer* soundPlayer,
+                         TCSetListDisplay& setListDisplay, TCMessageDisplay& messageDisplay)
+    : record(appRecord),
+      store(appRecord.setLists),
+      files(fileSystem),
+      player(soundPlayer),
+      display(setListDisplay),
+      messages(messageDisplay) {}
+
+void TCTransport::Play() {
+  if (player == nullptr) return;
+  TCPlayListItem* song = store.SongAt(store.currentSong);
+  if (song == nullptr) {
+    // After a change to a shorter playlist no row is current; one key press starts the set from its top.
+    MakeCurrent(0);
+    song = store.SongAt(0);
+    if (song == nullptr) return;
+  }
+  const std::u16string path = song->FullPath();
+  if (!path.empty()) player->LoadUrl(path);
+  StartSong(*song, path);
+}
+
+void TCTransport::StartSong(TCPlayListItem& song, std::u16string_view path) {
+  CheckSongFile(files, song);
+  display.RefreshSongRow(store.currentSong, song);
+  if (song.status != TCSongStatus::Found) {
+    messages.AppendMessage(TCTextId::UnableToPlayMissingFile, path);
+    return;
+  }
+  const bool accepted = player->Play();
+  state.playing = true;
+  state.started = false;
+  state.lastLyricIndex = -1;
+  state.refreshSongTime = true;
+  if (accepted) messages.Clear();
+}
+
+void TCTransport::Stop() {
+  if (player == nullptr) return;
+  RefreshCurrentSongTime();
+  player->Stop();
+  state.playing = false;
+  state.lastLyricIndex = -1;
+  // `paused` and `started` stay: the first Pause/Continue after stopping a paused song starts it again.
+}
+
+void TCTransport::PauseContinue() {
+  if (player == nullptr) return;
+  if (state.paused) {
+    player->Play();
+    if (!state.playing) state.started = false;  // the moment before the sound is no end of the song
+    state.playing = true;
+  } else {
+    player->Pause();
+  }
+  state.paused = !state.paused;
+}
+
+void TCTransport::NextSong() {
+  StepSong(store.currentSong + 1);
+}
+
+void TCTransport::PriorSong() {
+  StepSong(store.currentSong - 1);
+}
+
+void TCTransport::StepSong(std::int32_t song) {
+  if (store.IsValidSongIndex(song)) MakeCurrent(song);
+}
+
+void TCTransport::MakeCurrent(std::int32_t song) {
+  store.currentSong = song;
+  display.HighlightCurrentSong();
+}
+
+bool TCTransport::NextPlaylist() {
+  display.FocusPlaylist();
+  return StepPlaylist(StepToNextPlaylist(store));
+}
+
+void TCTransport::PriorPlaylist() {
+  display.FocusPlaylist();
+  StepPlaylist(StepToPriorPlaylist(store));
+}
+
+bool TCTransport::StepPlaylist(const TCPlaylistStep& step) {
+  if (!step.moves) return false;
+  store.currentGroup = step.group;
+  store.currentPlaylist = step.playlist;
+  display.ShowPlaylist(step.group, step.playlist);
+  return true;
+}
+
+void TCTransport::SelectSong(std::int32_t index, TCSelect select) {
+  if (!store.IsValidSongIndex(index)) return;
+  store.currentSong = index;
+  store.RecordLastShownNames();
+  display.HighlightCurrentSong();
+  if (record.settings.immediatePlay && select == TCSelect::MayPlay) Play();
+  display.ShowPlaylist(store.currentGroup, store.currentPlaylist);
+}
+
+void TCTransport::CancelPending() {
+  state.refreshSongTime = false;
+  state.timesPending = false;
+}
+
+void TCTransport::ForgetSong() {
+  state.playing = false;
+  state.started = false;
+  state.refreshSongTime = false;
+  state.timesPending = false;
+}
+
+void TCTransport::OnPlayTimerTick() {
+  if (state.refreshSongTime) RefreshSongTimeAfterPlay();
+  if (!state.playing) return;
+  const double position = player->GetPosition().value_or(0.0);
+  switch (DecideTick(state.started, position)) {
+    case TCTickAction::Wait:
+      break;
+    case TCTickAction::MarkStarted:
+      state.started = true;
+      break;
+    case TCTickAction::EndSong:
+      state.playing = false;
+      state.started = false;
+      if (AdvanceAfterSong() && record.settings.autoPlayPlayList) Play();
+      break;
+  }
+}
+
+bool TCTransport::AdvanceAfterSong() {
+  const std::int32_t next = store.currentSong + 1;
+  const TCAdvanceInput input{record.settings.autoSongAdvance, record.settings.autoRecycle,
+                             store.IsValidSongIndex(next)};
+  switch (DecideAdvance(input)) {
+    case TCAdvance::Rest:
+      return false;
+    case TCAdvance::NextSong:
+      MakeCurrent(next);
+      return true;
+    case TCAdvance::NextPlaylist:
+      break;
+  }
+  store.currentSong = 0;
+  if (!NextPlaylist()) StepPlaylist({true, 0, 0});  // the whole arrangement starts again
+  return true;
+}
+
+void TCTransport::RefreshCurrentSongTime() {
+  const std::u16string time = SetCurrentSongTime(player == nullptr ? -1 : player->GetDurationSeconds());
+  display.SetSongTime(store.currentSong, time);
+}
+
+void TCTransport::RefreshSongTimeAfterPlay() {
+  const int duration = player->GetDurationSeconds();
+  if (duration == 0) return;  // not known yet: the next poll asks again
+  const std::u16string time = SetCurrentSongTime(duration);
+  if (store.currentSong < 0) return;
+  display.SetSongTime(store.currentSong, time);
+  state.refreshSongTime = false;
+}
+
+std::u16string TCTransport::SetCurrentSongTime(std::int32_t seconds) {
+  TCPlayListItem* song = store.SongAt(store.currentSong);
+  if (song == nullptr) return {};
+  std::u16string time = FormatTime(seconds);
+  if (song->time != time) {
+    song->time = time;
+    store.RecalcPlaylistTotalTime(*store.CurrentPlaylist());
+    display.RefreshPlaylistTotal();
+  }
+  return time;
+}
+
+}  // namespace brevant

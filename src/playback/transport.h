@@ -1,0 +1,80 @@
+// The transport: plays, stops and pauses the current song, steps through songs and playlists and, asked every
+// 300 ms, notices the end of a song and goes on. Part of the document; user-interface thread only.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/app_record.h"
+#include "model/message_display.h"
+#include "playback/player.h"
+#include "playback/set_list_display.h"
+#include "playback/transport_rules.h"
+#include "text/file_system.h"
+
+namespace brevant {
+
+struct TCTransportState {
+  bool playing = false;              // started by Play, not stopped and not seen to end
+  bool started = false;              // since the last Play the position has been seen non-zero once
+  bool paused = false;               // Pause/Continue last paused; no other command changes it
+  std::int32_t lastLyricIndex = -1;  // the lyric line last shown
+  bool refreshSongTime = false;      // the current song's time is to be taken from the player
+  bool timesPending = false;         // a run that measures song times is in progress
+};
+
+// Whether making a song current may start it at once; the "ImmediatePlay" option has the last word.
+enum class TCSelect { MayPlay, Silently };
+
+class TCTransport {
+ public:
+  // `soundPlayer` may be null: the commands that need it are then without effect and without error.
+  TCTransport(TCAppRecord& appRecord, TCFileSystem& fileSystem, TCPlayer* soundPlayer,
+              TCSetListDisplay& setListDisplay, TCMessageDisplay& messageDisplay);
+
+  void Play();
+  void Stop();
+  void PauseContinue();
+  // Neither wraps nor starts playback.
+  void NextSong();
+  void PriorSong();
+  // False, with nothing changed, behind the last playlist of all.
+  bool NextPlaylist();
+  void PriorPlaylist();
+  // An index that names no song of the current playlist does nothing.
+  void SelectSong(std::int32_t index, TCSelect select);
+
+  // Takes the current song's time from the player; what it does not know is stored as "00:00".
+  void RefreshCurrentSongTime();
+
+  // The transport's half of "Cancel current command action"; no sound is touched.
+  void CancelPending();
+
+  // The set lists were cleared: what sounds on belongs to them no more, and its end starts nothing.
+  void ForgetSong();
+
+  // The poll, every 300 ms.
+  void OnPlayTimerTick();
+
+  [[nodiscard]] const TCTransportState& State() const { return state; }
+
+ private:
+  void StartSong(TCPlayListItem& song, std::u16string_view path);
+  bool AdvanceAfterSong();
+  void RefreshSongTimeAfterPlay();
+  // The text as stored; empty when there is no current song to store it in.
+  std::u16string SetCurrentSongTime(std::int32_t seconds);
+  void MakeCurrent(std::int32_t song);
+  void StepSong(std::int32_t song);
+  bool StepPlaylist(const TCPlaylistStep& step);
+
+  TCAppRecord& record;
+  TCSetListStore& store;
+  TCFileSystem& files;
+  TCPlayer* player = nullptr;
+  TCSetListDisplay& display;
+  TCMessageDisplay& messages;
+  TCTransportState state;
+};
+
+}  // namespace brevant

@@ -1,0 +1,35 @@
+#include "playback/transport_rules.h"
+
+namespace brevant {
+
+TCTickAction DecideTick(bool started, double position) {
+  const bool sounding = position != 0.0;
+  if (!started) return sounding ? TCTickAction::MarkStarted : TCTickAction::Wait;
+  return sounding ? TCTickAction::Wait : TCTickAction::EndSong;
+}
+
+TCAdvance DecideAdvance(const TCAdvanceInput& input) {
+  if (!input.autoSongAdvance) return TCAdvance::Rest;
+  if (input.hasNextSong) return TCAdvance::NextSong;
+  return input.autoRecycle ? TCAdvance::NextPlaylist : TCAdvance::Rest;
+}
+
+TCPlaylistStep StepToNextPlaylist(const TCSetListStore& store) {
+  if (store.groups.empty()) return {};
+  const std::int32_t nextInGroup = store.currentPlaylist + 1;
+  if (store.IsValidPlaylist(store.currentGroup, nextInGroup)) return {true, store.currentGroup, nextInGroup};
+  const std::int32_t nextGroup = store.currentGroup + 1;
+  if (nextGroup < 0 || static_cast<std::size_t>(nextGroup) >= store.groups.size()) return {};
+  return {true, nextGroup, 0};
+}
+
+TCPlaylistStep StepToPriorPlaylist(const TCSetListStore& store) {
+  if (store.groups.empty()) return {};
+  const std::int32_t priorInGroup = store.currentPlaylist - 1;
+  if (priorInGroup >= 0) return {true, store.currentGroup, priorInGroup};
+  const std::int32_t priorGroup = store.currentGroup - 1;
+  if (priorGroup < 0) return {};
+  return {true, priorGroup, 0};
+}
+
+}  // namespace brevant

@@ -1,0 +1,107 @@
+#include "resources/key_page.h"
+
+#include <string_view>
+#include <vector>
+
+#include "resources/command_table.h"
+#include "resources/menu_text.h"
+
+namespace brevant {
+namespace {
+
+constexpr std::string_view kOpening =
+    R"(# Keys
+
+These keys act whichever part of the window has the focus, with two exceptions. While you type into a field
+only the F-keys and the keyboard's own volume keys act. While the playlist manager has the focus, it keeps the
+arrow keys, Shift+Up and Shift+Down for itself, and Enter when a playlist or a song is selected.
+
+Volume, seeking, stepping through songs and playlists, and moves in the playlist manager repeat while the key
+is held. Every other key acts once a press. Some menus hint at other keys than these; the keys on this page are
+the ones that act. A command that your menus and bars do not show is not in your version, and its key does
+nothing.
+
+<!-- Written by brevant_key_table from the command table. Do not edit: run it again. -->
+)";
+
+constexpr std::string_view kClosing = R"(
+"Enter" is the Enter key of the keypad as well.
+)";
+
+// Every text of the table is plain ASCII; a test holds that.
+std::string Plain(std::u16string_view text) {
+  return {text.begin(), text.end()};
+}
+
+std::string TrimmedRight(std::string text) {
+  while (text.ends_with(' ')) text.pop_back();
+  return text;
+}
+
+// The keyboard's volume keys are commands of their own without a word to show; they stand with their twins.
+TCCommandId Shown(TCCommandId id) {
+  switch (id) {
+    case TCCommandId::MediaVolumeUp:
+      return TCCommandId::VolumeUp;
+    case TCCommandId::MediaVolumeDown:
+      return TCCommandId::VolumeDown;
+    default:
+      return id;
+  }
+}
+
+std::string KeysOf(const TCCommand& command) {
+  std::string keys;
+  for (const TCKeyBinding& binding : EffectiveBindings()) {
+    if (Shown(binding.command) != command.id) continue;
+    if (!keys.empty()) keys += ", ";
+    keys += Plain(KeyName(binding.key));
+  }
+  return keys;
+}
+
+// The menu's name for the command; without one, the tool tip where it is a name and no sentence.
+std::string NameOf(const TCCommand& command) {
+  if (!command.menuText.empty()) {
+    return TrimmedRight(Plain(WithoutMnemonic(MenuTextWithoutHint(command.menuText))));
+  }
+  const std::u16string toolTip = ToolTip(command);
+  return toolTip == StatusLine(command) ? std::string() : Plain(toolTip);
+}
+
+bool DoesSomething(const TCCommand& command) {
+  return command.owners != TCCommandOwner::None && !(command.menuText.empty() && command.statusText.empty());
+}
+
+std::string Section(const std::string& title, const std::vector<const TCCommand*>& commands) {
+  std::string rows;
+  for (const TCCommand* const command : commands) {
+    const std::string keys = KeysOf(*command);
+    if (keys.empty() || !DoesSomething(*command)) continue;
+    rows += "| " + keys + " | " + NameOf(*command) + " | " + Plain(StatusLine(*command)) + " |\n";
+  }
+  if (rows.empty()) return {};
+  return "\n## " + title + "\n\n| Key | Command | What it does |\n|---|---|---|\n" + rows;
+}
+
+std::vector<const TCCommand*> CommandsWithoutAMenu() {
+  std::vector<const TCCommand*> commands;
+  for (const TCCommand& command : Commands()) {
+    if (command.menu == TCMenuPlace::None) commands.push_back(&command);
+  }
+  return commands;
+}
+
+}  // namespace
+
+std::string KeyPage() {
+  std::string page(kOpening);
+  for (const TCMenuPlace place : MainMenus()) {
+    page += Section(Plain(WithoutMnemonic(MenuTitle(place))), CommandsInMenu(place));
+  }
+  page += Section("Without a menu entry", CommandsWithoutAMenu());
+  page += kClosing;
+  return page;
+}
+
+}  // namespace brevant

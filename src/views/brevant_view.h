@@ -1,0 +1,95 @@
+// The playlist view: the songs of the current playlist in large type, every row in its own colours. Shows
+// what the document gives it and passes on what the mouse asks for; also holds the timer that drives the
+// document's tick. User-interface thread only.
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QIcon>
+#include <QPoint>
+#include <QSettings>
+#include <QString>
+#include <QTableView>
+#include <QTimer>
+#include <vector>
+
+#include "document/playlist_display.h"
+#include "views/column_widths.h"
+
+namespace brevant {
+
+class TCPlaylistHeader;
+class TCPlaylistModel;
+
+class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
+  Q_OBJECT
+
+ public:
+  explicit TCBrevantView(QWidget* parent = nullptr);
+
+  // In the first column of every row.
+  void SetRowPicture(const QIcon& picture);
+  // Of the header and of what no row covers. The background follows the rows' own from then on.
+  void SetBackground(const QColor& text, const QColor& background);
+
+  // Widths that the user dragged; the other columns follow the font.
+  void SaveColumnWidths(QSettings& settings) const;
+  void LoadColumnWidths(const QSettings& settings);
+
+  void ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) override;
+  void SetRowColours(std::vector<TCRowColours> colours) override;
+  void SetRowTexts(std::int32_t row, const TCRowTexts& texts) override;
+  void SetRowTime(std::int32_t row, std::u16string_view time) override;
+  void SetPlaylistHeader(std::u16string_view text) override;
+  void ClearRows() override;
+
+  [[nodiscard]] std::int32_t SelectedRow() const override;
+  [[nodiscard]] std::vector<std::int32_t> SelectedRows() const override;
+  void SelectRow(std::int32_t row) override;
+  void ScrollToRow(std::int32_t row) override;
+  void TakeFocus() override;
+  void SetDisplayFont(std::u16string_view face, std::int32_t points) override;
+  void ResetMouseState() override;
+
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
+ Q_SIGNALS:
+  // Every 300 ms for as long as the view lives: time for the document's tick.
+  void pollDue();
+  // A double-click: the selected row, or -1 when none is.
+  void rowPicked(int row);
+  // A press of the right button, or the keyboard's menu key.
+  void contextMenuWanted(QPoint globalPosition);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void CountPollTick();
+  void FollowBackgroundOf(const TCRowColours& colours);
+  [[nodiscard]] bool IsInView(std::int32_t row, int viewHeight) const;
+
+  void FitToFont();
+  void MeasureRows();
+  void MeasureRow(const TCPlaylistRow& row);
+  void MeasureHeaders();
+  void FitColumns();
+  [[nodiscard]] int CellWidthOf(const QString& text);
+
+  TCPlaylistModel* playlistModel = nullptr;  // a child, as the next one
+  TCPlaylistHeader* columnHeader = nullptr;
+  TCColumnWidths columnWidths;
+  QHash<QString, int>
+      measuredTexts;  // pixels of a cell in the present font; every digit counts as the widest
+  QChar widestDigit = QLatin1Char('0');
+  QTimer pollTimer;
+  int pollTicks = 0;                // 0 to 2
+  std::int32_t rowKeptInView = -1;  // stays in view while window or font changes, unless scrolled away
+  bool fittingColumns = false;      // columns change width by our doing, not the user's
+};
+
+}  // namespace brevant

@@ -1,0 +1,288 @@
+#include "document/brevant_doc.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "model/play_marks.h"
+#include "support/fake_frame.h"
+#include "support/fake_player.h"
+#include "support/fake_playlist_view.h"
+#include "support/fake_prompts.h"
+#include "support/memory_files.h"
+#include "support/message_log.h"
+
+namespace brevant {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::u16string_view kShow = u"D:\\Docs\\show.brv";
+constexpr std::u16string_view kShowText =
+    u"\"Sets\" \"One\" \"C:\\a.mp3\" 03:00\r\n\"Sets\" \"One\" \"C:\\b.mp3\" 04:00\r\n"
+    u"\"Sets\" \"Two\" \"C:\\c.mp3\" 01:00\r\n";
+
+class BrevantDocTest : public testing::Test {
+ protected:
+  BrevantDocTest() {
+    files.PutUtf16(kShow, kShowText);
+    for (const std::u16string_view song : {u"C:\\a.mp3", u"C:\\b.mp3", u"C:\\c.mp3"}) files.Put(song);
+  }
+
+  TCMemoryFiles files;
+  TCAppRecord record;
+  TCFakePlayer player;
+  TCFakePlaylistView view;
+  TCMessageLog messages;
+  TCFakeFrame frame;
+  TCFakePrompts prompts;
+  TCBrevantDoc document{
+      {record, files, &player, view, messages, frame, prompts, {u"", u"", u"\\state\\recovery\\"}}};
+};
+
+TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
+  EXPECT_TRUE(document.OnOpenDocument(kShow));
+  EXPECT_EQ(document.GetPathName(), kShow);
+  EXPECT_EQ(frame.name, u"show.brv");
+  EXPECT_FALSE(document.IsModified());
+  ASSERT_EQ(view.rows.size(), 2u);
+  EXPECT_EQ(view.rows[0].texts.name, u"a.mp3");
+  EXPECT_EQ(view.header, u"One - Total Playlist Time: 07:15");
+  EXPECT_EQ(record.setLists.groups[0].playlists[1].totalTime, u"01:00");
+  EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
+}
+
+TEST_F(BrevantDocTest, WhatTheLoadersReportIsClearedByTheOpen) {
+  files.PutUtf16(kShow, u"Gone.brvgl\r\n");
+  document.OnOpenDocument(kShow);
+  EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
+}
+
+TEST_F(BrevantDocTest, AnUnreadableDocumentOpensEmptyUnderItsNameAndSaysNothing) {
+  document.OnOpenDocument(kShow);
+  EXPECT_TRUE(document.OnOpenDocument(u"D:\\Docs\\none.brv"));
+  EXPECT_EQ(frame.name, u"none.brv");
+  EXPECT_THAT(view.rows, IsEmpty());
+  EXPECT_THAT(record.setLists.groups, IsEmpty());
+  EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
+}
+
+TEST_F(BrevantDocTest, ANewDocumentIsEmptyAndHasNoName) {
+  document.OnOpenDocument(kShow);
+  document.SetModified();
+  EXPECT_TRUE(document.OnNewDocument());
+  EXPECT_THAT(record.setLists.groups, IsEmpty());
+  EXPECT_THAT(view.rows, IsEmpty());
+  EXPECT_EQ(frame.name, u"");
+  EXPECT_EQ(frame.mark, TCModifiedMark::Clean);
+  EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
+  EXPECT_EQ(record.setLists.documentFileName, u"show.brv");  // New leaves the last path
+}
+
+TEST_F(BrevantDocTest, ASavedDocumentIsUnmodifiedUnderItsName) {
+  document.OnOpenDocument(kShow);
+  document.SetModified();
+  EXPECT_EQ(frame.mark, TCModifiedMark::Modified);
+  EXPECT_TRUE(document.OnSaveDocument(kShow));
+  EXPECT_FALSE(document.IsModified());
+  EXPECT_EQ(frame.mark, TCModifiedMark::Clean);
+  EXPECT_FALSE(files.BytesOf(u"\\state\\recovery\\show.brv").has_value());
+}
+
+TEST_F(BrevantDocTest, AFailedSaveIsSilentAndLosesNothing) {
+  document.OnOpenDocument(kShow);
+  document.SetModified();
+  messages.Clear();
+  files.MakeUnwritable(kShow);
+  EXPECT_TRUE(document.OnSaveDocument(kShow));
+  EXPECT_FALSE(document.IsModified());
+  EXPECT_THAT(messages.lines, IsEmpty());
+  TCMemoryFiles expected;
+  expected.PutUtf16(kShow, kShowText);
+  EXPECT_EQ(files.BytesOf(u"\\state\\recovery\\show.brv"), expected.BytesOf(kShow));
+}
+
+TEST_F(BrevantDocTest, ADocumentWithoutSongsLeavesNoRecoveryCopy) {
+  document.OnNewDocument();
+  EXPECT_TRUE(document.OnSaveDocument(u"D:\\Docs\\new.brv"));
+  EXPECT_THAT(files.writes, IsEmpty());
+}
+
+TEST_F(BrevantDocTest, OpeningTheOpenFileReadsItFromDiskAgain) {
+  document.OpenDocumentFile(kShow);
+  files.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\c.mp3\" 01:00\r\n");
+  document.OpenDocumentFile(kShow);
+  ASSERT_EQ(view.rows.size(), 1u);
+  EXPECT_EQ(view.rows[0].texts.name, u"c.mp3");
+}
+
+TEST_F(BrevantDocTest, UnsavedChangesAreAskedForBeforeTheyWouldBeLost) {
+  document.OnOpenDocument(kShow);
+  document.SetModified();
+  prompts.saveAnswers = {TCSaveAnswer::Cancel};
+  document.OpenDocumentFile(u"D:\\Docs\\other.brv");
+  EXPECT_EQ(document.GetPathName(), kShow);
+  EXPECT_EQ(prompts.lastName, u"show.brv");
+  prompts.saveAnswers = {TCSaveAnswer::Discard};
+  document.OnCommand(TCCommandId::FileNew);
+  EXPECT_EQ(document.GetPathName(), u"");
+}
+
+TEST_F(BrevantDocTest, SavingFromTheQuestionWritesTheFileFirst) {
+  document.OnOpenDocument(kShow);
+  record.setLists.groups[0].playlists[0].items.pop_back();
+  document.SetModified();
+  prompts.saveAnswers = {TCSaveAnswer::Save};
+  EXPECT_TRUE(document.SaveModified());
+  document.OpenDocumentFile(kShow);
+  EXPECT_EQ(view.rows.size(), 1u);
+}
+
+TEST_F(BrevantDocTest, AnUnchangedDocumentIsNeverAskedAbout) {
+  document.OnOpenDocument(kShow);
+  EXPECT_TRUE(document.SaveModified());
+  document.OnCommand(TCCommandId::FileNew);
+  EXPECT_EQ(document.GetPathName(), u"");
+}
+
+TEST_F(BrevantDocTest, SaveOfANewDocumentAsksForItsName) {
+  document.OnOpenDocument(kShow);
+  const auto groups = record.setLists.groups;
+  document.OnNewDocument();
+  record.setLists.groups = groups;
+  prompts.saveAsAnswers = {std::nullopt};
+  document.OnCommand(TCCommandId::FileSave);
+  EXPECT_EQ(document.GetPathName(), u"");
+  prompts.saveAsAnswers = {std::u16string(u"D:\\Docs\\copy.brv")};
+  document.OnCommand(TCCommandId::FileSave);
+  EXPECT_EQ(document.GetPathName(), u"D:\\Docs\\copy.brv");
+  EXPECT_EQ(frame.name, u"copy.brv");
+  EXPECT_EQ(files.BytesOf(u"D:\\Docs\\copy.brv"), files.BytesOf(kShow));
+}
+
+TEST_F(BrevantDocTest, SaveAsGoesOnUnderTheNewName) {
+  document.OnOpenDocument(kShow);
+  prompts.saveAsAnswers = {std::u16string(u"D:\\Docs\\copy.brv")};
+  document.OnCommand(TCCommandId::FileSaveAs);
+  EXPECT_EQ(prompts.lastName, kShow);
+  EXPECT_EQ(document.GetPathName(), u"D:\\Docs\\copy.brv");
+  EXPECT_EQ(record.setLists.documentFileName, u"copy.brv");
+}
+
+TEST_F(BrevantDocTest, ACancelledOpenChangesNothing) {
+  document.OnOpenDocument(kShow);
+  document.SetModified();
+  prompts.openAnswers = {std::nullopt};
+  document.OnCommand(TCCommandId::FileOpen);
+  EXPECT_EQ(document.GetPathName(), kShow);
+  EXPECT_TRUE(document.IsModified());
+}
+
+TEST_F(BrevantDocTest, OpeningAnotherDocumentLeavesTheSoundAloneButItsEndStartsNothing) {
+  record.settings.autoPlayPlayList = true;
+  player.SetDefaultSong({.length = 5.0});
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::Play);
+  player.Advance(1.0);
+  document.OnPlayTimerTick();
+  player.ForgetCalls();
+  document.OnOpenDocument(kShow);
+  EXPECT_GT(player.GetPosition().value_or(0.0), 0.0);
+  player.Advance(10.0);
+  document.OnPlayTimerTick();
+  EXPECT_THAT(player.Calls(), IsEmpty());
+  EXPECT_EQ(record.setLists.currentSong, 0);
+}
+
+TEST_F(BrevantDocTest, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
+  struct Case {
+    TCCommandId command;
+    bool TCSettings::*option;
+  };
+  for (const Case& c : {
+           Case{TCCommandId::AutoSongAdvance, &TCSettings::autoSongAdvance},
+           Case{TCCommandId::AutoPlayPlayList, &TCSettings::autoPlayPlayList},
+           Case{TCCommandId::AutoRecycle, &TCSettings::autoRecycle},
+           Case{TCCommandId::ImmediatePlay, &TCSettings::immediatePlay},
+           Case{TCCommandId::PlaylistManagerImmediatePlay, &TCSettings::playlistManagerImmediatePlay},
+           Case{TCCommandId::WhiteOnBlack, &TCSettings::whiteOnBlack},
+           Case{TCCommandId::DynamicPlayColours, &TCSettings::dynamicPlayColours},
+           Case{TCCommandId::FoldersSaveFormat, &TCSettings::foldersSaveFormat},
+           Case{TCCommandId::LoadLastFile, &TCSettings::loadLastFileOnProgramRun},
+           Case{TCCommandId::Reset, &TCSettings::resetPending},
+       }) {
+    const bool before = record.settings.*c.option;
+    EXPECT_EQ(document.IsChecked(c.command), before);
+    const int shows = frame.optionShows;
+    EXPECT_TRUE(document.OnCommand(c.command));
+    EXPECT_EQ(record.settings.*c.option, !before);
+    EXPECT_EQ(document.IsChecked(c.command), !before);
+    EXPECT_GT(frame.optionShows, shows);
+    document.OnCommand(c.command);
+    EXPECT_EQ(record.settings.*c.option, before);
+  }
+  EXPECT_FALSE(document.IsModified());  // options are no part of the document
+}
+
+TEST_F(BrevantDocTest, WhiteOnBlackSwapsTheColoursAtOnce) {
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::WhiteOnBlack);
+  EXPECT_EQ(record.settings.backgroundColour, kWhite);
+  EXPECT_EQ(view.rows[0].colours.background, kWhite);
+  document.OnCommand(TCCommandId::DynamicPlayColours);
+  EXPECT_EQ(view.rows[0].colours.text, kBlack);
+}
+
+TEST_F(BrevantDocTest, TransportCommandsReachTheTransport) {
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::NextSong);
+  EXPECT_EQ(record.setLists.currentSong, 1);
+  EXPECT_EQ(view.rows[1].colours.text, kCurrentColour);
+  document.OnCommand(TCCommandId::PriorSong);
+  EXPECT_EQ(record.setLists.currentSong, 0);
+  document.OnCommand(TCCommandId::Play);
+  document.OnCommand(TCCommandId::PauseContinue);
+  document.OnCommand(TCCommandId::Stop);
+  EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\a.mp3", "Play", "Pause", "Stop"));
+  document.OnCommand(TCCommandId::NextPlaylist);
+  EXPECT_EQ(view.header, u"Two - Total Playlist Time: 01:00");
+  document.OnCommand(TCCommandId::PriorPlaylist);
+  EXPECT_EQ(record.setLists.currentPlaylist, 0);
+}
+
+TEST_F(BrevantDocTest, EnterPlaysTheCurrentSongNotTheRowThatIsSelected) {
+  document.OnOpenDocument(kShow);
+  view.SelectRow(1);
+  document.OnCommand(TCCommandId::LoadSong);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a.mp3");
+}
+
+TEST_F(BrevantDocTest, ADoubleClickedRowBecomesCurrentAndPlays) {
+  document.OnOpenDocument(kShow);
+  document.PickRow(1);
+  EXPECT_EQ(record.setLists.currentSong, 1);
+  EXPECT_EQ(player.GetUrl(), u"C:\\b.mp3");
+  document.PickRow(-1);
+  EXPECT_EQ(record.setLists.currentSong, 1);
+}
+
+TEST_F(BrevantDocTest, CancelSaysSoAndDropsTheMouseState) {
+  document.OnCommand(TCCommandId::Cancel);
+  EXPECT_THAT(messages.lines, ElementsAre(u"Command canceled"));
+  EXPECT_EQ(view.mouseResets, 1);
+}
+
+TEST_F(BrevantDocTest, ClearInformationEmptiesTheMessages) {
+  messages.Append(u"old");
+  document.OnCommand(TCCommandId::ClearInformation);
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+TEST_F(BrevantDocTest, ACommandOfSomebodyElseIsNotTaken) {
+  EXPECT_FALSE(TCBrevantDoc::Handles(TCCommandId::About));
+  EXPECT_FALSE(document.OnCommand(TCCommandId::About));
+  EXPECT_FALSE(document.OnCommand(TCCommandId::None));
+}
+
+}  // namespace
+}  // namespace brevant

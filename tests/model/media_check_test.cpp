@@ -1,0 +1,74 @@
+#include "model/media_check.h"
+
+#include <gtest/gtest.h>
+
+#include "support/memory_files.h"
+#include "text/path_parts.h"
+
+namespace brevant {
+namespace {
+
+TEST(MediaCheckTest, TheDefaultTypesAreValidInAnyCase) {
+  TCSetListStore store;
+  EXPECT_TRUE(IsValidMediaExtension(store, ExtensionPart(u"song.MP3")));
+  EXPECT_TRUE(IsValidMediaExtension(store, u"wma"));
+  EXPECT_FALSE(IsValidMediaExtension(store, ExtensionPart(u"song.flac")));
+  EXPECT_FALSE(IsValidMediaExtension(store, ExtensionPart(u"song")));
+}
+
+TEST(MediaCheckTest, OnlyWholeWordsOfTheListCount) {
+  TCSetListStore store;
+  EXPECT_FALSE(IsValidMediaExtension(store, u"mp"));
+  EXPECT_FALSE(IsValidMediaExtension(store, u"mp3 wav"));
+}
+
+TEST(MediaCheckTest, TheListIsStoredLowerCasedByTheFirstCheck) {
+  TCSetListStore store;
+  store.validMediaExtensions = u"MP3 Wav";
+  EXPECT_TRUE(IsValidMediaExtension(store, u"wav"));
+  EXPECT_EQ(store.validMediaExtensions, u"mp3 wav");
+}
+
+TEST(MediaCheckTest, AQuotedTypeCountsLikeAnother) {
+  TCSetListStore store;
+  store.validMediaExtensions = u"\"mp3\" wav";
+  EXPECT_TRUE(IsValidMediaExtension(store, u"mp3"));
+}
+
+TEST(MediaCheckTest, AnEmptyTypeIsInvalidEvenInAListWithAnEmptyWord) {
+  TCSetListStore store;
+  store.validMediaExtensions = u"\"\" mp3";
+  EXPECT_FALSE(IsValidMediaExtension(store, u""));
+}
+
+TEST(MediaCheckTest, AFolderForAllSongsChecksEachOneThere) {
+  TCMemoryFiles files;
+  files.Put(u"E:\\Backup\\a.mp3");
+  TCPlayList playlist;
+  playlist.items.resize(2);
+  playlist.items[0].SetPath(u"C:\\a.mp3");
+  playlist.items[1].SetPath(u"C:\\b.mp3");
+  SetFolderForAllSongs(files, playlist, u"E:\\Backup\\");
+  EXPECT_EQ(playlist.items[0].FullPath(), u"E:\\Backup\\a.mp3");
+  EXPECT_EQ(playlist.items[0].status, TCSongStatus::Found);
+  EXPECT_EQ(playlist.items[1].FullPath(), u"E:\\Backup\\b.mp3");
+  EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
+}
+
+TEST(MediaCheckTest, AnExtensionForAllSongsReplacesTheirTypes) {
+  TCMemoryFiles files;
+  files.Put(u"C:\\a.wav");
+  TCPlayList playlist;
+  playlist.items.resize(2);
+  playlist.items[0].SetPath(u"C:\\a.mp3");
+  playlist.items[1].SetPath(u"C:\\b");
+  SetExtensionForAllSongs(files, playlist, u"x.wav");
+  EXPECT_EQ(playlist.items[0].fileName, u"a.wav");
+  EXPECT_EQ(playlist.items[0].extension, u"wav");
+  EXPECT_EQ(playlist.items[0].status, TCSongStatus::Found);
+  EXPECT_EQ(playlist.items[1].fileName, u"b.wav");
+  EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
+}
+
+}  // namespace
+}  // namespace brevant

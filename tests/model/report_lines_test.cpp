@@ -1,0 +1,68 @@
+#include "model/report_lines.h"
+
+#include <gtest/gtest.h>
+
+#include "support/message_log.h"
+#include "text/numbers.h"
+
+namespace brevant {
+namespace {
+
+TEST(ReportLinesTest, BeforeItIsEnabledAppendsAndClearsDoNothing) {
+  TCReportLines lines;
+  lines.Append(u"lost", TCLineRole::Normal);
+  lines.Clear();
+  EXPECT_EQ(lines.Text(), u"");
+  lines.Enable(4);
+  EXPECT_EQ(lines.Text(), u"");
+}
+
+TEST(ReportLinesTest, LinesStandOldestFirstEachWithItsLineEnd) {
+  TCReportLines lines;
+  lines.Enable(4);
+  lines.Append(u"one", TCLineRole::Normal);
+  lines.Append(u"two", TCLineRole::SingerF);
+  EXPECT_EQ(lines.Text(), u"one\r\ntwo\r\n");
+  EXPECT_EQ(lines.Lines()[1].role, TCLineRole::SingerF);
+}
+
+TEST(ReportLinesTest, TheThousandAndTwentyFifthLinePushesOutTheFirst) {
+  TCReportLines lines;
+  lines.Enable(1024);
+  for (int i = 1; i <= 1025; ++i) lines.Append(FormatDecimal(i), TCLineRole::Normal);
+  const std::vector<TCReportLine> shown = lines.Lines();
+  ASSERT_EQ(shown.size(), 1024u);
+  EXPECT_EQ(shown.front().text, u"2\r\n");
+  EXPECT_EQ(shown.back().text, u"1025\r\n");
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    ASSERT_EQ(shown[i].text, FormatDecimal(static_cast<std::int64_t>(i) + 2) + u"\r\n");
+  }
+}
+
+TEST(ReportLinesTest, TheRingGoesRoundAndRound) {
+  TCReportLines lines;
+  lines.Enable(3);
+  for (int i = 1; i <= 10; ++i) lines.Append(FormatDecimal(i), TCLineRole::Normal);
+  EXPECT_EQ(lines.Text(), u"8\r\n9\r\n10\r\n");
+}
+
+TEST(ReportLinesTest, AfterAClearOneAppendShowsExactlyThatLine) {
+  TCReportLines lines;
+  lines.Enable(3);
+  for (int i = 0; i < 5; ++i) lines.Append(u"old", TCLineRole::Normal);
+  lines.Clear();
+  EXPECT_EQ(lines.Count(), 0);
+  lines.Append(u"new", TCLineRole::Normal);
+  EXPECT_EQ(lines.Text(), u"new\r\n");
+}
+
+TEST(MessageDisplayTest, ADetailStandsOneBlankBehindTheMessagesOwnColon) {
+  TCMessageLog messages;
+  messages.AppendMessage(TCTextId::UnableToPlayMissingFile, u"C:\\a.mp3");
+  messages.AppendMessage(TCTextId::Banner);
+  EXPECT_EQ(messages.lines[0], u"Unable to play song as unable to find file: C:\\a.mp3");
+  EXPECT_EQ(messages.lines[1], u"...Brevant...");
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,251 @@
+#include "model/set_list_store.h"
+
+#include <gtest/gtest.h>
+
+#include "text/time_text.h"
+
+namespace brevant {
+namespace {
+
+TCPlayListItem SongOf(std::u16string name, std::u16string time = u"00:00") {
+  TCPlayListItem song;
+  song.fileName = std::move(name);
+  song.time = std::move(time);
+  return song;
+}
+
+// One group "Sets" with one playlist "P1" of two songs.
+TCSetListStore StoreWithTwoSongs() {
+  TCSetListStore store;
+  TCPlayGroups& group = store.groups.emplace_back();
+  group.name = u"Sets";
+  TCPlayList& playlist = group.playlists.emplace_back();
+  playlist.name = u"P1";
+  playlist.items = {SongOf(u"a.mp3", u"03:00"), SongOf(u"b.mp3", u"04:00")};
+  playlist.items[1].treeNode = TCTreeNode{7};
+  return store;
+}
+
+TEST(SetListTest, ANewSongIsPendingWithTheDefaultsOfItsFields) {
+  const TCPlayListItem song;
+  EXPECT_EQ(song.fileName, u"");
+  EXPECT_EQ(song.folder.str(), u"");
+  EXPECT_EQ(song.time, u"00:00");
+  EXPECT_EQ(song.option1, u"30");
+  EXPECT_EQ(song.option2, u"Yes");
+  EXPECT_EQ(StatusText(song.status), u"Pending");
+  EXPECT_EQ(song.flags, TCPlayMark::Ordinary);
+  EXPECT_EQ(song.treeNode, TCTreeNode::None);
+}
+
+TEST(SetListTest, NewPlaylistsAndGroupsCarryTheirFileTypes) {
+  EXPECT_EQ(TCPlayList{}.extension, u"brvpl");
+  EXPECT_EQ(TCPlayGroups{}.extension, u"brvgl");
+  EXPECT_EQ(TCPlayList{}.totalTime, u"");
+}
+
+TEST(SetListTest, StatusTextsAreTheStringTables) {
+  EXPECT_EQ(StatusText(TCSongStatus::Found), u"Found");
+  EXPECT_EQ(StatusText(TCSongStatus::NotFound), u"Not found");
+}
+
+TEST(SetListTest, ACopyOfASongTakesEveryFieldAndGoesItsOwnWay) {
+  TCPlayListItem song = SongOf(u"a.mp3", u"03:00");
+  song.folder = u"C:\\Music\\";
+  song.option1 = u"12";
+  song.option2 = u"No";
+  song.flags = TCPlayMark::Next;
+  song.status = TCSongStatus::Found;
+  song.treeNode = TCTreeNode{3};
+  TCPlayListItem copy = song;
+  song.folder = u"D:\\";
+  song.time = u"09:00";
+  EXPECT_EQ(copy.FullPath(), u"C:\\Music\\a.mp3");
+  EXPECT_EQ(copy.time, u"03:00");
+  EXPECT_EQ(copy.option1, u"12");
+  EXPECT_EQ(copy.option2, u"No");
+  EXPECT_EQ(copy.flags, TCPlayMark::Next);
+  EXPECT_EQ(copy.status, TCSongStatus::Found);
+  EXPECT_EQ(copy.treeNode, TCTreeNode{3});
+}
+
+TEST(SetListTest, APathIsCutIntoFolderNameAndType) {
+  TCPlayListItem song;
+  song.SetPath(u"C:\\Music\\Open Road.mp3");
+  EXPECT_EQ(song.folder.str(), u"C:\\Music\\");
+  EXPECT_EQ(song.fileName, u"Open Road.mp3");
+  EXPECT_EQ(song.extension, u"mp3");
+  EXPECT_EQ(song.FullPath(), u"C:\\Music\\Open Road.mp3");
+}
+
+TEST(SetListTest, SongsOfOneFolderShareItsText) {
+  TCPlayListItem first;
+  first.SetPath(u"C:\\Music\\a.mp3");
+  TCPlayListItem second;
+  second.SetPath(u"C:\\Music\\b.mp3", &first);
+  EXPECT_EQ(&second.folder.str(), &first.folder.str());
+  TCPlayListItem elsewhere;
+  elsewhere.SetPath(u"D:\\b.mp3", &first);
+  EXPECT_EQ(elsewhere.folder.str(), u"D:\\");
+}
+
+TEST(SetListStoreTest, NamesAreFoundWhateverTheirCase) {
+  const TCSetListStore store = StoreWithTwoSongs();
+  EXPECT_EQ(store.FindGroupByName(u"SETS"), 0);
+  EXPECT_EQ(store.FindGroupByName(u"Other"), -1);
+  EXPECT_EQ(TCSetListStore::FindPlaylistByName(store.groups[0], u"p1"), 0);
+  EXPECT_EQ(TCSetListStore::FindPlaylistByName(store.groups[0], u"p"), -1);
+}
+
+TEST(SetListStoreTest, AnEmptyStoreHoldsNoGroupOfAnyName) {
+  EXPECT_EQ(TCSetListStore{}.FindGroupByName(u"Sets"), -1);
+  EXPECT_EQ(TCSetListStore{}.FindGroupByName(u""), -1);
+}
+
+TEST(SetListStoreTest, TheFirstOfTwoEqualNamesIsFound) {
+  TCSetListStore store;
+  store.groups.resize(3);
+  store.groups[1].name = u"Twice";
+  store.groups[2].name = u"twice";
+  EXPECT_EQ(store.FindGroupByName(u"TWICE"), 1);
+}
+
+TEST(SetListStoreTest, IndicesOutsideTheirListsAreInvalidAndNeverFail) {
+  TCSetListStore store = StoreWithTwoSongs();
+  EXPECT_TRUE(store.IsValidPlaylistIndex(0));
+  EXPECT_FALSE(store.IsValidPlaylistIndex(1));
+  EXPECT_FALSE(store.IsValidPlaylistIndex(-1));
+  EXPECT_TRUE(store.IsValidSongIndex(1));
+  EXPECT_FALSE(store.IsValidSongIndex(2));
+  EXPECT_FALSE(store.IsValidSongIndex(-1));
+  for (const std::int32_t wrong : {-1, 1, 2147483647, -2147483647 - 1}) {
+    store.currentGroup = wrong;
+    EXPECT_FALSE(store.IsValidPlaylistIndex(0));
+    EXPECT_FALSE(store.IsValidSongIndex(0));
+    EXPECT_EQ(store.SongAt(0), nullptr);
+    EXPECT_EQ(store.CurrentPlaylist(), nullptr);
+    EXPECT_EQ(store.GetSongTreeNode(0), TCTreeNode::None);
+    store.currentGroup = 0;
+    store.currentPlaylist = wrong;
+    EXPECT_FALSE(store.IsValidSongIndex(0));
+    store.currentPlaylist = 0;
+  }
+}
+
+TEST(SetListStoreTest, ASongsTreeNodeIsGivenByItsIndex) {
+  const TCSetListStore store = StoreWithTwoSongs();
+  EXPECT_EQ(store.GetSongTreeNode(1), TCTreeNode{7});
+  EXPECT_EQ(store.GetSongTreeNode(2), TCTreeNode::None);
+}
+
+TEST(SetListStoreTest, AfterAClearThereIsNoSongAndThePositionIsTheStart) {
+  TCSetListStore store = StoreWithTwoSongs();
+  store.currentSong = 1;
+  store.documentFileName = u"show.brv";
+  store.ClearSetLists();
+  EXPECT_TRUE(store.groups.empty());
+  EXPECT_EQ(store.currentGroup, 0);
+  EXPECT_EQ(store.currentPlaylist, 0);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_FALSE(store.IsValidSongIndex(0));
+  EXPECT_EQ(store.GetSongTreeNode(0), TCTreeNode::None);
+  EXPECT_EQ(store.documentFileName, u"show.brv");
+}
+
+TEST(SetListStoreTest, AGroupTakesItsTypeFromTheDocumentAndAPlaylistFromItsGroup) {
+  TCSetListStore store;
+  store.documentFileName = u"show.brv";
+  store.groups.resize(1);
+  store.SetGroupFileInfo(0, u"D:\\Shows\\Summer.brvgl");
+  EXPECT_EQ(store.groups[0].name, u"Summer.brvgl");
+  EXPECT_EQ(store.groups[0].folder.str(), u"D:\\Shows\\");
+  EXPECT_EQ(store.groups[0].extension, u"brv");
+
+  store.groups[0].playlists.resize(1);
+  TCSetListStore::SetPlaylistFileInfo(store.groups[0], 0, u"D:\\Shows\\Set 1.txt");
+  EXPECT_EQ(store.groups[0].playlists[0].name, u"Set 1.txt");
+  EXPECT_EQ(store.groups[0].playlists[0].folder.str(), u"D:\\Shows\\");
+  EXPECT_EQ(store.groups[0].playlists[0].extension, u"brvgl");
+}
+
+TEST(SetListStoreTest, FileInfoForAnIndexOutsideDoesNothing) {
+  TCSetListStore store = StoreWithTwoSongs();
+  store.SetGroupFileInfo(1, u"D:\\x.brvgl");
+  store.SetGroupFileInfo(-1, u"D:\\x.brvgl");
+  TCSetListStore::SetPlaylistFileInfo(store.groups[0], 1, u"D:\\x.brvpl");
+  TCSetListStore::SetPlaylistFileInfo(store.groups[0], -1, u"D:\\x.brvpl");
+  EXPECT_EQ(store.groups[0].name, u"Sets");
+  EXPECT_EQ(store.groups[0].playlists[0].name, u"P1");
+}
+
+TEST(SetListStoreTest, ATotalCountsTheLatencyOnlyBetweenSongs) {
+  TCSetListStore store;
+  TCPlayList playlist;
+  playlist.items = {SongOf(u"a", u"03:00"), SongOf(u"b", u"04:00"), SongOf(u"c", u"00:30")};
+  store.RecalcPlaylistTotalTime(playlist);
+  EXPECT_EQ(playlist.totalTime, u"08:00");
+  playlist.items.resize(1);
+  store.RecalcPlaylistTotalTime(playlist);
+  EXPECT_EQ(playlist.totalTime, u"03:00");
+}
+
+TEST(SetListStoreTest, ALatencyOfZeroMakesTheTotalThePlainSum) {
+  TCSetListStore store;
+  store.songLatencySeconds = 0;
+  TCPlayList playlist;
+  playlist.items = {SongOf(u"a", u"03:00"), SongOf(u"b", u"04:00")};
+  store.RecalcPlaylistTotalTime(playlist);
+  EXPECT_EQ(playlist.totalTime, u"07:00");
+}
+
+TEST(SetListStoreTest, APlaylistWithoutSongsKeepsItsTotal) {
+  TCPlayList playlist;
+  playlist.totalTime = u"12:34";
+  TCSetListStore{}.RecalcPlaylistTotalTime(playlist);
+  EXPECT_EQ(playlist.totalTime, u"12:34");
+}
+
+TEST(SetListStoreTest, ANegativeTotalIsShownAsNothing) {
+  TCSetListStore store;
+  store.songLatencySeconds = -600;
+  TCPlayList playlist;
+  playlist.items = {SongOf(u"a", u"03:00"), SongOf(u"b", u"04:00")};
+  store.RecalcPlaylistTotalTime(playlist);
+  EXPECT_EQ(playlist.totalTime, u"00:00");
+}
+
+TEST(SetListStoreTest, ASumPast32BitsWraps) {
+  TCSetListStore store;
+  store.songLatencySeconds = 2147483647;
+  TCPlayList playlist;
+  playlist.items = {SongOf(u"a", u"00:01"), SongOf(u"b", u"00:01"), SongOf(u"c", u"00:02")};
+  store.RecalcPlaylistTotalTime(playlist);
+  EXPECT_EQ(playlist.totalTime, u"00:02");  // 2 * 2147483647 + 4 is 2 modulo 2^32
+}
+
+TEST(SetListStoreTest, LastShownNamesAreThoseOfTheCurrentPosition) {
+  TCSetListStore store = StoreWithTwoSongs();
+  store.currentSong = 1;
+  store.RecordLastShownNames();
+  EXPECT_EQ(store.lastGroupListName, u"Sets");
+  EXPECT_EQ(store.lastPlayListName, u"P1");
+  EXPECT_EQ(store.lastSongName, u"b.mp3");
+  store.currentSong = 9;
+  store.currentPlaylist = 9;
+  store.RecordLastShownNames();
+  EXPECT_EQ(store.lastPlayListName, u"P1");
+  EXPECT_EQ(store.lastSongName, u"b.mp3");
+}
+
+TEST(SetListStoreTest, TheListOfNamesIsASnapshot) {
+  TCSetListStore store = StoreWithTwoSongs();
+  std::vector<TCGroupNamesLists> names(5);
+  store.BuildGroupNamesLists(names);
+  store.groups[0].name = u"Renamed";
+  ASSERT_EQ(names.size(), 1u);
+  EXPECT_EQ(names[0].groupName, u"Sets");
+  EXPECT_EQ(names[0].playlistNames, std::vector<std::u16string>{u"P1"});
+}
+
+}  // namespace
+}  // namespace brevant

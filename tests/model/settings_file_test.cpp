@@ -1,0 +1,224 @@
+#include "model/settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include "support/memory_files.h"
+
+namespace brevant {
+namespace {
+
+constexpr std::u16string_view kFolder = u"\\home\\me\\.config\\Korvel\\Brevant\\";
+constexpr std::u16string_view kPath = u"\\home\\me\\.config\\Korvel\\Brevant\\Brevant.ini";
+
+class SettingsFileTest : public testing::Test {
+ protected:
+  TCMemoryFiles files;
+  TCAppRecord record;
+  TCSettingsFile settingsFile{files, kFolder};
+
+  // Loads a file that holds `keys` under the heading.
+  TCSettings Load(const std::string& keys) {
+    files.Put(kPath, "[Brevant]\r\n" + keys);
+    EXPECT_TRUE(settingsFile.LoadSettings(record));
+    return record.settings;
+  }
+};
+
+TEST_F(SettingsFileTest, TheFileLiesInItsFolder) {
+  EXPECT_EQ(settingsFile.SettingsFilePath(), kPath);
+}
+
+TEST_F(SettingsFileTest, WithoutAFileEveryOptionKeepsItsDefault) {
+  EXPECT_FALSE(settingsFile.LoadSettings(record));
+  const TCSettings& settings = record.settings;
+  EXPECT_FALSE(settings.settingsFileFound);
+  EXPECT_TRUE(settings.loadLastWindowState);
+  EXPECT_TRUE(settings.loadLastFileOnProgramRun);
+  EXPECT_TRUE(settings.whiteOnBlack);
+  EXPECT_TRUE(settings.dynamicPlayColours);
+  EXPECT_TRUE(settings.confirmFileRemove);
+  EXPECT_TRUE(settings.foldersSaveFormat);
+  EXPECT_TRUE(settings.immediatePlay);
+  EXPECT_FALSE(settings.playlistManagerImmediatePlay);
+  EXPECT_TRUE(settings.autoSongAdvance);
+  EXPECT_FALSE(settings.autoRecycle);
+  EXPECT_FALSE(settings.autoPlayPlayList);
+  EXPECT_FALSE(settings.liveViewMode);
+  EXPECT_EQ(settings.lastMediaFileExtSpec, u"");
+  EXPECT_EQ(settings.playListFontSize, 14);
+  EXPECT_EQ(settings.lyricsFontSize, 18);
+  EXPECT_EQ(settings.numberLyricLines, 2);
+  EXPECT_EQ(settings.volumeStep, 5);
+  EXPECT_EQ(settings.seekStepSeconds, 2);
+  EXPECT_EQ(settings.disableEditing, 0);
+  EXPECT_EQ(record.setLists.songLatencySeconds, 15);
+  EXPECT_EQ(record.setLists.validMediaExtensions, u"mid mp3 wav wma");
+  EXPECT_EQ(settings.backgroundColour, 0x000000u);
+  EXPECT_EQ(settings.textColour, 0xFFFFFFu);
+}
+
+TEST_F(SettingsFileTest, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
+  record.settings.autoRecycle = false;
+  record.settings.playlistManagerImmediatePlay = true;
+  record.settings.autoPlayPlayList = true;
+  const TCSettings settings = Load("PlayListFontSize=33\r\n");
+  EXPECT_TRUE(settings.settingsFileFound);
+  EXPECT_TRUE(settings.autoRecycle);
+  EXPECT_TRUE(settings.loadLastWindowState);
+  EXPECT_FALSE(settings.playlistManagerImmediatePlay);
+  EXPECT_TRUE(settings.autoPlayPlayList);  // a missing key leaves it
+  EXPECT_FALSE(settings.liveViewMode);
+  EXPECT_EQ(settings.lastMediaFileExtSpec, u"*.mp3");
+  EXPECT_EQ(settings.lyricsFontSize, 33);  // the playlist's size just read
+  EXPECT_EQ(settings.playListFontTypeName, u"Times New Roman");
+}
+
+TEST_F(SettingsFileTest, MostOptionsAreOnUnlessTheValueBeginsWithN) {
+  EXPECT_FALSE(Load("WhiteOnBlack=nope\r\n").whiteOnBlack);
+  EXPECT_FALSE(Load("WhiteOnBlack=No\r\n").whiteOnBlack);
+  EXPECT_TRUE(Load("WhiteOnBlack=YES\r\n").whiteOnBlack);
+  EXPECT_TRUE(Load("WhiteOnBlack=1\r\n").whiteOnBlack);
+  EXPECT_TRUE(Load("WhiteOnBlack=false\r\n").whiteOnBlack);
+}
+
+TEST_F(SettingsFileTest, AnEmptyValueLeavesTheOptionAsItIs) {
+  record.settings.autoSongAdvance = false;
+  record.settings.lastMediaFileName = u"kept";
+  const TCSettings settings = Load("AutoSongAdvance=\r\nLastMediaFileName=\r\n");
+  EXPECT_FALSE(settings.autoSongAdvance);
+  EXPECT_EQ(settings.lastMediaFileName, u"kept");
+}
+
+TEST_F(SettingsFileTest, SomeOptionsAreOnOnlyWhenTheValueBeginsWithY) {
+  EXPECT_TRUE(Load("AutoPlayPlayList=Yes\r\n").autoPlayPlayList);
+  EXPECT_FALSE(Load("AutoPlayPlayList=1\r\n").autoPlayPlayList);
+  EXPECT_TRUE(Load("LiveViewMode=yep\r\n").liveViewMode);
+  EXPECT_FALSE(Load("LiveViewMode=No\r\n").liveViewMode);
+  EXPECT_TRUE(Load("PlaylistManagerImmediatePlay=y\r\n").playlistManagerImmediatePlay);
+}
+
+TEST_F(SettingsFileTest, TheTwoColoursFollowWhiteOnBlack) {
+  const TCSettings off = Load("WhiteOnBlack=No\r\n");
+  EXPECT_EQ(off.backgroundColour, 0xFFFFFFu);
+  EXPECT_EQ(off.textColour, 0x000000u);
+  const TCSettings on = Load("WhiteOnBlack=Yes\r\n");
+  EXPECT_EQ(on.backgroundColour, 0x000000u);
+  EXPECT_EQ(on.textColour, 0xFFFFFFu);
+}
+
+TEST_F(SettingsFileTest, ANumberThatIsNoneReadsAsZeroAndNoRangeIsHeld) {
+  const TCSettings settings = Load("SongLatencySeconds=abc\r\nPlayListFontSize=-5\r\nVolumeStep=12x\r\n");
+  EXPECT_EQ(record.setLists.songLatencySeconds, 0);
+  EXPECT_EQ(settings.playListFontSize, -5);
+  EXPECT_EQ(settings.volumeStep, 12);
+}
+
+TEST_F(SettingsFileTest, TheKeyWithABlankIsReadAsANumber) {
+  EXPECT_EQ(Load("Disable Editing=1\r\n").disableEditing, 1);
+}
+
+TEST_F(SettingsFileTest, EveryKeyIsWrittenInItsOrderUnderTheOneHeading) {
+  record.settings.autoSongAdvance = false;
+  record.setLists.documentFolder = u"D:\\Docs\\";
+  record.setLists.documentFileName = u"show.brv";
+  record.setLists.lastSongName = u"a.mp3";
+  ASSERT_TRUE(settingsFile.SaveSettings(record));
+  EXPECT_EQ(files.BytesOf(kPath),
+            "[Brevant]\r\n"
+            "LoadLastWindowState=Yes\r\n"
+            "LoadLastFileOnProgramRun=Yes\r\n"
+            "LastLoadedFileName=D:\\Docs\\show.brv\r\n"
+            "WhiteOnBlack=Yes\r\n"
+            "DynamicPlayColours=Yes\r\n"
+            "ConfirmFileRemove=Yes\r\n"
+            "FoldersSaveFormat=Yes\r\n"
+            "ImmediatePlay=Yes\r\n"
+            "PlaylistManagerImmediatePlay=No\r\n"
+            "AutoSongAdvance=No\r\n"
+            "AutoRecycle=No\r\n"
+            "AutoPlayPlayList=No\r\n"
+            "LiveViewMode=No\r\n"
+            "ValidMediaFileExtensions=mid mp3 wav wma\r\n"
+            "LastMediaFileName=\r\n"
+            "LastMediaFileExtSpec=\r\n"
+            "LastGroupListName=\r\n"
+            "LastPlayListName=\r\n"
+            "LastSongName=a.mp3\r\n"
+            "PlayListFontTypeName=Times New Roman\r\n"
+            "LyricsFontTypeName=Times New Roman\r\n"
+            "SongLatencySeconds=15\r\n"
+            "FastFowardFastReverseTimeStep=2\r\n"
+            "VolumeStep=5\r\n"
+            "Disable Editing=0\r\n"
+            "PlayListFontSize=14\r\n"
+            "LyricsFontSize=18\r\n"
+            "NumberLyricLines=2\r\n");
+  EXPECT_EQ(files.foldersMade, std::vector<std::u16string>{std::u16string(kFolder)});
+}
+
+TEST_F(SettingsFileTest, WhatWasWrittenIsReadBack) {
+  TCAppRecord written;
+  written.settings.autoRecycle = true;
+  written.settings.liveViewMode = true;
+  written.settings.dynamicPlayColours = false;
+  written.settings.lyricsFontSize = 44;
+  written.settings.disableEditing = 1;
+  written.setLists.validMediaExtensions = u"\"mp3\" \"wav\"";
+  written.setLists.lastGroupListName = u"Zürich 東京";
+  written.setLists.lastPlayListName = u" blanks ";
+  ASSERT_TRUE(settingsFile.SaveSettings(written));
+  ASSERT_TRUE(settingsFile.LoadSettings(record));
+  EXPECT_TRUE(record.settings.autoRecycle);
+  EXPECT_TRUE(record.settings.liveViewMode);
+  EXPECT_FALSE(record.settings.dynamicPlayColours);
+  EXPECT_EQ(record.settings.lyricsFontSize, 44);
+  EXPECT_EQ(record.settings.disableEditing, 1);
+  EXPECT_EQ(record.setLists.validMediaExtensions, u"\"mp3\" \"wav\"");
+  EXPECT_EQ(record.setLists.lastGroupListName, u"Zürich 東京");
+  EXPECT_EQ(record.setLists.lastPlayListName, u" blanks ");
+}
+
+TEST_F(SettingsFileTest, WhatElseStandsInTheFileIsKept) {
+  files.Put(kPath, "; mine\r\n[Other]\r\na=1\r\n[Brevant]\r\nUnknown=7\r\n");
+  ASSERT_TRUE(settingsFile.SaveSettings(record));
+  const std::string bytes = files.BytesOf(kPath).value_or("");
+  EXPECT_NE(bytes.find("; mine"), std::string::npos);
+  EXPECT_NE(bytes.find("[Other]\r\na=1"), std::string::npos);
+  EXPECT_NE(bytes.find("Unknown=7"), std::string::npos);
+}
+
+TEST_F(SettingsFileTest, APendingResetDeletesTheFileInsteadOfWritingIt) {
+  files.Put(kPath, "[Brevant]\r\n");
+  record.settings.ToggleReset();
+  EXPECT_FALSE(settingsFile.SaveSettings(record));
+  EXPECT_FALSE(files.BytesOf(kPath).has_value());
+  EXPECT_TRUE(files.writes.empty());
+}
+
+TEST_F(SettingsFileTest, AResetChosenTwiceIsNone) {
+  record.settings.ToggleReset();
+  record.settings.ToggleReset();
+  EXPECT_TRUE(settingsFile.SaveSettings(record));
+  EXPECT_TRUE(files.BytesOf(kPath).has_value());
+}
+
+TEST_F(SettingsFileTest, AFailedWriteIsSilent) {
+  files.failWrites = true;
+  EXPECT_TRUE(settingsFile.SaveSettings(record));
+  files.failFolders = true;
+  EXPECT_TRUE(settingsFile.SaveSettings(record));
+}
+
+TEST_F(SettingsFileTest, TheLastDocumentIsReadOnItsOwn) {
+  EXPECT_EQ(settingsFile.LastLoadedFileName(), u"");
+  files.Put(kPath, "[Brevant]\r\nLastLoadedFileName=D:\\Docs\\show.brv\r\n");
+  EXPECT_EQ(settingsFile.LastLoadedFileName(), u"D:\\Docs\\show.brv");
+}
+
+TEST_F(SettingsFileTest, AValueLongerThanTheBufferIsCutOff) {
+  Load("LastSongName=" + std::string(5000, 'x') + "\r\n");
+  EXPECT_EQ(record.setLists.lastSongName.size(), 4091u);
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,438 @@
+#include "playback/transport.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/fake_player.h"
+#include "support/memory_files.h"
+#include "support/message_log.h"
+#include "support/set_list_display_log.h"
+
+namespace brevant {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+// Two groups: the first with playlists of three songs and of one, the second with one of two songs. Every
+// song is there and lasts ten seconds.
+class TransportTest : public testing::Test {
+ protected:
+  TransportTest() {
+    AddGroup({{u"a1", u"a2", u"a3"}, {u"b1"}});
+    AddGroup({{u"c1", u"c2"}});
+    player.SetDefaultSong({.length = 10.4});
+  }
+
+  void AddGroup(const std::vector<std::vector<std::u16string>>& playlists) {
+    TCPlayGroups& group = store.groups.emplace_back();
+    for (const auto& names : playlists) {
+      TCPlayList& playlist = group.playlists.emplace_back();
+      for (const std::u16string& name : names) {
+        const std::u16string path = u"C:\\" + name + u".mp3";
+        playlist.items.emplace_back().SetPath(path);
+        files.Put(path);
+      }
+    }
+  }
+
+  // Lets `seconds` pass with a poll every 300 ms.
+  void Run(double seconds) {
+    for (double passed = 0.0; passed < seconds; passed += 0.3) {
+      player.Advance(0.3);
+      transport.OnPlayTimerTick();
+    }
+  }
+
+  TCPlayListItem& Song(std::size_t index) { return store.groups[0].playlists[0].items[index]; }
+
+  TCMemoryFiles files;
+  TCAppRecord record;
+  TCSetListStore& store = record.setLists;
+  TCSettings& settings = record.settings;
+  TCFakePlayer player;
+  TCSetListDisplayLog display;
+  TCMessageLog messages;
+  TCTransport transport{record, files, &player, display, messages};
+};
+
+TEST_F(TransportTest, PlayLoadsTheCurrentSongAndStartsIt) {
+  store.currentSong = 1;
+  messages.Append(u"old");
+  transport.Play();
+  EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\a2.mp3", "Play"));
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_FALSE(transport.State().started);
+  EXPECT_EQ(transport.State().lastLyricIndex, -1);
+  EXPECT_TRUE(transport.State().refreshSongTime);
+  EXPECT_EQ(Song(1).status, TCSongStatus::Found);
+  EXPECT_THAT(display.calls, Contains("Row 1"));
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+TEST_F(TransportTest, PlayOfAMissingFileSaysSoAndChangesNoState) {
+  files.Remove(u"C:\\a1.mp3");
+  transport.Play();
+  EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_THAT(display.calls, Contains("Row 0"));
+  EXPECT_THAT(player.Calls(), Not(Contains("Play")));
+  EXPECT_FALSE(transport.State().playing);
+}
+
+TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndAdvances) {
+  transport.Play();
+  Run(1.0);
+  ASSERT_TRUE(transport.State().started);
+  files.Remove(u"C:\\a2.mp3");
+  player.SetSong(u"C:\\a2.mp3", {.playable = false});
+  store.currentSong = 1;
+  transport.Play();
+  EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3");
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_TRUE(transport.State().started);
+  Run(0.3);
+  EXPECT_FALSE(transport.State().playing);
+  EXPECT_EQ(store.currentSong, 2);
+}
+
+TEST_F(TransportTest, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
+  store.currentPlaylist = 1;
+  store.currentSong = 2;  // of the longer playlist before
+  transport.Play();
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_THAT(display.calls, Contains("Highlight"));
+  EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\b1.mp3", "Play"));
+  EXPECT_TRUE(transport.State().playing);
+}
+
+TEST_F(TransportTest, PlayWithoutAnySongPlaysWritesAndReportsNothing) {
+  store.ClearSetLists();
+  transport.Play();
+  EXPECT_THAT(player.Calls(), IsEmpty());
+  EXPECT_THAT(messages.lines, IsEmpty());
+  EXPECT_EQ(messages.clears, 0);
+  EXPECT_FALSE(transport.State().playing);
+}
+
+TEST_F(TransportTest, ARefusedPlayLeavesTheFlagsAsIfPlayingAndTheMessagesStanding) {
+  messages.Append(u"old");
+  player.AcceptCommands(false);
+  transport.Play();
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_THAT(messages.lines, ElementsAre(u"old"));
+}
+
+TEST_F(TransportTest, StopTakesTheSongsTimeAndLeavesPausedAndStarted) {
+  transport.Play();
+  Run(1.0);
+  transport.PauseContinue();
+  Song(0).time = u"00:00";
+  transport.Stop();
+  EXPECT_EQ(Song(0).time, u"00:10");
+  EXPECT_EQ(player.GetPosition(), 0.0);
+  EXPECT_FALSE(transport.State().playing);
+  EXPECT_TRUE(transport.State().paused);
+  EXPECT_TRUE(transport.State().started);
+  EXPECT_EQ(transport.State().lastLyricIndex, -1);
+}
+
+TEST_F(TransportTest, StopNeverAdvances) {
+  transport.Play();
+  Run(1.0);
+  transport.Stop();
+  Run(2.0);
+  EXPECT_EQ(store.currentSong, 0);
+}
+
+TEST_F(TransportTest, ADurationThatFailsIsStoredAsNothing) {
+  Song(0).time = u"03:25";
+  transport.RefreshCurrentSongTime();  // nothing is loaded
+  EXPECT_EQ(Song(0).time, u"00:00");
+  EXPECT_THAT(display.calls, Contains("Time 0 00:00"));
+}
+
+TEST_F(TransportTest, AChangedSongTimeMovesTheTotal) {
+  store.RecalcAllTotalTimes();
+  EXPECT_EQ(store.groups[0].playlists[0].totalTime, u"00:30");
+  transport.Play();
+  Run(0.6);
+  EXPECT_EQ(Song(0).time, u"00:10");
+  EXPECT_EQ(store.groups[0].playlists[0].totalTime, u"00:40");
+  EXPECT_THAT(display.calls, Contains("Total"));
+  EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, ASongTimeThatIsNotKnownYetIsAskedForAgain) {
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .opensAfter = 1.0});
+  Song(0).time = u"03:25";
+  transport.Play();
+  Run(0.6);
+  EXPECT_EQ(Song(0).time, u"03:25");
+  EXPECT_TRUE(transport.State().refreshSongTime);
+  Run(0.9);
+  EXPECT_EQ(Song(0).time, u"00:10");
+}
+
+TEST_F(TransportTest, PauseHoldsTheSongAndContinueGoesOn) {
+  transport.Play();
+  Run(3.0);
+  transport.PauseContinue();
+  EXPECT_TRUE(transport.State().paused);
+  const double held = player.GetPosition().value_or(0.0);
+  Run(20.0);
+  EXPECT_EQ(player.GetPosition(), held);
+  EXPECT_TRUE(transport.State().playing);  // a paused song never counts as ended
+  EXPECT_EQ(store.currentSong, 0);
+  transport.PauseContinue();
+  EXPECT_FALSE(transport.State().paused);
+  Run(0.3);
+  EXPECT_GT(player.GetPosition().value_or(0.0), held);
+}
+
+TEST_F(TransportTest, TheFirstPauseContinueAfterStoppingAPausedSongStartsItAgain) {
+  transport.Play();
+  Run(1.0);
+  transport.PauseContinue();
+  transport.Stop();
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4});
+  transport.PauseContinue();
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_FALSE(transport.State().started);  // the silence before the sound is no end
+  transport.OnPlayTimerTick();
+  EXPECT_EQ(store.currentSong, 0);
+  Run(1.0);
+  EXPECT_TRUE(transport.State().started);
+  EXPECT_FALSE(transport.State().paused);
+}
+
+TEST_F(TransportTest, AnEndedSongMovesTheHighlightAndPlaysNothingByDefault) {
+  transport.Play();
+  Run(11.0);
+  EXPECT_EQ(store.currentSong, 1);
+  EXPECT_FALSE(transport.State().playing);
+  EXPECT_FALSE(transport.State().started);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a1.mp3");
+  EXPECT_THAT(display.calls, Contains("Highlight"));
+}
+
+TEST_F(TransportTest, WithAutoPlaySongsFollowEachOtherWithoutTheLatency) {
+  settings.autoPlayPlayList = true;
+  store.songLatencySeconds = 600;
+  transport.Play();
+  Run(11.4);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3");
+  EXPECT_TRUE(transport.State().playing);
+  Run(11.4);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a3.mp3");
+}
+
+TEST_F(TransportTest, WithoutAutoAdvanceTheTransportRestsOnTheEndedSong) {
+  settings.autoSongAdvance = false;
+  settings.autoPlayPlayList = true;
+  transport.Play();
+  Run(12.0);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_FALSE(transport.State().playing);
+}
+
+TEST_F(TransportTest, AtTheLastSongTheTransportRests) {
+  settings.autoPlayPlayList = true;
+  store.currentSong = 2;
+  transport.Play();
+  Run(12.0);
+  EXPECT_EQ(store.currentSong, 2);
+  EXPECT_EQ(store.currentPlaylist, 0);
+  EXPECT_FALSE(transport.State().playing);
+}
+
+TEST_F(TransportTest, RecyclingGoesThroughAllPlaylistsAndStartsAgain) {
+  settings.autoRecycle = true;
+  settings.autoPlayPlayList = true;
+  store.currentSong = 2;
+  transport.Play();
+  Run(11.4);
+  EXPECT_EQ(player.GetUrl(), u"C:\\b1.mp3");
+  EXPECT_THAT(display.calls, Contains("ShowPlaylist 0 1"));
+  Run(11.4);
+  EXPECT_EQ(player.GetUrl(), u"C:\\c1.mp3");
+  EXPECT_EQ(store.currentGroup, 1);
+  Run(22.8);
+  EXPECT_EQ(store.currentGroup, 0);
+  EXPECT_EQ(store.currentPlaylist, 0);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a1.mp3");
+  EXPECT_THAT(display.calls, Contains("ShowPlaylist 0 0"));
+}
+
+TEST_F(TransportTest, RecyclingFromTheMiddleOfAPlaylistStaysInIt) {
+  settings.autoRecycle = true;
+  transport.Play();
+  Run(11.0);
+  EXPECT_EQ(store.currentPlaylist, 0);
+  EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, ASongThatHasNotBegunIsNotTakenForEnded) {
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .soundsAfter = 5.0});
+  transport.Play();
+  Run(4.0);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_FALSE(transport.State().started);
+  EXPECT_EQ(store.currentSong, 0);
+}
+
+TEST_F(TransportTest, ASeekBackToTheStartIsNoEnd) {
+  transport.Play();
+  Run(2.0);
+  player.SetPosition(0.0);
+  transport.OnPlayTimerTick();
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_EQ(store.currentSong, 0);
+}
+
+TEST_F(TransportTest, ASongCutOffByALostFileEndsLikeAnother) {
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .breaksOffAt = 2.0});
+  transport.Play();
+  Run(3.0);
+  EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, ALostSoundDeviceIsNoEnd) {
+  transport.Play();
+  Run(2.0);
+  player.ConnectDevice(false);
+  Run(30.0);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_EQ(store.currentSong, 0);
+}
+
+TEST_F(TransportTest, SteppingNeverWrapsAndNeverPlays) {
+  transport.PriorSong();
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_THAT(display.calls, IsEmpty());
+  transport.NextSong();
+  transport.NextSong();
+  EXPECT_EQ(store.currentSong, 2);
+  transport.NextSong();
+  EXPECT_EQ(store.currentSong, 2);
+  EXPECT_THAT(display.calls, ElementsAre("Highlight", "Highlight"));
+  transport.PriorSong();
+  EXPECT_EQ(store.currentSong, 1);
+  EXPECT_THAT(player.Calls(), IsEmpty());
+}
+
+TEST_F(TransportTest, SteppingWithACurrentGroupOrPlaylistOutOfRangeDoesNothing) {
+  for (const std::int32_t wrong : {-1, 7}) {
+    store.currentGroup = wrong;
+    transport.NextSong();
+    transport.PriorSong();
+    EXPECT_EQ(store.currentSong, 0);
+  }
+  EXPECT_THAT(display.calls, IsEmpty());
+}
+
+TEST_F(TransportTest, PlaylistStepsShowThePlaylistAndFocusIt) {
+  store.currentSong = 2;
+  EXPECT_TRUE(transport.NextPlaylist());
+  EXPECT_EQ(store.currentPlaylist, 1);
+  EXPECT_EQ(store.currentSong, 2);  // stays, though it names no song here
+  EXPECT_THAT(display.calls, ElementsAre("Focus", "ShowPlaylist 0 1"));
+  EXPECT_TRUE(transport.NextPlaylist());
+  EXPECT_FALSE(transport.NextPlaylist());
+  EXPECT_EQ(store.currentGroup, 1);
+  display.calls.clear();
+  transport.PriorPlaylist();
+  EXPECT_THAT(display.calls, ElementsAre("Focus", "ShowPlaylist 0 0"));
+  transport.PriorPlaylist();
+  EXPECT_EQ(store.currentPlaylist, 0);
+}
+
+TEST_F(TransportTest, WithoutGroupsAPlaylistStepOnlyTakesTheFocus) {
+  store.ClearSetLists();
+  EXPECT_FALSE(transport.NextPlaylist());
+  transport.PriorPlaylist();
+  EXPECT_THAT(display.calls, ElementsAre("Focus", "Focus"));
+}
+
+TEST_F(TransportTest, ASelectedSongBecomesCurrentAndPlaysAtOnce) {
+  store.groups[0].name = u"G";
+  transport.SelectSong(1, TCSelect::MayPlay);
+  EXPECT_EQ(store.currentSong, 1);
+  EXPECT_EQ(store.lastGroupListName, u"G");
+  EXPECT_EQ(store.lastSongName, u"a2.mp3");
+  EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\a2.mp3", "Play"));
+  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
+}
+
+TEST_F(TransportTest, ASongIsSelectedSilentlyWhenItMayNotPlayOrTheOptionIsOff) {
+  transport.SelectSong(1, TCSelect::Silently);
+  settings.immediatePlay = false;
+  transport.SelectSong(2, TCSelect::MayPlay);
+  EXPECT_EQ(store.currentSong, 2);
+  EXPECT_THAT(player.Calls(), IsEmpty());
+}
+
+TEST_F(TransportTest, SelectingWhatIsNoSongDoesNothing) {
+  transport.SelectSong(-1, TCSelect::MayPlay);
+  transport.SelectSong(3, TCSelect::MayPlay);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_THAT(display.calls, IsEmpty());
+}
+
+TEST_F(TransportTest, CancelDropsPendingTimesAndTouchesNoSound) {
+  transport.Play();
+  player.ForgetCalls();
+  transport.CancelPending();
+  EXPECT_FALSE(transport.State().refreshSongTime);
+  EXPECT_FALSE(transport.State().timesPending);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_THAT(player.Calls(), IsEmpty());
+}
+
+TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsEndStartsNothing) {
+  settings.autoPlayPlayList = true;
+  transport.Play();
+  Run(2.0);
+  transport.ForgetSong();
+  player.ForgetCalls();
+  Run(12.0);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_THAT(player.Calls(), IsEmpty());
+}
+
+TEST_F(TransportTest, TheSameKeyPressedTwiceStartsTheSongAnew) {
+  transport.Play();
+  Run(4.0);
+  transport.Play();
+  EXPECT_FALSE(transport.State().started);
+  Run(0.6);
+  EXPECT_LT(player.GetPosition().value_or(9.0), 1.0);
+  EXPECT_EQ(store.currentSong, 0);
+}
+
+TEST_F(TransportTest, WithoutControlsAPlayingSongIsLeftAlone) {
+  player.ShowControls(false);
+  transport.Play();
+  Run(2.0);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_FALSE(transport.State().started);
+}
+
+TEST_F(TransportTest, WithoutAPlayerEveryCommandRunsWithoutEffectAndWithoutError) {
+  TCTransport mute(record, files, nullptr, display, messages);
+  mute.Play();
+  mute.Stop();
+  mute.PauseContinue();
+  mute.OnPlayTimerTick();
+  mute.SelectSong(1, TCSelect::MayPlay);
+  EXPECT_FALSE(mute.State().playing);
+  EXPECT_FALSE(mute.State().paused);
+  EXPECT_EQ(store.currentSong, 1);
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,25 @@
+// A frame without a window, for tests of the document.
+#pragma once
+
+#include <string>
+
+#include "document/frame_display.h"
+
+namespace brevant {
+
+class TCFakeFrame final : public TCFrameDisplay {
+ public:
+  std::u16string name = u"?";
+  TCModifiedMark mark = TCModifiedMark::Clean;
+  int optionShows = 0;
+  std::u16string status;
+
+  void ShowTitle(std::u16string_view documentName, TCModifiedMark modifiedMark) override {
+    name = documentName;
+    mark = modifiedMark;
+  }
+  void ShowOptions() override { ++optionShows; }
+  void ShowStatus(std::u16string_view text) override { status = text; }
+};
+
+}  // namespace brevant

@@ -1,0 +1,46 @@
+// Questions answered from a queue. An unexpected question fails the test.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <optional>
+#include <string>
+
+#include "document/prompts.h"
+
+namespace brevant {
+
+class TCFakePrompts final : public TCPrompts {
+ public:
+  std::deque<TCSaveAnswer> saveAnswers;
+  std::deque<std::optional<std::u16string>> openAnswers;
+  std::deque<std::optional<std::u16string>> saveAsAnswers;
+  std::u16string lastName;
+
+  TCSaveAnswer AskSaveChanges(std::u16string_view name) override {
+    lastName = name;
+    return Next(saveAnswers, TCSaveAnswer::Cancel);
+  }
+  std::optional<std::u16string> ChooseDocumentToOpen() override {
+    return Next(openAnswers, std::optional<std::u16string>());
+  }
+  std::optional<std::u16string> ChooseDocumentToSave(std::u16string_view suggestedPath) override {
+    lastName = suggestedPath;
+    return Next(saveAsAnswers, std::optional<std::u16string>());
+  }
+
+ private:
+  template <typename Answer>
+  static Answer Next(std::deque<Answer>& answers, Answer none) {
+    if (answers.empty()) {
+      ADD_FAILURE() << "a question was asked that nobody expected";
+      return none;
+    }
+    Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+}  // namespace brevant
