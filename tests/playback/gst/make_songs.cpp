@@ -89,8 +89,8 @@ bool Run(const std::string& command) {
 bool MakeSongs(const std::string& folder, const std::string& lame, const std::string& ffmpeg) {
   const auto path = [&folder](const char* name) { return "'" + folder + "/" + name + "'"; };
   const auto plain = [&folder](const char* name) { return folder + "/" + name; };
-  bool made = Write(plain("tone.wav"), Wav(2.0, Tone)) && Write(plain("mark.wav"), Wav(30.0, Mark)) &&
-              Write(plain("uneven.wav"), Wav(30.0, Uneven)) && Write(plain("short.wav"), Wav(0.4, Tone)) &&
+  bool made = Write(plain("tone.wav"), Wav(2.05, Tone)) && Write(plain("mark.wav"), Wav(30.1, Mark)) &&
+              Write(plain("uneven.wav"), Wav(30.1, Uneven)) && Write(plain("short.wav"), Wav(0.4, Tone)) &&
               Write(plain("blink.wav"), Wav(0.05, Tone)) && Write(plain("silent.wav"), Wav(0.0, Tone));
   // Two seconds: a quarter of 0.5, two of 0.25, one of 1. Thirty: a second each, then half seconds.
   made = made && Write(plain("tone.mid"), Midi(4, 0, [](int quarter) {
