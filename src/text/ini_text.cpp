@@ -1,6 +1,7 @@
 #include "text/ini_text.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "text/case_folding.h"
 #include "text/unicode.h"
@@ -11,7 +12,7 @@ namespace brevant {
 namespace {
 
 constexpr std::size_t kNone = std::u16string_view::npos;
-constexpr std::u16string_view kByteOrderMark = u"\uFEFF";
+constexpr char16_t kByteOrderMark = u'\uFEFF';
 
 std::u16string DecodeUtf16(std::string_view bytes) {
   std::u16string text;
@@ -87,12 +88,8 @@ std::uint32_t DigitValue(char16_t unit) {
 
 TCIniText TCIniText::Parse(std::string_view bytes) {
   const bool utf16 = bytes.starts_with("\xFF\xFE");
-  const std::u16string decoded = utf16 ? DecodeUtf16(bytes) : DecodeAnsi(bytes);
-  std::u16string_view text = decoded;
-  while (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-
   TCIniText result;
-  result.lines = SplitIniLines(text);
+  result.InsertText(0, utf16 ? DecodeUtf16(bytes) : DecodeAnsi(bytes));
   return result;
 }
 
@@ -141,7 +138,7 @@ void TCIniText::SetString(std::u16string_view section, std::u16string_view key, 
     const bool unchanged = ValueOf(lines[*line]) == value;
     if (unchanged) return;
     const std::u16string text = std::u16string(KeyOf(lines[*line])).append(u"=").append(value);
-    lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(*line));
+    EraseLines(Range{*line, *line + 1});
     InsertText(*line, text);
     return;
   }
@@ -153,16 +150,14 @@ void TCIniText::SetString(std::u16string_view section, std::u16string_view key, 
 void TCIniText::DeleteKey(std::u16string_view section, std::u16string_view key) {
   const std::optional<Range> range = FindSection(section);
   const std::optional<std::size_t> line = range ? FindKey(*range, key) : std::nullopt;
-  if (line) lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(*line));
+  if (line) EraseLines(Range{*line, *line + 1});
 }
 
 void TCIniText::DeleteSection(std::u16string_view section) {
   const std::optional<Range> range = FindSection(section);
   if (!range) return;
   // The lines above the first heading have none of their own.
-  const std::size_t begin = range->begin == 0 ? 0 : range->begin - 1;
-  lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(begin),
-              lines.begin() + static_cast<std::ptrdiff_t>(range->end));
+  EraseLines(Range{range->begin == 0 ? 0 : range->begin - 1, range->end});
 }
 
 std::vector<std::u16string> TCIniText::Keys(std::u16string_view section) const {
@@ -213,6 +208,17 @@ void TCIniText::InsertText(std::size_t at, std::u16string_view text) {
   std::vector<std::u16string> added = SplitIniLines(text);
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), std::make_move_iterator(added.begin()),
                std::make_move_iterator(added.end()));
+  DropMarks();
+}
+
+void TCIniText::EraseLines(Range range) {
+  lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(range.begin),
+              lines.begin() + static_cast<std::ptrdiff_t>(range.end));
+  DropMarks();
+}
+
+void TCIniText::DropMarks() {
+  if (!lines.empty()) lines.front().erase(0, lines.front().find_first_not_of(kByteOrderMark));
 }
 
 }  // namespace brevant

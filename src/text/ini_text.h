@@ -62,6 +62,9 @@ class TCIniText {
   [[nodiscard]] std::optional<std::u16string_view> FindValue(std::u16string_view section,
                                                              std::u16string_view key) const;
   void InsertText(std::size_t at, std::u16string_view text);
+  void EraseLines(Range range);
+  // At the head of the file a byte order mark is no text, wherever it came from.
+  void DropMarks();
 
   // The lines as they are written, without their ends. What a line means is read off it when it is asked for:
   // so nothing can be held here that a reader of the file would not find in it.

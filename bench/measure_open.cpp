@@ -1,0 +1,114 @@
+// brevant_measure_open DOCUMENT.brv: opens the document, and beside it runs a loop that does nothing but the
+// file opens a song needs, the floor under any way of opening it. Then saves the document under another name.
+// Everything is in the system's cache; prints medians.
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "medians.h"
+#include "opened_document.h"
+#include "text/path_parts.h"
+
+namespace brevant {
+namespace {
+
+constexpr int kRepetitions = 11;
+
+struct NativeNames {
+  std::string song;
+  std::string lyrics;      // .lrc
+  std::string wideLyrics;  // .lrcx, asked for where there is no .lrc
+};
+
+std::vector<NativeNames> NamesIn(const TCSetListStore& store) {
+  const TCNativePaths paths;
+  std::vector<NativeNames> names;
+  for (const TCPlayGroups& group : store.groups) {
+    for (const TCPlayList& playlist : group.playlists) {
+      for (const TCPlayListItem& song : playlist.items) {
+        const std::u16string path = song.FullPath();
+        names.push_back({paths.ToNative(path), paths.ToNative(ReplaceExtension(path, u"lrc")),
+                         paths.ToNative(ReplaceExtension(path, u"lrcx"))});
+      }
+    }
+  }
+  return names;
+}
+
+// True when there was such a file.
+bool OpenAndClose(const std::string& name) {
+  const int file = open(name.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return false;
+  close(file);
+  return true;
+}
+
+bool OpenAndRead(const std::string& name, std::size_t& bytesRead) {
+  const int file = open(name.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return false;
+  std::array<char, 65536> buffer;
+  for (ssize_t got = 1; got > 0;) {
+    got = read(file, buffer.data(), buffer.size());
+    if (got > 0) bytesRead += static_cast<std::size_t>(got);
+  }
+  close(file);
+  return true;
+}
+
+struct Touched {
+  std::size_t songs = 0;
+  std::size_t lyricFiles = 0;
+  std::size_t lyricBytes = 0;
+};
+
+Touched TouchFiles(const std::vector<NativeNames>& names) {
+  Touched touched;
+  for (const NativeNames& name : names) {
+    touched.songs += OpenAndClose(name.song) ? 1 : 0;
+    if (OpenAndRead(name.lyrics, touched.lyricBytes) || OpenAndRead(name.wideLyrics, touched.lyricBytes)) {
+      ++touched.lyricFiles;
+    }
+  }
+  return touched;
+}
+
+int Measure(const std::u16string& path) {
+  TCOpenedDocument first;
+  if (!first.Open(path)) return EXIT_FAILURE;
+  const std::vector<NativeNames> names = NamesIn(first.store);
+  const Touched touched = TouchFiles(names);
+  std::printf("%zu songs, %zu found, %zu lyric files of %zu bytes in all\n", names.size(), touched.songs,
+              touched.lyricFiles, touched.lyricBytes);
+
+  // One after the other, so that whatever else the machine does meets both.
+  std::vector<double> floors;
+  std::vector<double> opens;
+  std::vector<double> ratios;
+  std::vector<double> saves;
+  for (int repetition = 0; repetition < kRepetitions; ++repetition) {
+    floors.push_back(Milliseconds([&] { (void)TouchFiles(names); }));
+    TCOpenedDocument opened;  // new each time: what it remembers of the folders would spare the next one work
+    opens.push_back(Milliseconds([&] { (void)opened.Open(path); }));
+    ratios.push_back(opens.back() / floors.back());
+    saves.push_back(Milliseconds([&] { (void)opened.file.SaveSetListDocument(path + u".saved.brv"); }));
+    opened.files.DeleteFile(path + u".saved.brv");
+  }
+  std::printf("floor, file opens only   %8.1f ms\n", Median(floors));
+  std::printf("open the document        %8.1f ms\n", Median(opens));
+  std::printf("open / floor             %8.2f\n", Median(ratios));
+  std::printf("save the document        %8.1f ms\n", Median(saves));
+  return EXIT_SUCCESS;
+}
+
+}  // namespace
+}  // namespace brevant
+
+int main(int argc, char** argv) {
+  const std::u16string path = brevant::DocumentArgument(argc, argv);
+  return path.empty() ? EXIT_FAILURE : brevant::Measure(path);
+}

@@ -1,0 +1,332 @@
+#include "text/disk_files.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "support/temp_folder.h"
+
+namespace brevant {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::size_t kAnySize = std::size_t{1} << 30;
+
+// While it lives, no file can grow past a page: what a full disk looks like to whoever writes.
+class TCFullDisk {
+ public:
+  TCFullDisk() {
+    EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    struct rlimit small = before;
+    small.rlim_cur = kPage;
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+  }
+  TCFullDisk(const TCFullDisk&) = delete;
+  TCFullDisk& operator=(const TCFullDisk&) = delete;
+  ~TCFullDisk() {
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, oldHandler);
+  }
+
+  static constexpr rlim_t kPage = 4096;
+
+ private:
+  struct rlimit before {};
+  void (*oldHandler)(int) = nullptr;
+};
+
+class DiskFiles : public testing::Test {
+ protected:
+  [[nodiscard]] mode_t Permissions(std::string_view name) const {
+    struct stat status {};
+    EXPECT_EQ(stat(folder.Native(name).c_str(), &status), 0) << name;
+    return status.st_mode & 07777;
+  }
+
+  TCTempFolder folder;
+  std::chrono::steady_clock::time_point now;
+  TCDiskFiles files{TCNativePaths(), [this] { return now; }};
+};
+
+TEST_F(DiskFiles, ARegularFileExists) {
+  folder.Write("a.mp3");
+  EXPECT_TRUE(files.FileExists(folder.Model("a.mp3")));
+  EXPECT_FALSE(files.FileExists(folder.Model("b.mp3")));
+  EXPECT_FALSE(files.FileExists(u""));
+}
+
+TEST_F(DiskFiles, ALinkToARegularFileExists) {
+  folder.Write("a.mp3", "abc");
+  ASSERT_EQ(symlink("a.mp3", folder.Native("link.mp3").c_str()), 0);
+  ASSERT_EQ(symlink("nowhere", folder.Native("dangling.mp3").c_str()), 0);
+  ASSERT_EQ(symlink("round.mp3", folder.Native("round.mp3").c_str()), 0);
+  EXPECT_TRUE(files.FileExists(folder.Model("link.mp3")));
+  EXPECT_EQ(files.ReadFile(folder.Model("link.mp3"), kAnySize), "abc");
+  EXPECT_FALSE(files.FileExists(folder.Model("dangling.mp3")));
+  EXPECT_FALSE(files.FileExists(folder.Model("round.mp3")));
+}
+
+TEST_F(DiskFiles, AFolderOrDeviceIsNoFile) {
+  folder.MakeFolder("a.mp3");
+  EXPECT_FALSE(files.FileExists(folder.Model("a.mp3")));
+  EXPECT_FALSE(files.ReadFile(folder.Model("a.mp3"), kAnySize));
+  EXPECT_FALSE(files.FileExists(u"\\dev\\null"));
+  EXPECT_FALSE(files.ReadFile(u"\\dev\\zero", kAnySize));
+}
+
+TEST_F(DiskFiles, AskingAboutAFifoDoesNotBlock) {
+  ASSERT_EQ(mkfifo(folder.Native("a.mp3").c_str(), 0600), 0);
+  EXPECT_FALSE(files.FileExists(folder.Model("a.mp3")));
+  EXPECT_FALSE(files.ReadFile(folder.Model("a.mp3"), kAnySize));
+  EXPECT_FALSE(files.ReplaceFile(folder.Model("a.mp3"), "new"));
+}
+
+TEST_F(DiskFiles, AFileThatMayNotBeReadIsNotThere) {
+  folder.Write("a.mp3", "abc");
+  ASSERT_EQ(chmod(folder.Native("").c_str(), 0755), 0);
+  ASSERT_EQ(chmod(folder.Native("a.mp3").c_str(), 0), 0);
+  const TCOrdinaryUser user;
+  EXPECT_FALSE(files.FileExists(folder.Model("a.mp3")));
+  EXPECT_FALSE(files.ReadFile(folder.Model("a.mp3"), kAnySize));
+}
+
+TEST_F(DiskFiles, AFileIsReadWhole) {
+  const std::string bytes = std::string(300'000, 'x') + std::string("\0\r\n\xFF", 4);
+  folder.Write("a.brv", bytes);
+  folder.Write("empty.brv");
+  EXPECT_EQ(files.ReadFile(folder.Model("a.brv"), kAnySize), bytes);
+  EXPECT_EQ(files.ReadFile(folder.Model("empty.brv"), kAnySize), "");
+  EXPECT_EQ(files.ReadFile(folder.Model("empty.brv"), 0), "");
+}
+
+TEST_F(DiskFiles, AFilePastTheGivenSizeIsRefused) {
+  folder.Write("a.brv", "12345");
+  EXPECT_EQ(files.ReadFile(folder.Model("a.brv"), 5), "12345");
+  EXPECT_EQ(files.ReadFile(folder.Model("a.brv"), 4), std::nullopt);
+}
+
+TEST_F(DiskFiles, AFileThatSaysItIsEmptyIsReadToItsEnd) {
+  const std::optional<std::string> bytes = files.ReadFile(u"\\proc\\self\\status", kAnySize);
+  ASSERT_TRUE(bytes);
+  EXPECT_GT(bytes->size(), 500U);
+  EXPECT_EQ(files.ReadFile(u"\\proc\\self\\status", 100), std::nullopt);
+}
+
+TEST_F(DiskFiles, TheNameAsWrittenIsPreferred) {
+  folder.Write("Song.mp3", "upper");
+  folder.Write("song.mp3", "lower");
+  EXPECT_EQ(files.ReadFile(folder.Model("song.mp3"), kAnySize), "lower");
+  EXPECT_EQ(files.ReadFile(folder.Model("Song.mp3"), kAnySize), "upper");
+}
+
+TEST_F(DiskFiles, AFileInOtherCaseIsFoundAndRead) {
+  folder.Write("Music/Song.LRC", "abc");
+  EXPECT_TRUE(files.FileExists(folder.Model("music/song.lrc")));
+  EXPECT_EQ(files.ReadFile(folder.Model("MUSIC/SONG.lrc"), kAnySize), "abc");
+}
+
+TEST_F(DiskFiles, AFolderInOtherCaseIsNotInTheWayOfAFile) {
+  folder.MakeFolder("SONG.mp3");
+  folder.Write("Song.mp3", "abc");
+  EXPECT_EQ(files.ReadFile(folder.Model("song.mp3"), kAnySize), "abc");
+}
+
+TEST_F(DiskFiles, AFileThatAppearsUnderItsOwnNameIsSeenAtOnce) {
+  EXPECT_FALSE(files.FileExists(folder.Model("a.mp3")));
+  folder.Write("a.mp3");
+  EXPECT_TRUE(files.FileExists(folder.Model("a.mp3")));
+}
+
+TEST_F(DiskFiles, AFileThatAppearsInOtherCaseIsSeenAfterAMoment) {
+  EXPECT_FALSE(files.FileExists(folder.Model("a.mp3")));
+  folder.Write("A.mp3");
+  now += TCOtherCase::kTrust;
+  EXPECT_TRUE(files.FileExists(folder.Model("a.mp3")));
+}
+
+TEST_F(DiskFiles, AFileOfOurOwnIsSeenInAnyCaseAtOnce) {
+  EXPECT_FALSE(files.FileExists(folder.Model("show.brv")));
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("Show.brv"), "abc"));
+  EXPECT_TRUE(files.FileExists(folder.Model("show.brv")));
+}
+
+TEST_F(DiskFiles, ANameThatIsTooLongIsRefused) {
+  const std::u16string path = folder.Model(std::string(300, 'a'));
+  EXPECT_FALSE(files.FileExists(path));
+  EXPECT_FALSE(files.ReplaceFile(path, "new"));
+  EXPECT_FALSE(files.FileExists(u"\\" + std::u16string(1'000'000, u'a')));
+}
+
+TEST_F(DiskFiles, ReplacingMakesAMissingFile) {
+  const mode_t oldMask = umask(027);
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  umask(oldMask);
+  EXPECT_EQ(folder.Read("a.brv"), "new");
+  EXPECT_EQ(Permissions("a.brv"), 0640U);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv"));
+}
+
+TEST_F(DiskFiles, ReplacingKeepsThePermissions) {
+  folder.Write("a.brv", "old");
+  ASSERT_EQ(chmod(folder.Native("a.brv").c_str(), 0664), 0);
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("a.brv"), "new and longer"));
+  EXPECT_EQ(folder.Read("a.brv"), "new and longer");
+  EXPECT_EQ(Permissions("a.brv"), 0664U);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv"));
+}
+
+TEST_F(DiskFiles, ReplacingKeepsTheOwnerWhereTheSystemAllowsIt) {
+  folder.Write("a.brv", "old");
+  const uid_t owner = geteuid() == 0 ? 65534 : geteuid();
+  ASSERT_EQ(chown(folder.Native("a.brv").c_str(), owner, static_cast<gid_t>(-1)), 0);
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  struct stat status {};
+  ASSERT_EQ(stat(folder.Native("a.brv").c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, owner);
+}
+
+TEST_F(DiskFiles, ReplacingThroughALinkReplacesItsTarget) {
+  folder.Write("real/a.brv", "old");
+  folder.MakeFolder("links");
+  ASSERT_EQ(symlink("../real/a.brv", folder.Native("links/one.brv").c_str()), 0);
+  ASSERT_EQ(symlink(folder.Native("links/one.brv").c_str(), folder.Native("two.brv").c_str()), 0);
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("two.brv"), "new"));
+  EXPECT_EQ(folder.Read("real/a.brv"), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Native("two.brv")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Native("links/one.brv")));
+  EXPECT_FALSE(std::filesystem::is_symlink(folder.Native("real/a.brv")));
+}
+
+TEST_F(DiskFiles, ReplacingThroughALinkThatLeadsNowhereMakesItsTarget) {
+  folder.MakeFolder("real");
+  ASSERT_EQ(symlink("real/a.brv", folder.Native("link.brv").c_str()), 0);
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("link.brv"), "new"));
+  EXPECT_EQ(folder.Read("real/a.brv"), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Native("link.brv")));
+}
+
+TEST_F(DiskFiles, ReplacingThroughLinksInACircleFails) {
+  ASSERT_EQ(symlink("b.brv", folder.Native("a.brv").c_str()), 0);
+  ASSERT_EQ(symlink("a.brv", folder.Native("b.brv").c_str()), 0);
+  EXPECT_FALSE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv", "b.brv"));
+}
+
+TEST_F(DiskFiles, ReplacingAFileInOtherCaseMakesNoSecondOne) {
+  folder.Write("Sets/Show.brv", "old");
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("sets/show.brv"), "new"));
+  EXPECT_EQ(folder.Read("Sets/Show.brv"), "new");
+  EXPECT_THAT(folder.Names(), ElementsAre("Sets"));
+}
+
+TEST_F(DiskFiles, ANewFileGoesIntoTheFolderInOtherCase) {
+  folder.MakeFolder("Sets");
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("SETS/show.brv"), "new"));
+  EXPECT_EQ(folder.Read("Sets/show.brv"), "new");
+}
+
+TEST_F(DiskFiles, ReplacingInAMissingFolderFails) {
+  EXPECT_FALSE(files.ReplaceFile(folder.Model("missing/a.brv"), "new"));
+  EXPECT_FALSE(files.ReplaceFile(u"", "new"));
+  EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
+TEST_F(DiskFiles, AFolderIsNotReplaced) {
+  folder.MakeFolder("a.brv");
+  EXPECT_FALSE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv"));
+}
+
+TEST_F(DiskFiles, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
+  const std::string old(TCFullDisk::kPage, 'o');
+  folder.Write("a.brv", old);
+  {
+    const TCFullDisk full;
+    EXPECT_FALSE(files.ReplaceFile(folder.Model("a.brv"), std::string(100'000, 'n')));
+    EXPECT_FALSE(files.ReplaceFile(folder.Model("b.brv"), std::string(100'000, 'n')));
+    EXPECT_TRUE(files.ReplaceFile(folder.Model("small.brv"), "fits"));
+  }
+  EXPECT_EQ(folder.Read("a.brv"), old);
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv", "small.brv"));
+}
+
+TEST_F(DiskFiles, AFolderThatTakesNoNewFileFailsTheSave) {
+  folder.Write("a.brv", "old");
+  ASSERT_EQ(chmod(folder.Native("a.brv").c_str(), 0666), 0);
+  ASSERT_EQ(chmod(folder.Native("").c_str(), 0555), 0);
+  {
+    const TCOrdinaryUser user;
+    EXPECT_FALSE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  }
+  ASSERT_EQ(chmod(folder.Native("").c_str(), 0755), 0);
+  EXPECT_EQ(folder.Read("a.brv"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv"));
+}
+
+TEST_F(DiskFiles, AWriteProtectedFileFailsTheSave) {
+  folder.Write("a.brv", "old");
+  ASSERT_EQ(chmod(folder.Native("a.brv").c_str(), 0444), 0);
+  ASSERT_EQ(chmod(folder.Native("").c_str(), 0777), 0);
+  {
+    const TCOrdinaryUser user;
+    EXPECT_FALSE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  }
+  EXPECT_EQ(folder.Read("a.brv"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv"));
+}
+
+TEST_F(DiskFiles, MakesAFolderAndThoseAboveIt) {
+  EXPECT_TRUE(files.MakeFolder(folder.Model("Korvel/Brevant/")));
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Native("Korvel/Brevant")));
+  EXPECT_EQ(Permissions("Korvel/Brevant"), 0700U);
+  EXPECT_TRUE(files.MakeFolder(folder.Model("Korvel/Brevant")));
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("Korvel/Brevant/Brevant.ini"), "x"));
+}
+
+TEST_F(DiskFiles, MakesNoSecondFolderInOtherCase) {
+  folder.MakeFolder("Korvel");
+  EXPECT_TRUE(files.MakeFolder(folder.Model("KORVEL/brevant")));
+  EXPECT_THAT(folder.Names(), ElementsAre("Korvel"));
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Native("Korvel/brevant")));
+}
+
+TEST_F(DiskFiles, MakesNoFolderWhereAFileStands) {
+  folder.Write("Korvel");
+  EXPECT_FALSE(files.MakeFolder(folder.Model("Korvel")));
+  EXPECT_FALSE(files.MakeFolder(folder.Model("Korvel/Brevant")));
+  EXPECT_FALSE(files.MakeFolder(u""));
+}
+
+TEST_F(DiskFiles, DeletesAFile) {
+  folder.Write("a.ini");
+  EXPECT_TRUE(files.DeleteFile(folder.Model("a.ini")));
+  EXPECT_THAT(folder.Names(), IsEmpty());
+  EXPECT_TRUE(files.DeleteFile(folder.Model("a.ini")));
+  folder.Write("Brevant.INI");
+  EXPECT_TRUE(files.DeleteFile(folder.Model("brevant.ini")));
+  EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
+TEST_F(DiskFiles, DeletesALinkAndNotItsTarget) {
+  folder.Write("a.ini");
+  ASSERT_EQ(symlink("a.ini", folder.Native("link.ini").c_str()), 0);
+  EXPECT_TRUE(files.DeleteFile(folder.Model("link.ini")));
+  EXPECT_THAT(folder.Names(), ElementsAre("a.ini"));
+}
+
+TEST_F(DiskFiles, DoesNotDeleteAFolder) {
+  folder.Write("a.ini/b");
+  EXPECT_FALSE(files.DeleteFile(folder.Model("a.ini")));
+  EXPECT_TRUE(std::filesystem::exists(folder.Native("a.ini/b")));
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,29 @@
+#include "text/shared_text.h"
+
+#include <gtest/gtest.h>
+
+namespace brevant {
+namespace {
+
+TEST(SharedText, CopiesHoldTheSameText) {
+  const TCSharedText folder = u"C:\\Music\\";
+  const TCSharedText copy =
+      folder;  // NOLINT(performance-unnecessary-copy-initialization): the copy is the test
+  EXPECT_EQ(&copy.str(), &folder.str());
+}
+
+TEST(SharedText, IsEmptyByDefaultAndFromAnEmptyText) {
+  EXPECT_TRUE(TCSharedText().empty());
+  EXPECT_TRUE(TCSharedText(u"").empty());
+  EXPECT_EQ(TCSharedText().str(), u"");
+  EXPECT_EQ(TCSharedText(), TCSharedText(u""));
+}
+
+TEST(SharedText, IsComparedByItsText) {
+  EXPECT_EQ(TCSharedText(u"a"), TCSharedText(u"a"));
+  EXPECT_FALSE(TCSharedText(u"a") == TCSharedText(u"A"));
+  EXPECT_FALSE(TCSharedText(u"a") == TCSharedText());
+}
+
+}  // namespace
+}  // namespace brevant
