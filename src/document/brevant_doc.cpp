@@ -95,6 +95,10 @@ void TCBrevantDoc::KeepRecoveryCopy(std::u16string_view path) {
   if (!lines.empty()) WriteRecoveryCopy(parts.files, parts.folders.recovery, FileNamePart(path), lines);
 }
 
+void TCBrevantDoc::KeepUnsavedChanges() {
+  if (modified) KeepRecoveryCopy(pathName);
+}
+
 void TCBrevantDoc::ClearViewsAndStore() {
   presenter.Clear();
   parts.record.setLists.ClearSetLists();

@@ -46,6 +46,9 @@ class TCBrevantDoc {
   // True when nothing stands in the way of losing the document: no changes, saved, or given up by the user.
   [[nodiscard]] bool SaveModified();
 
+  // The session ends and nobody can be asked: unsaved changes go to the recovery folder.
+  void KeepUnsavedChanges();
+
   // The path as opened or saved; empty for a new document.
   [[nodiscard]] const std::u16string& GetPathName() const { return pathName; }
   [[nodiscard]] bool IsModified() const { return modified; }

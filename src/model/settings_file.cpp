@@ -51,10 +51,12 @@ constexpr Row Number(std::u16string_view key, NumberField field, Rule rule = Rul
   return {key, rule, nullptr, nullptr, field, {}};
 }
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a member's name after a point takes no parentheses
 #define BREVANT_FIELD(member)         \
   [](TCAppRecord & record) -> auto& { \
     return record.member;             \
   }
+// NOLINTEND(bugprone-macro-parentheses)
 
 // In the order of writing. Reading in this order too gives "LyricsFontSize" the playlist font size just read.
 constexpr std::array kRows = {

@@ -80,8 +80,8 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void FitColumns();
   [[nodiscard]] int CellWidthOf(const QString& text);
 
-  TCPlaylistModel* model = nullptr;  // a child, as the next one
-  TCPlaylistHeader* header = nullptr;
+  TCPlaylistModel* playlistModel = nullptr;  // a child, as the next one
+  TCPlaylistHeader* columnHeader = nullptr;
   TCColumnWidths columnWidths;
   QHash<QString, int>
       measuredTexts;  // pixels of a cell in the present font; every digit counts as the widest

@@ -8,7 +8,7 @@
 
 namespace brevant {
 
-// At least 1 point, and at most as large as leaves room for two lines on the screen that `shownOn` is on.
+// At least 1 point, and at most as large as leaves room for four lines on the screen that `shownOn` is on.
 [[nodiscard]] QFont DisplayFont(std::u16string_view face, std::int32_t points, const QWidget& shownOn);
 
 }  // namespace brevant

@@ -1,5 +1,5 @@
 // A horizontal slider whose handle jumps to where it is pressed and follows the mouse from there. Tells what
-// the user picked, never what the program set.
+// the user picked, never what the program set. Draws itself: the styles' handles are hard to see on black.
 #pragma once
 
 #include <QSlider>
@@ -15,7 +15,8 @@ class TCJumpSlider final : public QSlider {
  public:
   explicit TCJumpSlider(TCWheel wheel, QWidget* parent = nullptr);
 
-  // What the program knows; not while the user holds the handle.
+  // What the program knows. The value is not moved while the user holds the handle.
+  void ShowRange(int newMaximum);
   void ShowValue(int value);
   // The user's drag ends here and picks nothing.
   void CancelDrag();
@@ -27,6 +28,7 @@ class TCJumpSlider final : public QSlider {
   void picked(int value);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -34,6 +36,8 @@ class TCJumpSlider final : public QSlider {
 
  private:
   [[nodiscard]] int ValueAt(int x) const;
+  // Of the handle's middle.
+  [[nodiscard]] int PlaceOf(int value) const;
 
   TCWheel wheel;
   bool showing = false;  // the value changes by the program's doing

@@ -1,5 +1,5 @@
 // The playlist's column headers, drawn in the rows' font and colours. The last one holds the playlist's name
-// and total and is cut in its middle where the window ends, so that the total stays in sight.
+// and total and is cut where the window ends, before the total, which stays whole.
 #pragma once
 
 #include <QHeaderView>
@@ -12,14 +12,17 @@ class TCPlaylistHeader final : public QHeaderView {
  public:
   explicit TCPlaylistHeader(QWidget* parent = nullptr);
 
-  // Pixels beside a header's text, both sides together.
+  // Pixels that a column needs beside its text, both sides together.
   [[nodiscard]] int TextMargins() const;
 
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+
+ private:
+  [[nodiscard]] int SideMargin() const;
+  void DrawSection(QPainter& painter, const QRect& rect, int section) const;
 };
 
 }  // namespace brevant

@@ -19,6 +19,9 @@ class TCWMPPaneContainer final : public QWidget {
 
   void SetIcons(const TCPlayerIcons& icons);
 
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
  Q_SIGNALS:
   // The buttons: whoever listens runs the transport's commands.
   void playWanted();

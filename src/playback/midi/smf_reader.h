@@ -35,7 +35,7 @@ struct TCMidiSong {
 };
 
 // Larger files are refused: an hour of dense MIDI is under 2 MB.
-inline constexpr std::size_t kMidiMaxBytes = 16 * 1024 * 1024;
+inline constexpr std::size_t kMidiMaxBytes = std::size_t{16} * 1024 * 1024;
 
 // Songs are cut here, so that a delta time gone wild does not make one of a thousand years.
 inline constexpr std::int64_t kMidiMaxNanoseconds = 24LL * 3600 * 1'000'000'000;

@@ -1,0 +1,90 @@
+#include "app/brevant_app.h"
+
+#include <QCoreApplication>
+#include <QMenuBar>
+
+#include "app/about_box.h"
+#include "app/command_menus.h"
+#include "app/refused_name.h"
+
+namespace brevant {
+namespace {
+
+constexpr std::u16string_view kFontFace = u"Times New Roman";
+
+TCAppRecord LoadRecord(const TCSettingsFile& settingsFile) {
+  TCAppRecord record;
+  settingsFile.LoadSettings(record);
+  // A face chosen in an earlier run does not come back; the sizes do.
+  record.settings.playListFontTypeName = kFontFace;
+  record.settings.lyricsFontTypeName = kFontFace;
+  return record;
+}
+
+}  // namespace
+
+TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
+    : files(parts.files),
+      libraries(parts.libraries),
+      layout(parts.layoutFile, QSettings::IniFormat),
+      settingsFile(parts.files, parts.folders.settings),
+      record(LoadRecord(settingsFile)),
+      frame(record.settings, parts.player, parts.monitor),
+      prompts(frame, record.setLists, parts.paths),
+      document({record, parts.files, &parts.player, frame.PlaylistView(), frame.MessageDisplay(), frame,
+                prompts, parts.folders}),
+      router(frame, document, libraries),
+      actions(router, frame),
+      keyFilter(actions, frame),
+      closeGuard(frame, layout, settingsFile, record, document),
+      playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)) {
+  if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
+  FillMenuBar(*frame.menuBar(), actions);
+  ConnectParts();
+  document.OnNewDocument();
+}
+
+void TCBrevantApp::ConnectParts() {
+  TCBrevantView& view = frame.PlaylistView();
+  connect(&view, &TCBrevantView::pollDue, this, [this] { document.OnPlayTimerTick(); });
+  connect(&view, &TCBrevantView::rowPicked, this, [this](int row) { document.PickRow(row); });
+  connect(&view, &TCBrevantView::contextMenuWanted, this,
+          [this](QPoint position) { playlistMenu->popup(position); });
+
+  TCWMPPaneContainer& pane = frame.PlayerPane();
+  connect(&pane, &TCWMPPaneContainer::playWanted, this, [this] { router.OnCommand(TCCommandId::Play); });
+  connect(&pane, &TCWMPPaneContainer::pauseWanted, this,
+          [this] { router.OnCommand(TCCommandId::PauseContinue); });
+  connect(&pane, &TCWMPPaneContainer::stopWanted, this, [this] { router.OnCommand(TCCommandId::Stop); });
+
+  connect(&frame, &TCMainFrame::marksChanged, this, [this] { actions.RefreshChecks(); });
+}
+
+void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
+  frame.show();
+  frame.PlaylistView().TakeFocus();
+  OpenFirstDocument(startFile);
+  TCAboutBox::Open(libraries, frame);
+}
+
+void TCBrevantApp::OpenFirstDocument(const TCStartFile& startFile) {
+  if (!startFile.named) {
+    if (record.settings.loadLastFileOnProgramRun) LoadLastFile();
+  } else if (startFile.modelPath) {
+    document.OpenDocumentFile(*startFile.modelPath);
+  } else {
+    frame.ShowStatus(RefusedNameText(startFile.native));
+  }
+}
+
+void TCBrevantApp::LoadLastFile() {
+  const std::u16string path = settingsFile.LastLoadedFileName();
+  if (!path.empty() && files.FileExists(path)) document.OnOpenDocument(path);
+}
+
+void TCBrevantApp::EndSession() {
+  closeGuard.EndSession();
+  QCoreApplication::quit();
+}
+
+}  // namespace brevant

@@ -1,0 +1,81 @@
+// The program, put together: every part is a member, made in this order and wired in one constructor. main()
+// makes one and hands it what belongs to the machine; tests hand it fakes.
+#pragma once
+
+#include <QObject>
+#include <QSettings>
+#include <QStringList>
+#include <optional>
+#include <string>
+
+#include "app/close_guard.h"
+#include "app/command_actions.h"
+#include "app/command_router.h"
+#include "app/key_filter.h"
+#include "app/main_frame.h"
+#include "app/qt_prompts.h"
+#include "document/brevant_doc.h"
+#include "model/app_record.h"
+#include "model/program_folders.h"
+#include "model/settings_file.h"
+#include "playback/player.h"
+#include "playback/player_monitor.h"
+#include "text/file_system.h"
+#include "text/native_path.h"
+
+namespace brevant {
+
+// The machine, as the program sees it. All of it outlives the program.
+struct TCAppParts {
+  TCFileSystem& files;
+  TCPlayer& player;
+  const TCPlayerMonitor& monitor;
+  TCNativePaths paths;
+  TCProgramFolders folders;
+  QString layoutFile;     // native; what the user arranged by hand is kept there
+  QStringList libraries;  // for the About box, one "Name version" each
+};
+
+// The file named on the command line.
+struct TCStartFile {
+  bool named = false;
+  std::string native;                       // as typed
+  std::optional<std::u16string> modelPath;  // empty when the model cannot hold the name
+};
+
+class TCBrevantApp : public QObject {
+ public:
+  explicit TCBrevantApp(const TCAppParts& parts);
+
+  // Shows the main window, opens the first document and shows the About box; the rest is the event loop's.
+  void InitInstance(const TCStartFile& startFile);
+
+  // The session ends and nobody can be asked.
+  void EndSession();
+
+  [[nodiscard]] TCMainFrame& Frame() { return frame; }
+  [[nodiscard]] TCBrevantDoc& Document() { return document; }
+  [[nodiscard]] const TCCommandActions& Actions() const { return actions; }
+  [[nodiscard]] TCAppRecord& Record() { return record; }
+
+ private:
+  void ConnectParts();
+  void OpenFirstDocument(const TCStartFile& startFile);
+  void LoadLastFile();
+
+  TCFileSystem& files;
+  QStringList libraries;
+  QSettings layout;
+  TCSettingsFile settingsFile;
+  TCAppRecord record;
+  TCMainFrame frame;
+  TCQtPrompts prompts;
+  TCBrevantDoc document;
+  TCCommandRouter router;
+  TCCommandActions actions;
+  TCKeyFilter keyFilter;
+  TCCloseGuard closeGuard;
+  QMenu* playlistMenu = nullptr;  // the frame owns it
+};
+
+}  // namespace brevant

@@ -1,0 +1,38 @@
+// What closing the main window does before it may close: layout and settings are written, then unsaved
+// changes are asked about. The frame's way out and the session's.
+#pragma once
+
+#include <QObject>
+#include <QSettings>
+
+#include "app/main_frame.h"
+#include "document/brevant_doc.h"
+#include "model/settings_file.h"
+
+namespace brevant {
+
+class TCCloseGuard : public QObject {
+ public:
+  // Watches over the frame's closing.
+  TCCloseGuard(TCMainFrame& mainFrame, QSettings& layoutStore, const TCSettingsFile& file,
+               const TCAppRecord& appRecord, TCBrevantDoc& document);
+
+  // Nobody can be asked any more, because the session ends: settings are written, and unsaved changes go to
+  // the recovery folder.
+  void EndSession();
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  [[nodiscard]] bool MayClose();
+  void WriteSettings();
+
+  const TCMainFrame& frame;
+  QSettings& layout;
+  const TCSettingsFile& settingsFile;
+  const TCAppRecord& record;
+  TCBrevantDoc& doc;
+};
+
+}  // namespace brevant

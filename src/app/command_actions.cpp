@@ -1,0 +1,82 @@
+#include "app/command_actions.h"
+
+#include <QWidget>
+
+#include "app/picture_icon.h"
+#include "app/qt_keys.h"
+#include "resources/command_table.h"
+#include "resources/icons/icon_names.h"
+#include "views/text_conversion.h"
+
+namespace brevant {
+
+TCCommandActions::TCCommandActions(TCCommandTarget& commandTarget, QWidget& window) : target(commandTarget) {
+  AddActions(window);
+  BindKeys();
+  RefreshChecks();
+}
+
+void TCCommandActions::AddActions(QWidget& window) {
+  for (const TCCommand& command : Commands()) {
+    if (!target.Handles(command.id)) continue;
+    auto action = std::make_unique<QAction>(ToQString(command.menuText));
+    action->setObjectName(QStringLiteral("Command%1").arg(static_cast<int>(command.id)));
+    action->setToolTip(ToQString(ToolTip(command)));
+    action->setStatusTip(ToQString(StatusLine(command)));
+    action->setCheckable(command.trait == TCCommandTrait::Checkable);
+    // In a menu a picture would take the place of the tick.
+    action->setIconVisibleInMenu(!action->isCheckable());
+    action->setIcon(PictureIcon(IconName(command.id)));
+    // An application-wide shortcut would fire behind an open menu or dialog.
+    action->setShortcutContext(Qt::WindowShortcut);
+    action->setAutoRepeat(command.trait == TCCommandTrait::Repeats);
+    // Queued, so that a command that asks the user something never runs inside the event that called for it:
+    // whoever sent that event, a screen reader for one, would wait until the question is answered.
+    connect(
+        action.get(), &QAction::triggered, this, [this, id = command.id] { Trigger(id); },
+        Qt::QueuedConnection);
+    // A key of an action that stands in a menu alone is dead while the menu bar is hidden.
+    window.addAction(action.get());
+    actions.emplace(command.id, std::move(action));
+  }
+}
+
+void TCCommandActions::BindKeys() {
+  std::map<TCCommandId, QList<QKeySequence>> shortcuts;
+  for (const TCKeyBinding& binding : EffectiveBindings()) {
+    if (ActionOf(binding.command) == nullptr) continue;
+    const TCCommand* command = CommandById(binding.command);
+    const bool repeats = command != nullptr && command->trait == TCCommandTrait::Repeats;
+    for (const QKeySequence& sequence : ToQtKeys(binding.key)) {
+      shortcuts[binding.command].append(sequence);
+      keys[sequence[0].toCombined()] = {binding.command, repeats};
+    }
+  }
+  for (const auto& [command, sequences] : shortcuts) ActionOf(command)->setShortcuts(sequences);
+}
+
+QAction* TCCommandActions::ActionOf(TCCommandId command) const {
+  const auto action = actions.find(command);
+  return action == actions.end() ? nullptr : action->second.get();
+}
+
+TCCommandActions::TCBoundCommand TCCommandActions::CommandOfKey(int key,
+                                                                Qt::KeyboardModifiers modifiers) const {
+  const Qt::KeyboardModifiers plain = modifiers & ~Qt::KeypadModifier;
+  const auto bound = keys.find(QKeyCombination(plain, static_cast<Qt::Key>(key)).toCombined());
+  return bound == keys.end() ? TCBoundCommand() : bound->second;
+}
+
+void TCCommandActions::RefreshChecks() {
+  for (const auto& [command, action] : actions) {
+    if (action->isCheckable()) action->setChecked(target.IsChecked(command));
+  }
+}
+
+void TCCommandActions::Trigger(TCCommandId command) {
+  target.OnCommand(command);
+  // A checkable action has flipped its mark by itself; what counts is what came of the command.
+  RefreshChecks();
+}
+
+}  // namespace brevant

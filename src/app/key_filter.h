@@ -1,0 +1,47 @@
+// Sees every key before it becomes a shortcut and says who has it: see TCKeyRules. One for the application,
+// for the main window and its floating panes; dialogs keep their keys to themselves.
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "app/command_actions.h"
+#include "app/key_rules.h"
+
+namespace brevant {
+
+class TCKeyFilter : public QObject {
+ public:
+  // Installs itself on the application.
+  TCKeyFilter(const TCCommandActions& commandActions, QWidget& window);
+
+  using TCKeepsKey = std::function<bool(int key, Qt::KeyboardModifiers modifiers)>;
+  // While `widget` has the focus, the keys that `keeps` says yes to are its own and fire no command.
+  void LetKeep(QWidget& widget, TCKeepsKey keeps);
+
+  [[nodiscard]] TCKeyVerdict VerdictOn(const QKeyEvent& event, const QWidget* focus) const;
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  [[nodiscard]] bool IsOurs(const QWidget& widget) const;
+  [[nodiscard]] bool WidgetKeeps(const QWidget* widget, const QKeyEvent& event) const;
+  bool FilterOverride(const QWidget& receiver, QKeyEvent& event);
+
+  const TCCommandActions& actions;
+  QWidget& mainWindow;
+  std::vector<std::pair<QPointer<QWidget>, TCKeepsKey>> keepers;
+  TCHeldKeys heldKeys;
+  int swallowedKey = 0;  // its press, which follows the swallowed shortcut, goes the same way
+};
+
+// What the keyboard is used for while `focus` has it; null is ordinary.
+[[nodiscard]] TCKeyFocus FocusKind(const QWidget* focus);
+
+}  // namespace brevant

@@ -1,0 +1,74 @@
+#include <QApplication>
+#include <QFile>
+#include <cstdio>
+#include <filesystem>
+#include <span>
+
+#include "app/app_folders.h"
+#include "app/brevant_app.h"
+#include "app/command_line.h"
+#include "app/drive_folders.h"
+#include "app/picture_icon.h"
+#include "app/stage_style.h"
+#include "app/termination_signals.h"
+#include "playback/gst/gst_player.h"
+#include "playback/gst/library_versions.h"
+#include "text/disk_files.h"
+
+namespace {
+
+using namespace brevant;
+
+TCCommandLine CommandLineOf(int argc, char** argv) {
+  const std::span<char*> all(argv, static_cast<std::size_t>(argc));
+  return ReadCommandLine({all.begin() + (all.empty() ? 0 : 1), all.end()});
+}
+
+TCStartFile StartFileOf(const TCCommandLine& line) {
+  if (!line.file) return {};
+  std::error_code ignored;
+  const std::string workingFolder = std::filesystem::current_path(ignored).native();
+  return {true, *line.file, ModelPathOf(*line.file, workingFolder)};
+}
+
+QStringList LibraryNames() {
+  QStringList names{QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion()))};
+  for (const std::string& name : LibraryVersions()) names.append(QString::fromStdString(name));
+  return names;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication::setApplicationName(QStringLiteral("Brevant"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(BREVANT_VERSION));
+
+  // Before the toolkit looks for a display: these answers need none.
+  const TCLaunchWish wish = CommandLineOf(argc, argv).wish;
+  if (wish == TCLaunchWish::ShowHelp) return std::fputs(UsageText().data(), stdout) < 0 ? 1 : 0;
+  if (wish == TCLaunchWish::ShowVersion) return std::puts("Brevant " BREVANT_VERSION) < 0 ? 1 : 0;
+
+  // Takes the toolkit's own options out of the arguments.
+  QApplication toolkit(argc, argv);
+  const TCCommandLine commandLine = CommandLineOf(argc, argv);
+  if (commandLine.wish == TCLaunchWish::Refuse) {
+    std::fputs(UsageText().data(), stderr);
+    return 2;
+  }
+  QApplication::setStyle(new TCStageStyle);
+  QApplication::setWindowIcon(ProgramIcon());
+
+  TCDiskFiles ownFiles{TCNativePaths()};
+  const TCProgramFolders folders = FindProgramFolders(ownFiles, AskSystemForFolders());
+  const TCNativePaths paths(ReadDriveFolders(ownFiles, folders.settings));
+  TCDiskFiles files(paths);
+  TCGstPlayer player(paths);
+
+  const QString layoutFile = QFile::decodeName(paths.ToNative(folders.settings + u"Layout.ini").c_str());
+  TCBrevantApp program({files, player, player, paths, folders, layoutFile, LibraryNames()});
+  TCTerminationSignals terminationSignals;
+  QObject::connect(&terminationSignals, &TCTerminationSignals::endWanted, &program,
+                   &TCBrevantApp::EndSession);
+  program.InitInstance(StartFileOf(commandLine));
+  return QApplication::exec();
+}

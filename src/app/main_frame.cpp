@@ -1,0 +1,163 @@
+#include "app/main_frame.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusTipEvent>
+
+#include "app/picture_icon.h"
+#include "app/stage_palette.h"
+#include "resources/icons/icon_names.h"
+#include "resources/string_table.h"
+#include "views/text_conversion.h"
+
+namespace brevant {
+namespace {
+
+constexpr QSize kDefaultSize(1600, 1000);
+// Kept free for the title bar and borders that a window manager adds.
+constexpr QSize kWindowBorders(16, 48);
+constexpr QSize kPaneSize(400, 200);
+constexpr std::int32_t kMessageLines = 1024;
+constexpr int kFullVolume = 100;
+
+}  // namespace
+
+TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor)
+    : settings(programSettings),
+      inner(new QMainWindow(this)),
+      view(new TCBrevantView(inner)),
+      playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
+      messageDisplay(new TCGeneralReportsTab(inner)),
+      statusLine(new TCStatusLine(this)) {
+  setObjectName(QStringLiteral("MainFrame"));
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setStatusBar(statusLine);
+  // By itself a main window is always a window of its own, whatever its parent.
+  inner->setWindowFlags(Qt::Widget);
+  setCentralWidget(inner);
+  inner->setContextMenuPolicy(Qt::NoContextMenu);
+  inner->setCentralWidget(view);
+
+  playerDock = AddPane(TCCommandId::PlayerPane, TCTextId::PlayerPaneTitle, *playerPane);
+  messageDock = AddPane(TCCommandId::MessagePane, TCTextId::MessagePaneTitle, *messageDisplay);
+  ArrangePanes();
+
+  view->SetRowPicture(PictureIcon(kRowIcon));
+  player.SetVolume(kFullVolume);
+  messageDisplay->Enable(kMessageLines);
+  ShowTitle({}, TCModifiedMark::Clean);
+  ShowOptions();
+  messageDisplay->AppendMessage(TCTextId::Banner);
+  PlaceOnScreen();
+}
+
+void TCMainFrame::SaveLayout(QSettings& layout) const {
+  view->SaveColumnWidths(layout);
+}
+
+void TCMainFrame::RestoreLayout(const QSettings& layout) {
+  view->LoadColumnWidths(layout);
+}
+
+QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& content) {
+  auto* pane = new QDockWidget(ToQString(TextOf(title)), inner);
+  // Saved layouts know a pane by this name.
+  pane->setObjectName(QStringLiteral("Pane%1").arg(static_cast<int>(id)));
+  pane->setAccessibleName(pane->windowTitle());
+  pane->setWidget(&content);
+  connect(pane, &QDockWidget::visibilityChanged, this, &TCMainFrame::marksChanged);
+  return pane;
+}
+
+void TCMainFrame::ArrangePanes() {
+  inner->addDockWidget(Qt::BottomDockWidgetArea, playerDock);
+  inner->splitDockWidget(playerDock, messageDock, Qt::Horizontal);
+  inner->resizeDocks({playerDock, messageDock}, {kPaneSize.width(), kPaneSize.width()}, Qt::Horizontal);
+  inner->resizeDocks({playerDock}, {kPaneSize.height()}, Qt::Vertical);
+}
+
+void TCMainFrame::PlaceOnScreen() {
+  resize(kDefaultSize.boundedTo(screen()->availableSize() - kWindowBorders));
+}
+
+bool TCMainFrame::Handles(TCCommandId command) {
+  switch (command) {
+    case TCCommandId::PlayerPane:
+    case TCCommandId::MessagePane:
+    case TCCommandId::StatusBarVisible:
+    case TCCommandId::Exit:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool TCMainFrame::OnCommand(TCCommandId command) {
+  if (QDockWidget* pane = PaneOf(command)) {
+    pane->setVisible(pane->isHidden());
+  } else if (command == TCCommandId::StatusBarVisible) {
+    statusLine->setVisible(statusLine->isHidden());
+  } else if (command == TCCommandId::Exit) {
+    close();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool TCMainFrame::IsChecked(TCCommandId command) const {
+  // "Hidden" is what somebody asked for; a pane behind another tab or in a window not yet shown is open.
+  if (const QDockWidget* pane = PaneOf(command)) return !pane->isHidden();
+  return command == TCCommandId::StatusBarVisible && !statusLine->isHidden();
+}
+
+QDockWidget* TCMainFrame::PaneOf(TCCommandId command) const {
+  switch (command) {
+    case TCCommandId::PlayerPane:
+      return playerDock;
+    case TCCommandId::MessagePane:
+      return messageDock;
+    default:
+      return nullptr;
+  }
+}
+
+void TCMainFrame::ShowTitle(std::u16string_view name, TCModifiedMark modified) {
+  const QString program = ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle));
+  // "[*]" is where the toolkit puts the modified mark; doubled it is a part of the file's name.
+  const QString mark = QStringLiteral("[*]");
+  const QString shownName = ToQString(name).replace(mark, QString(mark + mark));
+  const QString title = shownName.isEmpty() ? QString(program + mark)
+                                            : QString(shownName + mark + QStringLiteral(" - ") + program);
+  setWindowTitle(title);
+  setWindowModified(modified == TCModifiedMark::Modified);
+}
+
+void TCMainFrame::ShowOptions() {
+  // Of the application, not of this window alone: menus and dialogs are windows of their own.
+  QApplication::setPalette(StagePalette(settings.textColour, settings.backgroundColour));
+  QApplication::setPalette(MenuPalette(settings.textColour, settings.backgroundColour), "QMenu");
+  const QColor text = ToColour(settings.textColour);
+  const QColor background = ToColour(settings.backgroundColour);
+  view->SetBackground(text, background);
+  view->SetDisplayFont(settings.playListFontTypeName, settings.playListFontSize);
+  messageDisplay->SetDisplayFont(ToQString(settings.lyricsFontTypeName), settings.lyricsFontSize, text,
+                                 background);
+  Q_EMIT marksChanged();
+}
+
+void TCMainFrame::ShowStatus(std::u16string_view text) {
+  statusLine->ShowMessage(ToQString(text));
+}
+
+bool TCMainFrame::event(QEvent* event) {
+  // The toolkit would show what a menu entry does in a way that no screen reader sees.
+  if (event->type() == QEvent::StatusTip) {
+    statusLine->ShowHint(static_cast<QStatusTipEvent*>(event)->tip());
+    return true;
+  }
+  return QMainWindow::event(event);
+}
+
+}  // namespace brevant

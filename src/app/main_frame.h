@@ -1,0 +1,76 @@
+// The main window: the playlist in the middle, the player and the message display in panes below it, the menu
+// bar and the status bar around them. It shows and decides nothing about songs; commands come and go through
+// TCCommandRouter. User-interface thread only.
+#pragma once
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QSettings>
+
+#include "app/general_reports_tab.h"
+#include "app/status_line.h"
+#include "document/frame_display.h"
+#include "model/settings.h"
+#include "playback/player.h"
+#include "playback/player_monitor.h"
+#include "resources/command_id.h"
+#include "views/brevant_view.h"
+#include "views/wmp_pane_container.h"
+
+namespace brevant {
+
+class TCMainFrame : public QMainWindow, public TCFrameDisplay {
+  Q_OBJECT
+
+ public:
+  // Builds everything the window holds, shown or not: songs play and lines are kept while their panes are
+  // closed. Sets the player's volume to 100.
+  TCMainFrame(const TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor);
+
+  [[nodiscard]] TCBrevantView& PlaylistView() { return *view; }
+  [[nodiscard]] TCGeneralReportsTab& MessageDisplay() { return *messageDisplay; }
+  [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }
+  [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
+
+  // The frame's own commands: its panes, the status bar and Exit.
+  [[nodiscard]] static bool Handles(TCCommandId command);
+  bool OnCommand(TCCommandId command);
+  // The pane or bar that the command stands for is open.
+  [[nodiscard]] bool IsChecked(TCCommandId command) const;
+
+  // What the user arranged by hand, for the next start.
+  void SaveLayout(QSettings& layout) const;
+  void RestoreLayout(const QSettings& layout);
+
+  // TCFrameDisplay
+  void ShowTitle(std::u16string_view name, TCModifiedMark mark) override;
+  void ShowOptions() override;
+  void ShowStatus(std::u16string_view text) override;
+
+ Q_SIGNALS:
+  // An option or a pane changed: check marks are to be shown anew.
+  void marksChanged();
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  QDockWidget* AddPane(TCCommandId id, TCTextId title, QWidget& content);
+  void ArrangePanes();
+  void PlaceOnScreen();
+  [[nodiscard]] QDockWidget* PaneOf(TCCommandId command) const;
+
+  const TCSettings& settings;
+
+  // The panes and the playlist live in a window of their own inside this one, so that their layout and the
+  // command bars' can be kept and restored apart. The toolkit owns every child.
+  QMainWindow* inner = nullptr;
+  TCBrevantView* view = nullptr;
+  TCWMPPaneContainer* playerPane = nullptr;
+  TCGeneralReportsTab* messageDisplay = nullptr;
+  QDockWidget* playerDock = nullptr;
+  QDockWidget* messageDock = nullptr;
+  TCStatusLine* statusLine = nullptr;
+};
+
+}  // namespace brevant

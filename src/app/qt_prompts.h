@@ -1,0 +1,32 @@
+// The document's questions as dialogs over the main window.
+#pragma once
+
+#include "app/main_frame.h"
+#include "document/prompts.h"
+#include "model/set_list_store.h"
+#include "text/native_path.h"
+
+class QFileDialog;
+
+namespace brevant {
+
+class TCQtPrompts final : public TCPrompts {
+ public:
+  // The choosers start in the folder of the document that the set lists were opened from or saved to last.
+  TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore, TCNativePaths nativePaths);
+
+  [[nodiscard]] TCSaveAnswer AskSaveChanges(std::u16string_view name) override;
+  [[nodiscard]] std::optional<std::u16string> ChooseDocumentToOpen() override;
+  [[nodiscard]] std::optional<std::u16string> ChooseDocumentToSave(
+      std::u16string_view suggestedPath) override;
+
+ private:
+  void SetUp(QFileDialog& dialog) const;
+  [[nodiscard]] std::optional<std::u16string> Choose(QFileDialog& dialog);
+
+  TCMainFrame& frame;
+  const TCSetListStore& setLists;
+  TCNativePaths paths;
+};
+
+}  // namespace brevant

@@ -1,0 +1,17 @@
+// The look of the program's controls: drawn by the toolkit alone, the same on every desktop, so that one
+// palette colours all of it. Set by main() for the whole application.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace brevant {
+
+class TCStageStyle : public QProxyStyle {
+ public:
+  TCStageStyle();
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returnData) const override;
+};
+
+}  // namespace brevant

@@ -1,0 +1,24 @@
+// What the player, its workers and their jobs have in common. Held by shared pointers, so that a thread stuck
+// in a dead sound server keeps what it uses even after the player is gone.
+#pragma once
+
+#include "playback/engine/player_desk.h"
+#include "playback/gst/gst_player_options.h"
+#include "playback/gst/job_threads.h"
+#include "playback/gst/midi_synth.h"
+#include "text/native_path.h"
+
+namespace brevant {
+
+struct TCGstShared {
+  TCGstShared(TCNativePaths nativePaths, const TCGstPlayerOptions& chosen)
+      : paths(std::move(nativePaths)), options(chosen), synths(chosen.soundfont, chosen.dataFolders) {}
+
+  const TCNativePaths paths;
+  const TCGstPlayerOptions options;
+  TCPlayerDesk desk;
+  TCJobThreads jobs;
+  TCSynthStore synths;
+};
+
+}  // namespace brevant

@@ -1,0 +1,374 @@
+#include "views/brevant_view.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QResizeEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "views/display_font.h"
+#include "views/playlist_header.h"
+#include "views/playlist_model.h"
+#include "views/playlist_row_delegate.h"
+#include "views/row_colours.h"
+#include "views/text_conversion.h"
+
+namespace brevant {
+
+namespace {
+
+constexpr int kTimerPeriod = 100;  // milliseconds
+constexpr int kTicksAPoll = 3;     // so the document's tick comes every 300 ms
+constexpr int kSmallPicture = 16;  // pixels
+constexpr int kLargestPicture = 48;
+constexpr int kPictureMargins = 10;
+
+// Texts that are measured and remembered; a damaged file may hold any number of different ones.
+constexpr int kMostMeasuredTexts = 2000;
+constexpr qsizetype kLongestMeasuredText = 100;
+
+constexpr std::array kTextColumns{TCPlaylistColumn::Number, TCPlaylistColumn::Status, TCPlaylistColumn::Time};
+
+}  // namespace
+
+TCBrevantView::TCBrevantView(QWidget* parent)
+    : QTableView(parent), playlistModel(new TCPlaylistModel(this)), columnHeader(new TCPlaylistHeader(this)) {
+  setObjectName(QStringLiteral("playlistView"));
+  setAccessibleName(QStringLiteral("Playlist"));
+  setModel(playlistModel);
+  setHorizontalHeader(columnHeader);
+  setItemDelegate(new TCPlaylistRowDelegate(this));
+
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setDragDropMode(NoDragDrop);
+  setTabKeyNavigation(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setTextElideMode(Qt::ElideRight);
+  setWordWrap(false);
+  setShowGrid(false);
+  setFrameShape(NoFrame);
+  setCornerButtonEnabled(false);
+
+  // Rows are never measured one by one: with large playlists that takes seconds.
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->hide();
+
+  // Qt's own answer to a double-click on a column's edge reads the rows in sight only.
+  disconnect(columnHeader, &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
+  connect(columnHeader, &QHeaderView::sectionHandleDoubleClicked, this, [this](int section) {
+    columnWidths.Release(static_cast<TCPlaylistColumn>(section));
+    FitColumns();
+  });
+  connect(columnHeader, &QHeaderView::sectionResized, this, [this](int section, int, int newSize) {
+    if (fittingColumns) return;
+    columnWidths.SetByUser(static_cast<TCPlaylistColumn>(section), newSize);
+    FitColumns();
+  });
+  // The last header is cut where the window ends, which is another place after a scroll.
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, columnHeader->viewport(),
+          qOverload<>(&QWidget::update));
+
+  const TCSettings defaults;
+  SetBackground(ToQColor(defaults.textColour), ToQColor(defaults.backgroundColour));
+  SetDisplayFont(defaults.playListFontTypeName, defaults.playListFontSize);
+
+  pollTimer.setObjectName(QStringLiteral("timer 1"));
+  pollTimer.setTimerType(Qt::PreciseTimer);
+  connect(&pollTimer, &QTimer::timeout, this, &TCBrevantView::CountPollTick);
+  pollTimer.start(kTimerPeriod);
+}
+
+void TCBrevantView::SetRowPicture(const QIcon& picture) {
+  playlistModel->SetRowPicture(picture);
+}
+
+void TCBrevantView::SetBackground(const QColor& text, const QColor& background) {
+  QPalette colours = palette();
+  if (colours.color(QPalette::Base) == background && colours.color(QPalette::Text) == text) return;
+  colours.setColor(QPalette::Base, background);
+  colours.setColor(QPalette::AlternateBase, background);
+  colours.setColor(QPalette::Text, text);
+  setPalette(colours);
+}
+
+void TCBrevantView::SaveColumnWidths(QSettings& settings) const {
+  columnWidths.Save(settings);
+}
+
+void TCBrevantView::LoadColumnWidths(const QSettings& settings) {
+  columnWidths.Load(settings);
+  FitColumns();
+}
+
+void TCBrevantView::ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) {
+  playlistModel->ShowRows(std::move(rows), mode);
+  if (!playlistModel->Rows().empty()) FollowBackgroundOf(playlistModel->Rows().front().colours);
+  if (mode == TCShowRows::Afresh) {
+    rowKeptInView = -1;
+    scrollToTop();
+    for (const TCPlaylistColumn column : kTextColumns) columnWidths.SetNeeded(column, 0);
+    MeasureHeaders();
+  }
+  MeasureRows();
+  FitColumns();
+}
+
+void TCBrevantView::SetRowColours(std::vector<TCRowColours> colours) {
+  playlistModel->SetColours(colours);
+  if (!colours.empty()) FollowBackgroundOf(colours.front());
+}
+
+void TCBrevantView::SetRowTexts(std::int32_t row, const TCRowTexts& texts) {
+  playlistModel->SetTexts(row, texts);
+  if (!playlistModel->HasRow(row)) return;
+  MeasureRow(playlistModel->Rows()[static_cast<std::size_t>(row)]);
+  FitColumns();
+}
+
+void TCBrevantView::SetRowTime(std::int32_t row, std::u16string_view time) {
+  if (time.empty() || !playlistModel->HasRow(row)) return;
+  playlistModel->SetTime(row, time);
+  MeasureRow(playlistModel->Rows()[static_cast<std::size_t>(row)]);
+  FitColumns();
+}
+
+void TCBrevantView::SetPlaylistHeader(std::u16string_view text) {
+  playlistModel->SetNameHeader(ToQString(text));
+  MeasureHeaders();
+  FitColumns();
+}
+
+void TCBrevantView::ClearRows() {
+  ShowRows({}, TCShowRows::Afresh);
+}
+
+std::int32_t TCBrevantView::SelectedRow() const {
+  std::int32_t first = -1;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    if (range.isValid() && (first < 0 || range.top() < first)) first = range.top();
+  }
+  return first;
+}
+
+std::vector<std::int32_t> TCBrevantView::SelectedRows() const {
+  std::vector<std::int32_t> selected;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (int row = range.top(); range.isValid() && row <= range.bottom(); ++row) selected.push_back(row);
+  }
+  std::sort(selected.begin(), selected.end());
+  selected.erase(std::unique(selected.begin(), selected.end()), selected.end());
+  return selected;
+}
+
+void TCBrevantView::SelectRow(std::int32_t row) {
+  const std::int32_t selected = SelectedRow();
+  if (selected >= 0) {
+    selectionModel()->select(playlistModel->index(selected, 0),
+                             QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+  }
+  if (!playlistModel->HasRow(row)) return;
+  const QModelIndex index = playlistModel->index(row, 0);
+  selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  // Where the keyboard goes on from, and where a press with Shift extends the selection from.
+  selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+}
+
+void TCBrevantView::ScrollToRow(std::int32_t row) {
+  if (!playlistModel->HasRow(row)) return;
+  rowKeptInView = row;
+  scrollTo(playlistModel->index(row, 0));
+}
+
+void TCBrevantView::TakeFocus() {
+  // From another window of ours, a floating pane; but never away from another program: playlists also change
+  // by themselves.
+  const QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && active != window() && QApplication::activeModalWidget() == nullptr) {
+    activateWindow();
+  }
+  setFocus(Qt::OtherFocusReason);
+}
+
+void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points) {
+  const QFont wanted = DisplayFont(face, points, *this);
+  const bool keepRow = IsInView(rowKeptInView, viewport()->height());
+  setFont(wanted);
+  columnHeader->setFont(wanted);
+  FitToFont();
+  if (keepRow) scrollTo(playlistModel->index(rowKeptInView, 0));
+}
+
+void TCBrevantView::ResetMouseState() {
+  setState(NoState);
+}
+
+void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  // A row is wider than most windows: going to it must not slide its first columns out of sight.
+  const int place = horizontalScrollBar()->value();
+  QTableView::scrollTo(index, hint);
+  horizontalScrollBar()->setValue(place);
+}
+
+void TCBrevantView::mousePressEvent(QMouseEvent* event) {
+  QTableView::mousePressEvent(event);
+  if (event->button() == Qt::RightButton) Q_EMIT contextMenuWanted(event->globalPosition().toPoint());
+}
+
+void TCBrevantView::mouseDoubleClickEvent(QMouseEvent* event) {
+  QTableView::mouseDoubleClickEvent(event);
+  if (event->button() != Qt::LeftButton) return;
+  const std::int32_t row = SelectedRow();
+  SelectRow(row);
+  Q_EMIT rowPicked(row);
+  activateWindow();
+  setFocus(Qt::MouseFocusReason);
+}
+
+void TCBrevantView::contextMenuEvent(QContextMenuEvent* event) {
+  // The mouse's was asked for when the button went down.
+  event->accept();
+  if (event->reason() == QContextMenuEvent::Mouse) return;
+  const std::int32_t row = SelectedRow();
+  const QPoint place = row >= 0 ? visualRect(playlistModel->index(row, 0)).bottomLeft() : QPoint();
+  Q_EMIT contextMenuWanted(viewport()->mapToGlobal(place));
+}
+
+void TCBrevantView::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      QTableView::keyPressEvent(event);
+      return;
+    case Qt::Key_F4:
+      event->accept();
+      return;
+    case Qt::Key_A:
+      // Selecting all by a slip of the hand is a way to lose a set list.
+      event->setAccepted(event->modifiers() == Qt::ControlModifier);
+      return;
+    default:
+      // No search by letters, no copying of cell texts: every other key is the frame's.
+      event->ignore();
+  }
+}
+
+void TCBrevantView::resizeEvent(QResizeEvent* event) {
+  const bool keepRow = !event->oldSize().isValid() || IsInView(rowKeptInView, event->oldSize().height());
+  QTableView::resizeEvent(event);
+  FitColumns();
+  if (keepRow && playlistModel->HasRow(rowKeptInView)) scrollTo(playlistModel->index(rowKeptInView, 0));
+}
+
+void TCBrevantView::CountPollTick() {
+  if (++pollTicks < kTicksAPoll) return;
+  pollTicks = 0;
+  Q_EMIT pollDue();
+}
+
+void TCBrevantView::FollowBackgroundOf(const TCRowColours& colours) {
+  const QColor background = ToQColor(colours.background);
+  if (palette().color(QPalette::Base) == background) return;
+  const bool whiteReadsBetter =
+      ContrastRatio(colours.background, kWhite) > ContrastRatio(colours.background, kBlack);
+  SetBackground(ToQColor(whiteReadsBetter ? kWhite : kBlack), background);
+}
+
+bool TCBrevantView::IsInView(std::int32_t row, int viewHeight) const {
+  if (!playlistModel->HasRow(row)) return false;
+  const int top = rowViewportPosition(row);
+  return top < viewHeight && top + rowHeight(row) > 0;
+}
+
+void TCBrevantView::FitToFont() {
+  measuredTexts.clear();
+  const QFontMetrics metrics(font(), this);
+  int widest = 0;
+  for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
+    const int width = metrics.horizontalAdvance(QChar(digit));
+    if (width > widest) widestDigit = QChar(digit);
+    widest = std::max(widest, width);
+  }
+
+  const int line = metrics.height();
+  const int picture = std::clamp(line * 3 / 4, kSmallPicture, kLargestPicture);
+  setIconSize({picture, picture});
+  columnWidths.SetNeeded(TCPlaylistColumn::Picture, picture + kPictureMargins);
+  const int rowHeight = std::max(line + std::max(4, line / 6), picture + 2);
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setDefaultSectionSize(rowHeight);
+  {
+    // Widens columns that are narrower, which is not the user's doing.
+    const QScopedValueRollback<bool> guard(fittingColumns, true);
+    columnHeader->setMinimumSectionSize(
+        std::max(kSmallPicture + kPictureMargins, widest + columnHeader->TextMargins()));
+  }
+
+  for (const TCPlaylistColumn column : kTextColumns) columnWidths.SetNeeded(column, 0);
+  MeasureHeaders();
+  MeasureRows();
+  updateGeometries();
+  FitColumns();
+}
+
+void TCBrevantView::MeasureRows() {
+  for (const TCPlaylistRow& row : playlistModel->Rows()) MeasureRow(row);
+}
+
+void TCBrevantView::MeasureRow(const TCPlaylistRow& row) {
+  for (const TCPlaylistColumn column : kTextColumns) {
+    columnWidths.GrowNeeded(column, CellWidthOf(ToQString(TCPlaylistModel::TextIn(row, column))));
+  }
+}
+
+void TCBrevantView::MeasureHeaders() {
+  for (const TCPlaylistColumn column : kTextColumns) {
+    const QString text =
+        playlistModel->headerData(static_cast<int>(column), Qt::Horizontal, Qt::DisplayRole).toString();
+    columnWidths.GrowNeeded(column, CellWidthOf(text));
+  }
+}
+
+void TCBrevantView::FitColumns() {
+  if (fittingColumns) return;
+  const QScopedValueRollback<bool> guard(fittingColumns, true);
+  int others = 0;
+  for (int column = 0; column < kPlaylistColumns - 1; ++column) {
+    const int width = columnWidths.Of(static_cast<TCPlaylistColumn>(column));
+    if (columnHeader->sectionSize(column) != width) columnHeader->resizeSection(column, width);
+    others += columnHeader->sectionSize(column);
+  }
+  // The names take what is left, and the header's total is never cut off for want of a wider column.
+  const int name = static_cast<int>(TCPlaylistColumn::Name);
+  const QString headerText = playlistModel->headerData(name, Qt::Horizontal, Qt::DisplayRole).toString();
+  columnWidths.SetNeeded(TCPlaylistColumn::Name,
+                         std::max(viewport()->width() - others, CellWidthOf(headerText)));
+  const int nameWidth = columnWidths.Of(TCPlaylistColumn::Name);
+  if (columnHeader->sectionSize(name) != nameWidth) columnHeader->resizeSection(name, nameWidth);
+}
+
+int TCBrevantView::CellWidthOf(const QString& text) {
+  QString shape = text.left(kLongestMeasuredText);
+  for (QChar& character : shape) {
+    if (character >= QLatin1Char('0') && character <= QLatin1Char('9')) character = widestDigit;
+  }
+  const auto known = measuredTexts.constFind(shape);
+  if (known != measuredTexts.constEnd()) return *known;
+  if (measuredTexts.size() >= kMostMeasuredTexts) measuredTexts.clear();
+  const int width = QFontMetrics(font(), this).horizontalAdvance(shape) + columnHeader->TextMargins();
+  measuredTexts.insert(shape, width);
+  return width;
+}
+
+}  // namespace brevant

@@ -1,0 +1,223 @@
+#include "app/key_filter.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDateTimeEdit>
+#include <QDialog>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "fake_target.h"
+
+namespace brevant {
+namespace {
+
+// A window with one widget of every kind that would like keys for itself.
+class KeyFilter : public testing::Test {
+ protected:
+  void SetUp() override {
+    target.handled = {TCCommandId::Play,
+                      TCCommandId::PauseContinue,
+                      TCCommandId::NextSong,
+                      TCCommandId::LoadSong,
+                      TCCommandId::Cancel,
+                      TCCommandId::NextPlaylist,
+                      TCCommandId::AutoSongAdvance,
+                      TCCommandId::SelectAll};
+    actions.emplace(target, window);
+    filter.emplace(*actions, window);
+    auto* middle = new QWidget;
+    window.setCentralWidget(middle);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(list), static_cast<QWidget*>(line), static_cast<QWidget*>(readOnlyText),
+          static_cast<QWidget*>(timeField), static_cast<QWidget*>(button)}) {
+      widget->setParent(middle);
+    }
+    list->addItems({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")});
+    list->setCurrentRow(0);
+    readOnlyText->setReadOnly(true);
+    window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("Entry"));
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  void Focus(QWidget* widget) {
+    widget->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), widget);
+  }
+
+  // A window counts as active already while the one it belongs to is, so that is not what is awaited.
+  void Activate(QWidget& other) {
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&other] { return QApplication::activeWindow() == &other; }));
+  }
+
+  std::vector<TCCommandId> Type(QWidget* widget, Qt::Key key,
+                                Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    target.ran.clear();
+    QTest::keyClick(widget, key, modifiers);
+    QCoreApplication::sendPostedEvents();
+    return target.ran;
+  }
+
+  TCFakeTarget target;
+  QMainWindow window;
+  QListWidget* list = new QListWidget;
+  QLineEdit* line = new QLineEdit;
+  QPlainTextEdit* readOnlyText = new QPlainTextEdit(QStringLiteral("text"));
+  QDateTimeEdit* timeField = new QDateTimeEdit;
+  QPushButton* button = new QPushButton(QStringLiteral("Button"));
+  std::optional<TCCommandActions> actions;
+  std::optional<TCKeyFilter> filter;
+};
+
+using Ran = std::vector<TCCommandId>;
+
+TEST_F(KeyFilter, TheTablesKeysActFromListButtonAndReadOnlyText) {
+  for (QWidget* widget :
+       {static_cast<QWidget*>(list), static_cast<QWidget*>(button), static_cast<QWidget*>(readOnlyText)}) {
+    Focus(widget);
+    EXPECT_EQ(Type(widget, Qt::Key_P), Ran{TCCommandId::Play});
+    EXPECT_EQ(Type(widget, Qt::Key_Space), Ran{TCCommandId::PauseContinue});
+    EXPECT_EQ(Type(widget, Qt::Key_Down), Ran{TCCommandId::NextSong});
+    EXPECT_EQ(Type(widget, Qt::Key_Return), Ran{TCCommandId::LoadSong});
+    EXPECT_EQ(Type(widget, Qt::Key_Enter, Qt::KeypadModifier), Ran{TCCommandId::LoadSong});
+    EXPECT_EQ(Type(widget, Qt::Key_Escape), Ran{TCCommandId::Cancel});
+    EXPECT_EQ(Type(widget, Qt::Key_A, Qt::ControlModifier), Ran{TCCommandId::SelectAll});
+  }
+  EXPECT_EQ(list->currentRow(), 0) << "the arrow was the table's, not the list's";
+  EXPECT_FALSE(readOnlyText->textCursor().hasSelection()) << "Ctrl+A was the table's";
+}
+
+TEST_F(KeyFilter, WhileTypingTheTableKeepsOnlyItsFunctionKeys) {
+  Focus(line);
+  EXPECT_EQ(Type(line, Qt::Key_P), Ran{});
+  EXPECT_EQ(Type(line, Qt::Key_Space), Ran{});
+  EXPECT_EQ(Type(line, Qt::Key_Return), Ran{});
+  EXPECT_EQ(Type(line, Qt::Key_Down), Ran{});
+  EXPECT_EQ(Type(line, Qt::Key_Escape), Ran{});
+  EXPECT_EQ(Type(line, Qt::Key_K, Qt::ControlModifier), Ran{});
+  EXPECT_EQ(line->text(), QStringLiteral("p "));
+  EXPECT_EQ(Type(line, Qt::Key_F5), Ran{TCCommandId::Play});
+}
+
+TEST_F(KeyFilter, ATimeFieldIsTypedInto) {
+  Focus(timeField);
+  EXPECT_EQ(Type(timeField, Qt::Key_Right), Ran{});
+  EXPECT_EQ(Type(timeField, Qt::Key_Return), Ran{});
+}
+
+TEST_F(KeyFilter, ADialogKeepsItsKeys) {
+  QDialog dialog(&window);
+  auto* field = new QLineEdit(&dialog);
+  dialog.open();
+  Activate(dialog);
+  Focus(field);
+  EXPECT_EQ(Type(field, Qt::Key_F5), Ran{});
+  EXPECT_EQ(Type(field, Qt::Key_P), Ran{});
+  EXPECT_EQ(field->text(), QStringLiteral("p"));
+}
+
+TEST_F(KeyFilter, AFloatingPaneIsPartOfTheWindow) {
+  QDockWidget pane(&window);
+  auto* inside = new QListWidget;
+  inside->addItems({QStringLiteral("one"), QStringLiteral("two")});
+  pane.setWidget(inside);
+  window.addDockWidget(Qt::BottomDockWidgetArea, &pane);
+  pane.setFloating(true);
+  pane.show();
+  Activate(pane);
+  Focus(inside);
+  EXPECT_EQ(Type(inside, Qt::Key_Down), Ran{TCCommandId::NextSong});
+}
+
+TEST_F(KeyFilter, TheMenuBarIsWalkedWithTheArrows) {
+  EXPECT_EQ(FocusKind(window.menuBar()), TCKeyFocus::Menu);
+  Focus(window.menuBar());
+  EXPECT_EQ(Type(window.menuBar(), Qt::Key_Right), Ran{});
+}
+
+TEST_F(KeyFilter, AWidgetKeepsTheKeysItHasClaimed) {
+  filter->LetKeep(*list, [](int key, Qt::KeyboardModifiers) { return key == Qt::Key_Down; });
+  Focus(list);
+  EXPECT_EQ(Type(list, Qt::Key_Down), Ran{});
+  EXPECT_EQ(list->currentRow(), 1);
+  EXPECT_EQ(Type(list, Qt::Key_P), Ran{TCCommandId::Play});
+  Focus(button);
+  EXPECT_EQ(Type(button, Qt::Key_Down), Ran{TCCommandId::NextSong})
+      << "its claim holds only while it has focus";
+}
+
+// A key event with a time of its own, sent as the display server's events come in.
+void Send(QWidget* widget, QEvent::Type type, Qt::Key key, unsigned long time, bool autoRepeat) {
+  if (type == QEvent::KeyPress &&
+      qt_sendShortcutOverrideEvent(widget, time, key, Qt::NoModifier, {}, autoRepeat)) {
+    return;
+  }
+  QKeyEvent event(type, key, Qt::NoModifier, 0, 0, 0, {}, autoRepeat);
+  event.setTimestamp(time);
+  QCoreApplication::sendEvent(widget, &event);
+}
+
+TEST_F(KeyFilter, AHeldKeyActsOnceUnlessItsCommandMayRepeat) {
+  Focus(list);
+  for (const bool recognised : {true, false}) {
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down}) {
+      target.ran.clear();
+      unsigned long time = recognised ? 10000 : 20000;
+      Send(list, QEvent::KeyPress, key, time, false);
+      for (int i = 0; i < 4; ++i) {
+        time += 30;
+        Send(list, QEvent::KeyRelease, key, time, recognised);
+        Send(list, QEvent::KeyPress, key, time, recognised);
+      }
+      Send(list, QEvent::KeyRelease, key, time + 30, false);
+      QCoreApplication::sendPostedEvents();
+      if (key == Qt::Key_Space) {
+        EXPECT_EQ(target.ran, Ran{TCCommandId::PauseContinue});
+      } else {
+        EXPECT_EQ(target.ran, Ran(5, TCCommandId::NextSong));
+      }
+    }
+  }
+  EXPECT_EQ(list->currentRow(), 0) << "what nobody may have is not handed to the list";
+}
+
+TEST_F(KeyFilter, TwoQuickPressesAreTwo) {
+  Focus(list);
+  Send(list, QEvent::KeyPress, Qt::Key_Space, 1000, false);
+  Send(list, QEvent::KeyRelease, Qt::Key_Space, 1040, false);
+  Send(list, QEvent::KeyPress, Qt::Key_Space, 1050, false);
+  Send(list, QEvent::KeyRelease, Qt::Key_Space, 1090, false);
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(target.ran, Ran(2, TCCommandId::PauseContinue));
+}
+
+TEST_F(KeyFilter, KeysActWithTheMenuBarHidden) {
+  window.menuBar()->hide();
+  Focus(list);
+  EXPECT_EQ(Type(list, Qt::Key_P), Ran{TCCommandId::Play});
+}
+
+TEST(FocusKind, OnlyWhatCanBeChangedIsTypedInto) {
+  QLineEdit line;
+  QPlainTextEdit text;
+  EXPECT_EQ(FocusKind(&line), TCKeyFocus::Typing);
+  EXPECT_EQ(FocusKind(&text), TCKeyFocus::Typing);
+  line.setReadOnly(true);
+  text.setReadOnly(true);
+  EXPECT_EQ(FocusKind(&line), TCKeyFocus::Ordinary);
+  EXPECT_EQ(FocusKind(&text), TCKeyFocus::Ordinary);
+  EXPECT_EQ(FocusKind(nullptr), TCKeyFocus::Ordinary);
+}
+
+}  // namespace
+}  // namespace brevant

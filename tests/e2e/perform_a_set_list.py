@@ -1,0 +1,231 @@
+"""Performs a set list on the built program as a musician would: opens it, steps through it with single keys, hears
+it, and finds it again at the next start.
+"""
+
+from rig import accessibility as tree
+from rig import flow, screen, songs
+from rig.waiting import holds_for, wait_for
+
+BLACK, WHITE = (0, 0, 0), (255, 255, 255)
+RED, GREEN, AMBER = (255, 0, 0), (0, 255, 0), (255, 191, 0)  # played, playing, next
+
+FIRST_HEADER = "First Set - Total Playlist Time: 01:12"  # 9 + 2 + 8 + 8 seconds and three gaps of 15
+SECOND_HEADER = "Second Set - Total Playlist Time: 00:31"  # 8 + 8 seconds and one gap
+
+
+class Evening:
+    """The document: a tone of its own pitch for each song, a short one to hear the end of, and a song that is gone."""
+
+    def __init__(self, folder):
+        folder.mkdir()
+        self.document = folder / "Evening.brv"
+        self.missing = folder / "Lost Song.mp3"
+        first = folder / "Harbour Tone.wav"
+        songs.write_wave(first, 440, 9.2)
+        songs.write_lyrics(first, [(0, "M: The harbour hums,"), (5000, "F: the evening comes.")])
+        songs.write_wave(folder / "Short Tone.wav", 660, 2.4)
+        songs.write_mp3(folder / "Third Tone.mp3", 550, 8.2)
+        songs.write_midi(folder / "Organ.mid", 69, 8.2)
+        songs.write_wma(folder / "Last Tone.wma", 880, 8.2)
+        songs.write_document(self.document, [
+            ("Band", "First Set", first, "00:09"),
+            ("Band", "First Set", folder / "Short Tone.wav", "00:02"),
+            ("Band", "First Set", folder / "Third Tone.mp3", "00:08"),
+            ("Band", "First Set", self.missing, "00:08"),
+            ("Band", "Second Set", folder / "Organ.mid", "00:08"),
+            ("Band", "Second Set", folder / "Last Tone.wma", "00:08"),
+        ])
+
+
+class Stage:
+    """The program's window as the operator sees it."""
+
+    def __init__(self, program, listener):
+        self.program = program
+        self.listener = listener
+
+    def dismiss_the_about_box(self):
+        box = self.program.wait_for("dialog", "About Brevant")
+        assert tree.find(box, "label"), "the About box says nothing"
+        wait_for("the About box to have the keys", lambda: screen.active_window_title() == "About Brevant")
+        screen.press("Return")
+        wait_for("the About box to close", lambda: self.program.find("dialog", "About Brevant") is None)
+        wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))
+
+    def table(self):
+        return self.program.wait_for("table", "Playlist")
+
+    def rows(self):
+        return [row[1:] for row in tree.rows(self.table())]
+
+    def header(self):
+        return tree.headers(self.table())[4]
+
+    def message(self):
+        return tree.text_of(self.program.wait_for("text", "Brevant Information & Lyrics"))
+
+    def colours(self):
+        """The text colour of each row's song name; every row must stand on black."""
+        table, picture = self.table(), screen.Picture()
+        seen = [picture.text_and_background(tree.cell_area(table, row, 4)) for row in range(len(tree.rows(table)))]
+        assert all(background == BLACK for _, background in seen), seen
+        return [text for text, _ in seen]
+
+    def wait_for_colours(self, *expected):
+        seen = []
+
+        def shown():
+            seen[:] = self.colours()
+            return seen == list(expected)
+
+        try:
+            wait_for(f"rows in the colours {expected}", shown, 5)
+        except AssertionError as failure:
+            raise AssertionError(f"{failure}; the rows are {seen}") from None
+
+    def wait_for_message(self, text, seconds=5):
+        wait_for(f"the message display to show {text!r}", lambda: text in self.message(), seconds)
+
+    def wait_to_hear(self, pitch, share=0.5, seconds=5):
+        wait_for(f"a tone of {pitch} Hz", lambda: self.listener.sounds(pitch, share), seconds)
+
+    def wait_for_silence(self, seconds=5):
+        wait_for("silence", self.listener.silent, seconds)
+
+
+def opens_the_document(stage, evening):
+    stage.dismiss_the_about_box()
+    wait_for("the title", lambda: screen.active_window_title() == "Evening.brv - Brevant")
+    assert stage.rows() == [
+        ["1", "Found\\Lyrics", "00:09", "Harbour Tone.wav"],
+        ["2", "Found", "00:02", "Short Tone.wav"],
+        ["3", "Found", "00:08", "Third Tone.mp3"],
+        ["4", "Not found", "00:08", "Lost Song.mp3"],
+    ], stage.rows()
+    assert stage.header() == FIRST_HEADER, stage.header()
+    assert stage.message().strip() == "...Brevant...", stage.message()
+    assert stage.program.find("label", None), "the status bar has no label"
+    stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
+
+
+def plays_pauses_and_stops(stage, listener):
+    assert listener.silent(), "something sounds before Play"
+    screen.press("Return")
+    stage.wait_to_hear(440)
+    stage.wait_for_message("M: The harbour hums,")
+    assert "F: the evening comes." in stage.message(), stage.message()
+    assert "...Brevant..." not in stage.message(), stage.message()
+
+    screen.press("space")
+    stage.wait_for_silence()
+    holds_for("a paused song is silent and stays current",
+              lambda: listener.silent() and stage.header() == FIRST_HEADER, 1.5)
+    stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
+    screen.press("space")
+    stage.wait_to_hear(440)
+
+    screen.press("s")
+    stage.wait_for_silence()
+    holds_for("a stopped song does not give way to the next", listener.silent, 1.0)
+    stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
+
+
+def steps_through_the_songs(stage):
+    screen.press("Down")
+    stage.wait_for_colours(RED, GREEN, AMBER, WHITE)
+    screen.press("Up")
+    stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
+    screen.press("Up")
+    stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
+    screen.press("Down")
+    stage.wait_for_colours(RED, GREEN, AMBER, WHITE)
+
+
+def a_song_runs_to_its_end(stage, listener):
+    screen.press("Return")
+    stage.wait_to_hear(660)
+    stage.wait_for_colours(WHITE, RED, GREEN, AMBER)
+    stage.wait_for_silence()
+    holds_for("the next song waits for its key", listener.silent, 1.5)
+    stage.wait_for_colours(WHITE, RED, GREEN, AMBER)
+    screen.press("F5")
+    stage.wait_to_hear(550)
+    screen.press("F6")
+    stage.wait_for_silence()
+
+
+def a_lost_song_is_reported(stage, listener, evening):
+    screen.press("Down")
+    stage.wait_for_colours(WHITE, WHITE, RED, GREEN)
+    screen.press("Return")
+    lost = songs.windows_path(evening.missing)
+    stage.wait_for_message(f"Unable to play song as unable to find file: {lost}")
+    assert stage.rows()[3][1] == "Not found", stage.rows()
+    holds_for("a lost song stays silent", listener.silent, 1.0)
+
+
+def goes_to_the_next_playlist(stage):
+    screen.press("Right")
+    wait_for("the second playlist", lambda: stage.header() == SECOND_HEADER)
+    assert stage.rows() == [["1", "Found", "00:08", "Organ.mid"], ["2", "Found", "00:08", "Last Tone.wma"]], stage.rows()
+    # The fourth song was current, and this playlist has two: no row is marked until Play takes the first.
+    stage.wait_for_colours(WHITE, WHITE)
+    screen.press("p")
+    stage.wait_to_hear(440, share=0.2)
+    stage.wait_for_colours(GREEN, AMBER)
+    screen.press("Down")
+    stage.wait_for_colours(RED, GREEN)
+    screen.press("Return")
+    stage.wait_to_hear(880)
+    screen.press("s")
+    stage.wait_for_silence()
+    screen.press("Left")
+    wait_for("the first playlist", lambda: stage.header() == FIRST_HEADER)
+    stage.wait_for_colours(RED, GREEN, AMBER, WHITE)
+
+
+def closes_and_writes_its_settings(stage, program, evening):
+    screen.press("alt+F4")
+    status = program.exit_status()
+    assert status == 0, f"the program ended with status {status}"
+    settings = program.settings_file.read_text("utf-8")
+    assert settings.startswith("[Brevant]"), settings
+    assert f"LastLoadedFileName={songs.windows_path(evening.document)}" in settings, settings
+    assert "AutoSongAdvance=Yes" in settings, settings
+
+
+def perform(evening_flow):
+    evening = Evening(evening_flow.scratch / "set lists")
+    listener = evening_flow.listener
+    program = evening_flow.start(evening.document)
+    stage = Stage(program, listener)
+    steps = (
+        (lambda: opens_the_document(stage, evening), "opens the document named on the command line"),
+        (lambda: plays_pauses_and_stops(stage, listener), "plays, pauses, continues and stops the first song"),
+        (lambda: steps_through_the_songs(stage), "steps down and up"),
+        (lambda: a_song_runs_to_its_end(stage, listener), "hears a song to its end, and the next becomes current"),
+        (lambda: a_lost_song_is_reported(stage, listener, evening), "is told of a lost song"),
+        (lambda: goes_to_the_next_playlist(stage), "goes to the next playlist and back"),
+        (lambda: closes_and_writes_its_settings(stage, program, evening), "closes"),
+    )
+    for action, sentence in steps:
+        evening_flow.step(sentence)
+        action()
+        evening_flow.picture(sentence.split(",")[0].replace(" ", "-"))
+
+    evening_flow.step("starts again and finds the last document")
+    again = evening_flow.start()
+    second = Stage(again, listener)
+    second.dismiss_the_about_box()
+    wait_for("the title", lambda: screen.active_window_title() == "Evening.brv - Brevant")
+    assert second.header() == FIRST_HEADER, second.header()
+    second.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
+    evening_flow.picture("the-second-start")
+    screen.press("alt+f")
+    screen.press("x")
+    status = again.exit_status()
+    assert status == 0, f"the second run ended with status {status}"
+
+
+if __name__ == "__main__":
+    flow.run(perform)

@@ -1,0 +1,56 @@
+"""Looks at the stage's display: pictures and pixels of it, and keys typed into it."""
+
+import collections
+import re
+import subprocess
+
+
+class Picture:
+    """What the whole display shows at one moment."""
+
+    def __init__(self):
+        shot = subprocess.run(["import", "-silent", "-window", "root", "-depth", "8", "ppm:-"],
+                              check=True, capture_output=True).stdout
+        header = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", shot)
+        self.width, self.height = int(header.group(1)), int(header.group(2))
+        self.pixels = shot[header.end():]
+
+    def colours(self, area):
+        """How many pixels of each (red, green, blue) stand in (x, y, width, height)."""
+        left, top, width, height = area
+        left, right = max(0, left), min(self.width, left + width)
+        found = collections.Counter()
+        for y in range(max(0, top), min(self.height, top + height)):
+            row = self.pixels[(y * self.width + left) * 3:(y * self.width + right) * 3]
+            found.update(zip(row[0::3], row[1::3], row[2::3]))
+        return found
+
+    def text_and_background(self, area):
+        """(text colour, background colour) of a line of text: the background is what most pixels show, the text the
+        colour farthest from it, for the pixels between the two are only the letters' smoothed edges."""
+        found = self.colours(area)
+        background = found.most_common(1)[0][0]
+
+        def distance(colour):
+            return sum(abs(a - b) for a, b in zip(colour, background))
+
+        return max(found, key=lambda colour: (distance(colour), found[colour])), background
+
+
+def save_picture(path):
+    subprocess.run(["import", "-silent", "-window", "root", str(path)], check=False)
+
+
+def press(*keys):
+    """Types keys by their X names, into whatever has the focus: press("Down"), press("alt+F4")."""
+    subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "30", *keys], check=True)
+
+
+def click(x, y, times=1):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "60", "1"],
+                   check=True)
+
+
+def active_window_title():
+    answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True)
+    return answer.stdout.strip()
