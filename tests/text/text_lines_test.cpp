@@ -163,6 +163,7 @@ TEST(TextLines, AFilePastTheGreatestSizeIsRefused) {
       return std::nullopt;
     }
     bool ReplaceFile(std::u16string_view /*path*/, std::string_view /*bytes*/) override { return false; }
+    bool CopyFile(std::u16string_view /*from*/, std::u16string_view /*to*/) override { return false; }
     bool MakeFolder(std::u16string_view /*path*/) override { return false; }
     bool DeleteFile(std::u16string_view /*path*/) override { return false; }
 
