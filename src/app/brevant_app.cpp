@@ -57,7 +57,7 @@ void TCBrevantApp::ConnectParts() {
           [this] { router.OnCommand(TCCommandId::PauseContinue); });
   connect(&pane, &TCWMPPaneContainer::stopWanted, this, [this] { router.OnCommand(TCCommandId::Stop); });
 
-  connect(&frame, &TCMainFrame::marksChanged, this, [this] { actions.RefreshChecks(); });
+  connect(&frame, &TCMainFrame::marksChanged, &actions, &TCCommandActions::RefreshChecks);
 }
 
 void TCBrevantApp::InitInstance(const TCStartFile& startFile) {

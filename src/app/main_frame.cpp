@@ -52,6 +52,11 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
   PlaceOnScreen();
 }
 
+TCMainFrame::~TCMainFrame() {
+  // The panes go with the toolkit's part of this window and tell of it, when nobody is left to be told.
+  for (QDockWidget* pane : {playerDock, messageDock}) pane->disconnect(this);
+}
+
 void TCMainFrame::SaveLayout(QSettings& layout) const {
   view->SaveColumnWidths(layout);
 }
