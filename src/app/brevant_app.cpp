@@ -63,8 +63,10 @@ void TCBrevantApp::ConnectParts() {
 void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   frame.show();
   frame.PlaylistView().TakeFocus();
-  OpenFirstDocument(startFile);
-  TCAboutBox::Open(libraries, frame);
+  firstPaint.emplace(frame, [this, startFile] {
+    OpenFirstDocument(startFile);
+    TCAboutBox::Open(libraries, frame);
+  });
 }
 
 void TCBrevantApp::OpenFirstDocument(const TCStartFile& startFile) {

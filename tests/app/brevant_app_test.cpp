@@ -55,6 +55,7 @@ class BrevantApp : public testing::Test {
                            layoutFolder.filePath(QStringLiteral("Layout.ini")),
                            {}});
     app->InitInstance(startFile);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !AboutBoxes().isEmpty(); }));
   }
 
   void CloseAboutBox() {
@@ -115,6 +116,20 @@ TEST_F(BrevantApp, TheSongGoesOnBehindTheAboutBox) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().Transport().State().started; }))
       << "the poll stands still";
   EXPECT_EQ(AboutBoxes().size(), 1);
+}
+
+TEST_F(BrevantApp, TheWindowIsSeenBeforeTheDocumentIsRead) {
+  app.emplace(TCAppParts{files,
+                         player,
+                         player,
+                         TCNativePaths(),
+                         {u"\\opt\\", u"\\conf\\", u"\\state\\"},
+                         layoutFolder.filePath(QStringLiteral("Layout.ini")),
+                         {}});
+  app->InitInstance({true, "typed", std::u16string(kShow)});
+  EXPECT_TRUE(Frame().isVisible());
+  EXPECT_EQ(app->Document().GetPathName(), u"");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().GetPathName() == kShow; }));
 }
 
 TEST_F(BrevantApp, StartsWithAnEmptyDocumentAndTheBanner) {
