@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <optional>
 #include <string>
 
 #include "text/numbers.h"
@@ -29,7 +28,7 @@ bool Contains(std::u16string_view text, std::u16string_view part) {
 // both name the artist.
 struct HeaderTag {
   std::u16string_view mark;
-  std::u16string TCLyricHeaders::*header;
+  std::u16string TCLyricHeaders::*value;
 };
 constexpr std::array<HeaderTag, 10> kHeaderTags = {{
     {u"id:", &TCLyricHeaders::artist},
@@ -44,7 +43,24 @@ constexpr std::array<HeaderTag, 10> kHeaderTags = {{
     {u"offset:", &TCLyricHeaders::offset},
 }};
 
+// Every mark of the list ends with a lower-case letter and a colon. Nearly every tag is a time, in which no
+// such pair stands, and need not be searched ten times.
+bool MayHoldHeaderMark(std::u16string_view tag) {
+  for (std::size_t colon = tag.find(u':', 1); colon != kNone; colon = tag.find(u':', colon + 1)) {
+    if (tag[colon - 1] >= u'a' && tag[colon - 1] <= u'z') return true;
+  }
+  return false;
+}
+
+const HeaderTag* FindHeaderTag(std::u16string_view tag) {
+  if (!MayHoldHeaderMark(tag)) return nullptr;
+  const auto* known = std::find_if(kHeaderTags.begin(), kHeaderTags.end(),
+                                   [tag](const HeaderTag& header) { return Contains(tag, header.mark); });
+  return known == kHeaderTags.end() ? nullptr : known;
+}
+
 std::int32_t SingerOf(std::u16string_view text) {
+  if (text.find(u':') == kNone) return 0;
   if (Contains(text, u"F:")) return 2;
   if (Contains(text, u"M:")) return 1;
   if (Contains(text, u"D:")) return 3;
@@ -62,14 +78,17 @@ void SetLineEnds(TCLyricSheet& sheet) {
   }
 }
 
-std::optional<TextLines> ReadLyricLines(TCFileSystem& files, std::u16string_view songPath) {
+bool ReadSheet(TCFileSystem& files, std::u16string_view songPath, TCLyricSheet& sheet) {
+  const LineVisitor parse = [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); };
   if (const auto bytes = files.ReadFile(ReplaceExtension(songPath, u"lrc"), kMaxLyricFileBytes)) {
-    return SplitAnsiLines(*bytes);
+    VisitAnsiLines(*bytes, parse);
+    return true;
   }
   if (const auto bytes = files.ReadFile(ReplaceExtension(songPath, u"lrcx"), kMaxLyricFileBytes)) {
-    return SplitUtf16Lines(*bytes);
+    VisitUtf16Lines(*bytes, parse);
+    return true;
   }
-  return std::nullopt;
+  return false;
 }
 
 }  // namespace
@@ -77,17 +96,14 @@ std::optional<TextLines> ReadLyricLines(TCFileSystem& files, std::u16string_view
 bool LoadLyrics(TCFileSystem& files, std::u16string_view songPath, TCSongLyrics& lyrics) {
   TCLyricSheet sheet;
   sheet.headers = lyrics.Headers();
-  const std::optional<TextLines> lines = ReadLyricLines(files, songPath);
-  if (lines) {
-    for (const std::u16string& line : *lines) ParseLyricLine(line, sheet);
-    SetLineEnds(sheet);
-  }
+  const bool read = ReadSheet(files, songPath, sheet);
+  SetLineEnds(sheet);
   lyrics = TCSongLyrics(sheet);
-  return lines.has_value();
+  return read;
 }
 
 void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {
-  if (!Contains(line, u"[")) return;
+  if (line.find(u'[') == kNone) return;
   const std::size_t tagEnd = line.find(u']');
   if (tagEnd == kNone) return;
 
@@ -96,9 +112,9 @@ void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {
   const std::u16string_view tag = line.substr(0, tagEnd).substr(std::min<std::size_t>(tagEnd, 1));
   const std::u16string_view rest = line.substr(tagEnd + 1);
 
-  for (const HeaderTag& known : kHeaderTags) {
-    if (!Contains(tag, known.mark)) continue;
-    sheet.headers.*known.header = tag.substr(std::min(tag.size(), known.mark.size()));
+  if (const HeaderTag* header = FindHeaderTag(tag)) {
+    // By its length: the mark itself is taken to stand first, as the '[' is.
+    sheet.headers.*header->value = tag.substr(std::min(tag.size(), header->mark.size()));
     return;
   }
 

@@ -1,8 +1,8 @@
 #include "lyrics/lyrics.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
-#include <optional>
 #include <string_view>
 
 #include "text/unicode.h"
@@ -35,13 +35,6 @@ constexpr std::array<HeaderField, kHeaderCount> kHeaderFields = {
 
 enum class Encoding : std::uint8_t { Utf8, Utf16 };
 
-std::string Encode(std::u16string_view text, Encoding encoding) {
-  if (encoding == Encoding::Utf8) return EncodeUtf8(text);
-  std::string bytes(text.size() * sizeof(char16_t), '\0');
-  if (!text.empty()) std::memcpy(bytes.data(), text.data(), bytes.size());
-  return bytes;
-}
-
 std::u16string Decode(std::string_view bytes, Encoding encoding) {
   if (encoding == Encoding::Utf8) return DecodeUtf8(bytes).value_or(std::u16string());
   std::u16string text(bytes.size() / sizeof(char16_t), u'\0');
@@ -49,21 +42,35 @@ std::u16string Decode(std::string_view bytes, Encoding encoding) {
   return text;
 }
 
-// UTF-8 holds most lyrics in half the room. UTF-16 is taken where it is smaller, and where UTF-8 would lose a
-// lone surrogate.
-Encoding SmallerEncoding(const TCLyricSheet& sheet) {
+struct EncodedSize {
   std::size_t utf8 = 0;
   std::size_t utf16 = 0;
-  bool lossless = true;
-  const auto weigh = [&](const std::u16string& piece) {
-    const std::string bytes = EncodeUtf8(piece);
-    utf8 += bytes.size();
-    utf16 += piece.size() * sizeof(char16_t);
-    lossless = lossless && DecodeUtf8(bytes) == piece;
-  };
-  for (const HeaderField field : kHeaderFields) weigh(sheet.headers.*field);
-  for (const TCLyric& line : sheet.lines) weigh(line.text);
-  return lossless && utf8 <= utf16 ? Encoding::Utf8 : Encoding::Utf16;
+  bool lossless = true;  // as UTF-8
+
+  void Add(std::u16string_view text) {
+    utf16 += text.size() * sizeof(char16_t);
+    std::size_t at = 0;
+    while (at < text.size() && text[at] < 0x80) ++at;
+    utf8 += at;
+    for (; at < text.size(); ++at) {
+      const char16_t unit = text[at];
+      if ((unit & 0xF800) != 0xD800) {
+        utf8 += unit < 0x80 ? 1 : unit < 0x800 ? 2 : 3;
+        continue;
+      }
+      const bool pair = (unit & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
+      lossless = lossless && pair;
+      utf8 += 4;
+      ++at;
+    }
+  }
+};
+
+EncodedSize Measure(const TCLyricSheet& sheet) {
+  EncodedSize size;
+  for (const HeaderField field : kHeaderFields) size.Add(sheet.headers.*field);
+  for (const TCLyric& line : sheet.lines) size.Add(line.text);
+  return size;
 }
 
 }  // namespace
@@ -78,7 +85,12 @@ struct TCSongLyrics::Packed {
     std::uint32_t singer : 2 = 0;
   };
 
-  explicit Packed(const TCLyricSheet& sheet) : encoding(SmallerEncoding(sheet)) {
+  explicit Packed(const TCLyricSheet& sheet) {
+    // UTF-8 holds most lyrics in half the room. UTF-16 is taken where it is smaller, and where UTF-8 would
+    // lose half a surrogate pair.
+    const EncodedSize size = Measure(sheet);
+    encoding = size.lossless && size.utf8 <= size.utf16 ? Encoding::Utf8 : Encoding::Utf16;
+    text.reserve(std::min<std::size_t>(encoding == Encoding::Utf8 ? size.utf8 : size.utf16, kMaxTextBytes));
     for (std::size_t header = 0; header < kHeaderCount; ++header) {
       headerEnds[header] = Append(sheet.headers.*kHeaderFields[header]);
     }
@@ -90,7 +102,6 @@ struct TCSongLyrics::Packed {
       record.textEnd = Append(line.text) & kMaxTextBytes;
       record.singer = line.singer < 0 || line.singer > 3 ? 0 : static_cast<std::uint32_t>(line.singer) & 3U;
     }
-    text.shrink_to_fit();
   }
 
   [[nodiscard]] std::u16string HeaderText(std::size_t header) const {
@@ -107,8 +118,13 @@ struct TCSongLyrics::Packed {
   static constexpr std::uint32_t kMaxTextBytes = (std::uint32_t{1} << 30) - 1;
 
   std::uint32_t Append(std::u16string_view piece) {
-    const std::string bytes = Encode(piece, encoding);
-    if (bytes.size() <= kMaxTextBytes - text.size()) text += bytes;
+    const std::size_t begin = text.size();
+    if (encoding == Encoding::Utf8) {
+      AppendUtf8(text, piece);
+    } else {
+      text.append(reinterpret_cast<const char*>(piece.data()), piece.size() * sizeof(char16_t));
+    }
+    if (text.size() > kMaxTextBytes) text.resize(begin);
     return static_cast<std::uint32_t>(text.size());
   }
   [[nodiscard]] std::u16string Piece(std::size_t begin, std::size_t end) const {

@@ -20,10 +20,14 @@ bool StartsWithDrive(std::u16string_view path) {
   return letter >= u'a' && letter <= u'z';
 }
 
-bool HasLoneSurrogate(std::u16string_view text) {
+// Half a surrogate pair or a zero: neither can stand in a name here, and with a replacement in its place the
+// text could name another file.
+bool CanBeNoName(std::u16string_view text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
-    if ((text[at] & 0xF800) != 0xD800) continue;
-    const bool pair = (text[at] & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
+    const char16_t unit = text[at];
+    if (unit == 0) return true;
+    if ((unit & 0xF800) != 0xD800) continue;
+    const bool pair = (unit & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
     if (!pair) return true;
     ++at;
   }
@@ -44,8 +48,7 @@ bool Exists(const std::string& native) {
 TCNativePaths::TCNativePaths(DriveFolders driveFolders) : drives(std::move(driveFolders)) {}
 
 std::string TCNativePaths::ToNative(std::u16string_view path) const {
-  // Neither can be part of a name here; with a replacement in its place, the text could name another file.
-  if (path.find(u'\0') != std::u16string_view::npos || HasLoneSurrogate(path)) return {};
+  if (CanBeNoName(path)) return {};
 
   std::string native;
   if (StartsWithDrive(path)) {
@@ -60,7 +63,7 @@ std::string TCNativePaths::ToNative(std::u16string_view path) const {
   }
   std::string rest = EncodeUtf8(path);
   std::replace(rest.begin(), rest.end(), '\\', '/');
-  return native + rest;
+  return native.empty() ? rest : native + rest;
 }
 
 std::optional<std::u16string> TCNativePaths::FromNative(std::string_view native) {

@@ -1,8 +1,8 @@
 #include "text/text_lines.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
+#include <utility>
 
 #include "text/unicode.h"
 
@@ -26,55 +26,69 @@ class Utf16Units {
     const auto high = static_cast<unsigned char>(bytes[2 * index + 1]);
     return static_cast<char16_t>(low | high << 8);
   }
+  [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
+    while (from < size() && (*this)[from] != kReturn) ++from;
+    return from;
+  }
+  [[nodiscard]] std::u16string Slice(std::size_t begin, std::size_t end) const {
+    std::u16string line(end - begin, u'\0');
+    for (std::size_t i = begin; i < end; ++i) line[i - begin] = (*this)[i];
+    return line;
+  }
 
  private:
   std::string_view bytes;
 };
 
-class DecodedUnits : public std::u16string_view {
+class DecodedUnits {
  public:
   static constexpr bool kDropsMarks = false;
 
-  explicit DecodedUnits(const std::u16string& text) : std::u16string_view(text) {}
-};
+  explicit DecodedUnits(std::u16string_view source) : text(source) {}
+  [[nodiscard]] std::size_t size() const { return text.size(); }
+  [[nodiscard]] char16_t operator[](std::size_t index) const { return text[index]; }
+  [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
+    return std::min(text.find(kReturn, from), text.size());
+  }
+  [[nodiscard]] std::u16string_view Slice(std::size_t begin, std::size_t end) const {
+    return text.substr(begin, end - begin);
+  }
 
-template <class Units>
-std::u16string Slice(const Units& units, std::size_t begin, std::size_t end) {
-  std::u16string line(end - begin, u'\0');
-  for (std::size_t i = begin; i < end; ++i) line[i - begin] = units[i];
-  return line;
-}
+ private:
+  std::u16string_view text;
+};
 
 // How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
 template <class Units>
 std::size_t CountLines(const Units& units) {
   std::size_t lines = 0;
-  for (std::size_t at = 0; at < units.size(); ++at) {
-    if (units[at] != kReturn) continue;
-    ++lines;
-    ++at;
-  }
+  for (std::size_t at = units.FindReturn(0); at < units.size(); at = units.FindReturn(at + 2)) ++lines;
   return std::max<std::size_t>(lines, 1);
 }
 
-template <class Units>
-TextLines SplitLines(const Units& units) {
-  TextLines lines;
-  lines.reserve(CountLines(units));
+template <class Units, class Visit>
+void VisitLines(const Units& units, const Visit& visit) {
   bool atStart = Units::kDropsMarks;  // no character but marks and line ends has been seen
-  std::size_t at = 0;
-  while (at < units.size()) {
+  bool first = true;
+  for (std::size_t at = 0; at < units.size(); at += 2) {  // the carriage return and the unit it swallows
     std::size_t begin = at;
-    while (at < units.size() && units[at] != kReturn) ++at;
+    at = units.FindReturn(at);
     const bool finished = at < units.size();
 
     if (atStart) {
       while (begin < at && units[begin] == kMark) ++begin;
       atStart = begin == at;
     }
-    if (finished || (lines.empty() && begin < at)) lines.push_back(Slice(units, begin, at));
-    at += 2;  // the carriage return and the unit it swallows
+    if (finished || (first && begin < at)) visit(units.Slice(begin, at));
+    first = false;
   }
+}
+
+template <class Units>
+TextLines SplitLines(const Units& units) {
+  TextLines lines;
+  lines.reserve(CountLines(units));
+  VisitLines(units, [&lines](auto&& line) { lines.emplace_back(std::forward<decltype(line)>(line)); });
   return lines;
 }
 
@@ -87,6 +101,15 @@ TextLines SplitUtf16Lines(std::string_view bytes) {
 TextLines SplitAnsiLines(std::string_view bytes) {
   const std::u16string text = DecodeAnsi(bytes);
   return SplitLines(DecodedUnits(text));
+}
+
+void VisitUtf16Lines(std::string_view bytes, const LineVisitor& visit) {
+  VisitLines(Utf16Units(bytes), visit);
+}
+
+void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit) {
+  const std::u16string text = DecodeAnsi(bytes);
+  VisitLines(DecodedUnits(text), visit);
 }
 
 std::string JoinUtf16Lines(const TextLines& lines) {

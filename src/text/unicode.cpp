@@ -38,16 +38,38 @@ Sequence SequenceOf(std::uint8_t lead) {
   return {};
 }
 
-void AppendCodePoint(std::u16string& text, std::uint32_t codePoint) {
-  if (codePoint < 0x10000) {
-    text.push_back(static_cast<char16_t>(codePoint));
-    return;
+struct CodePoint {
+  std::uint32_t value = 0;
+  std::size_t length = 0;
+};
+
+// The sequence at the head of `bytes`, which is no ASCII.
+std::optional<CodePoint> DecodeSequence(std::string_view bytes) {
+  const Sequence sequence = SequenceOf(static_cast<std::uint8_t>(bytes.front()));
+  if (sequence.length == 0 || sequence.length > bytes.size()) return std::nullopt;
+  std::uint32_t value = sequence.leadBits;
+  for (std::size_t next = 1; next < sequence.length; ++next) {
+    const auto byte = static_cast<std::uint8_t>(bytes[next]);
+    if ((byte & 0xC0) != 0x80) return std::nullopt;
+    value = value << 6 | (byte & 0x3FU);
   }
-  text.push_back(static_cast<char16_t>(0xD800 + ((codePoint - 0x10000) >> 10)));
-  text.push_back(static_cast<char16_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF)));
+  const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+  if (value < sequence.least || value > 0x10FFFF || surrogate) return std::nullopt;
+  return CodePoint{value, sequence.length};
 }
 
-void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
+// Returns where the next unit goes.
+std::size_t PutUtf16(std::u16string& text, std::size_t at, std::uint32_t codePoint) {
+  if (codePoint < 0x10000) {
+    text[at] = static_cast<char16_t>(codePoint);
+    return at + 1;
+  }
+  text[at] = static_cast<char16_t>(0xD800 + ((codePoint - 0x10000) >> 10));
+  text[at + 1] = static_cast<char16_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF));
+  return at + 2;
+}
+
+void AppendCodePoint(std::string& bytes, std::uint32_t codePoint) {
   const auto put = [&bytes](std::uint32_t value) { bytes.push_back(static_cast<char>(value)); };
   if (codePoint < 0x80) {
     put(codePoint);
@@ -69,28 +91,22 @@ void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
 }  // namespace
 
 std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
-  std::u16string text;
-  text.reserve(bytes.size());
+  // No sequence is shorter than the units it becomes.
+  std::u16string text(bytes.size(), u'\0');
+  std::size_t length = 0;
   for (std::size_t at = 0; at < bytes.size();) {
     const auto lead = static_cast<std::uint8_t>(bytes[at]);
     if (lead < 0x80) {
-      text.push_back(lead);
+      text[length++] = lead;
       ++at;
       continue;
     }
-    const Sequence sequence = SequenceOf(lead);
-    if (sequence.length == 0 || sequence.length > bytes.size() - at) return std::nullopt;
-    std::uint32_t codePoint = sequence.leadBits;
-    for (std::size_t next = 1; next < sequence.length; ++next) {
-      const auto byte = static_cast<std::uint8_t>(bytes[at + next]);
-      if ((byte & 0xC0) != 0x80) return std::nullopt;
-      codePoint = codePoint << 6 | (byte & 0x3FU);
-    }
-    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    if (codePoint < sequence.least || codePoint > 0x10FFFF || surrogate) return std::nullopt;
-    AppendCodePoint(text, codePoint);
-    at += sequence.length;
+    const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));
+    if (!next) return std::nullopt;
+    length = PutUtf16(text, length, next->value);
+    at += next->length;
   }
+  text.resize(length);
   return text;
 }
 
@@ -112,18 +128,28 @@ std::u16string DecodeAnsi(std::string_view bytes) {
 
 std::string EncodeUtf8(std::u16string_view text) {
   std::string bytes;
-  bytes.reserve(text.size());
-  for (std::size_t at = 0; at < text.size(); ++at) {
+  AppendUtf8(bytes, text);
+  return bytes;
+}
+
+void AppendUtf8(std::string& bytes, std::u16string_view text) {
+  // Most of what is written is ASCII to its end, and is copied without a look at the room left.
+  const std::size_t start = bytes.size();
+  bytes.resize(start + text.size());
+  std::size_t at = 0;
+  for (; at < text.size() && text[at] < 0x80; ++at) bytes[start + at] = static_cast<char>(text[at]);
+  bytes.resize(start + at);
+
+  for (; at < text.size(); ++at) {
     const char16_t unit = text[at];
     if (IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1])) {
       const std::uint32_t high = unit & 0x3FFU;
       const std::uint32_t low = text[++at] & 0x3FFU;
-      AppendUtf8(bytes, 0x10000 + (high << 10 | low));
+      AppendCodePoint(bytes, 0x10000 + (high << 10 | low));
     } else {
-      AppendUtf8(bytes, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
+      AppendCodePoint(bytes, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
     }
   }
-  return bytes;
 }
 
 }  // namespace brevant

@@ -19,5 +19,6 @@ namespace brevant {
 
 // A lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string EncodeUtf8(std::u16string_view text);
+void AppendUtf8(std::string& bytes, std::u16string_view text);
 
 }  // namespace brevant

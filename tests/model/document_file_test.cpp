@@ -206,6 +206,23 @@ TEST_F(DocumentFileTest, AFileThatWasNotReadWholeIsKeptBesideTheNewOne) {
   }
 }
 
+TEST_F(DocumentFileTest, SongsThatWereTakenForGroupListsAreKeptBesideTheNewFile) {
+  files.PutUtf16(u"D:\\Docs\\1.brvgl", u"p.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
+  ASSERT_TRUE(Open(u"\"X\" \"Y\" \"C:\\brvgl\\a.mp3\" 01:00\r\n1.brvgl\r\n"));
+  const auto before = files.BytesOf(kPath);
+  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
+}
+
+TEST_F(DocumentFileTest, AWholeDocumentOfGroupListsLeavesNoCopyBehind) {
+  files.PutUtf16(u"D:\\Docs\\1.brvgl", u"p.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
+  ASSERT_TRUE(Open(u"1.brvgl\r\n.\\1.BRVGL\r\n"));
+  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  EXPECT_FALSE(files.BytesOf(u"D:\\Docs\\show.brv~").has_value());
+}
+
 TEST_F(DocumentFileTest, AWholeDocumentLeavesNoCopyBehind) {
   for (const std::u16string_view text :
        {u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n", u"\uFEFF\"A\" \"P1\" \"x.mp3\" 03:00\r\n"}) {

@@ -104,6 +104,19 @@ TEST(TextLines, EightBitTextIsDecodedAsAWhole) {
   EXPECT_THAT(SplitAnsiLines("caf\xC3\xA9\r\ncaf\xE9\r\n"), ElementsAre(u"caf\u00C3\u00A9", u"caf\u00E9"));
 }
 
+TEST(TextLines, AreVisitedAsTheyAreSplit) {
+  for (const std::string& bytes : {std::string(), std::string("a"), Utf16(u"\uFEFFa\r\n\r\nb\r"),
+                                   Utf16(u"one"), std::string("a\r\ncaf\xC3\xA9\r\nlost")}) {
+    TextLines visited;
+    const LineVisitor keep = [&visited](std::u16string_view line) { visited.emplace_back(line); };
+    VisitUtf16Lines(bytes, keep);
+    EXPECT_EQ(visited, SplitUtf16Lines(bytes));
+    visited.clear();
+    VisitAnsiLines(bytes, keep);
+    EXPECT_EQ(visited, SplitAnsiLines(bytes));
+  }
+}
+
 TEST(TextLines, AreWrittenWithoutAMarkAndWithAnEndAfterEveryLine) {
   EXPECT_EQ(JoinUtf16Lines({u"a", u"", u"\u20AC"}), Utf16(u"a\r\n\r\n\u20AC\r\n"));
   EXPECT_EQ(JoinUtf16Lines({}), "");
@@ -150,6 +163,7 @@ TEST(TextLines, AFilePastTheGreatestSizeIsRefused) {
       return std::nullopt;
     }
     bool ReplaceFile(std::u16string_view /*path*/, std::string_view /*bytes*/) override { return false; }
+    bool CopyFile(std::u16string_view /*from*/, std::u16string_view /*to*/) override { return false; }
     bool MakeFolder(std::u16string_view /*path*/) override { return false; }
     bool DeleteFile(std::u16string_view /*path*/) override { return false; }
 

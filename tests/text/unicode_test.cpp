@@ -52,6 +52,16 @@ TEST(Unicode, WritesUtf8) {
   EXPECT_EQ(EncodeUtf8(u"a\u00E9\u20AC\U0001F3B5"), "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xB5");
 }
 
+TEST(Unicode, IsAppendedToWhatStandsThere) {
+  std::string bytes = "a";
+  AppendUtf8(bytes, u"b\u00E9");
+  AppendUtf8(bytes, u"");
+  AppendUtf8(bytes, u"c");
+  EXPECT_EQ(bytes,
+            "ab\xC3\xA9"
+            "c");
+}
+
 TEST(Unicode, ALoneSurrogateIsWrittenAsTheReplacementCharacter) {
   const std::u16string high(1, static_cast<char16_t>(0xD83C));
   const std::u16string low(1, static_cast<char16_t>(0xDFB5));

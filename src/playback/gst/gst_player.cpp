@@ -6,17 +6,10 @@
 
 namespace brevant {
 
-namespace {
-
-void StartWorker(const std::shared_ptr<TCGstShared>& shared, TCPlayerDesk::Handover work) {
-  shared->jobs.Start([shared, work = std::move(work)] { TCGstWorker(shared, work).Run(); });
-}
-
-}  // namespace
-
 TCGstPlayer::TCGstPlayer(TCNativePaths paths, TCGstPlayerOptions options)
     : shared(std::make_shared<TCGstShared>(std::move(paths), options)) {
-  StartWorker(shared, {shared->desk.FirstTicket(), TCPlayerMachine(options.limits)});
+  waitingWork = {shared->desk.FirstTicket(), TCPlayerMachine(options.limits)};
+  StartWorker();
 }
 
 TCGstPlayer::~TCGstPlayer() {
@@ -24,10 +17,16 @@ TCGstPlayer::~TCGstPlayer() {
   shared->jobs.WaitUntilDone(shared->options.closeLimit);
 }
 
+void TCGstPlayer::StartWorker() const {
+  const bool started =
+      shared->jobs.Start([common = shared, work = *waitingWork] { TCGstWorker(common, work).Run(); });
+  if (started) waitingWork.reset();
+}
+
 void TCGstPlayer::KeepWorkerAlive() const {
-  if (auto work = shared->desk.ReplaceWorkerIfStuck(shared->options.workerLimit)) {
-    StartWorker(shared, std::move(*work));
-  }
+  if (auto work = shared->desk.ReplaceWorkerIfStuck(shared->options.workerLimit))
+    waitingWork = std::move(work);
+  if (waitingWork) StartWorker();
 }
 
 bool TCGstPlayer::LoadUrl(std::u16string_view path) {

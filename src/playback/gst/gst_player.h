@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "playback/engine/player_desk.h"
 #include "playback/gst/gst_player_options.h"
 #include "playback/player.h"
 #include "playback/player_monitor.h"
@@ -38,8 +39,11 @@ class TCGstPlayer final : public TCPlayer, public TCPlayerMonitor {
 
  private:
   void KeepWorkerAlive() const;
+  void StartWorker() const;
 
   std::shared_ptr<TCGstShared> shared;
+  // Work for a worker that is still to be started: the system may be out of threads for a moment.
+  mutable std::optional<TCPlayerDesk::Handover> waitingWork;
 };
 
 }  // namespace brevant

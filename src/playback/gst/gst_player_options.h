@@ -15,6 +15,7 @@ struct TCGstPlayerOptions {
   std::string audioSink{};
   // A soundfont to be tried before those of the system.
   std::string soundfont{};
+  std::string systemSoundfont = kSystemSoundfont;
   // Where soundfonts are looked for besides.
   std::vector<std::string> dataFolders = DataFoldersOfEnvironment();
   TCPlayerLimits limits{};

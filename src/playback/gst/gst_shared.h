@@ -12,7 +12,9 @@ namespace brevant {
 
 struct TCGstShared {
   TCGstShared(TCNativePaths nativePaths, const TCGstPlayerOptions& chosen)
-      : paths(std::move(nativePaths)), options(chosen), synths(chosen.soundfont, chosen.dataFolders) {}
+      : paths(std::move(nativePaths)),
+        options(chosen),
+        synths({chosen.soundfont, chosen.systemSoundfont}, chosen.dataFolders) {}
 
   const TCNativePaths paths;
   const TCGstPlayerOptions options;

@@ -48,7 +48,7 @@ bool TCMidiSynth::With(Claim claim, const std::function<void(fluid_synth_t&)>& w
 
 std::shared_ptr<TCMidiSynth> TCSynthStore::Get() {
   const std::lock_guard lock(mutex);
-  if (!synth) synth = TCMidiSynth::Load(FindSoundfonts(configured, dataFolders));
+  if (!synth) synth = TCMidiSynth::Load(FindSoundfonts(preferred, dataFolders));
   return synth;
 }
 

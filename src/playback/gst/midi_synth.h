@@ -46,14 +46,14 @@ class TCMidiSynth {
 // Loads the synth when the first MIDI song asks for it. Blocks as long as the disk does; any thread.
 class TCSynthStore {
  public:
-  TCSynthStore(std::string configuredSoundfont, std::vector<std::string> folders)
-      : configured(std::move(configuredSoundfont)), dataFolders(std::move(folders)) {}
+  TCSynthStore(std::vector<std::string> preferredSoundfonts, std::vector<std::string> folders)
+      : preferred(std::move(preferredSoundfonts)), dataFolders(std::move(folders)) {}
 
   // Null when there is no soundfont; asked again, it looks again.
   [[nodiscard]] std::shared_ptr<TCMidiSynth> Get();
 
  private:
-  const std::string configured;
+  const std::vector<std::string> preferred;
   const std::vector<std::string> dataFolders;
   std::mutex mutex;
   std::shared_ptr<TCMidiSynth> synth;

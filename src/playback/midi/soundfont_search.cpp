@@ -11,9 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where the distribution's alternatives system puts the soundfont of its choice.
-constexpr std::string_view kSystemDefault = "/usr/share/sounds/sf3/default-GM.sf3";
-
 bool IsFile(const fs::path& path) {
   std::error_code error;
   return fs::is_regular_file(path, error);
@@ -64,14 +61,15 @@ std::vector<std::string> DataFoldersOfEnvironment() {
   return DataFolders(Environment("HOME"), Environment("XDG_DATA_HOME"), Environment("XDG_DATA_DIRS"));
 }
 
-std::vector<std::string> FindSoundfonts(const std::string& configured,
+std::vector<std::string> FindSoundfonts(const std::vector<std::string>& preferred,
                                         const std::vector<std::string>& dataFolders) {
   std::vector<std::string> found;
   const auto add = [&found](const std::string& file) {
     if (std::find(found.begin(), found.end(), file) == found.end()) found.push_back(file);
   };
-  if (!configured.empty() && IsFile(configured)) add(configured);
-  if (IsFile(kSystemDefault)) add(std::string(kSystemDefault));
+  for (const std::string& file : preferred) {
+    if (!file.empty() && IsFile(file)) add(file);
+  }
   for (const std::string& folder : dataFolders) {
     for (const char* below : {"sounds/sf2", "sounds/sf3", "soundfonts"}) {
       for (const std::string& file : SoundfontsIn(fs::path(folder) / below)) add(file);

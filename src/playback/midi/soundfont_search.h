@@ -16,9 +16,12 @@ namespace brevant {
 // The same out of this process's environment.
 [[nodiscard]] std::vector<std::string> DataFoldersOfEnvironment();
 
-// Every soundfont worth trying, best first: `configured` when it stands on the disk, the system's default,
-// then what lies in sounds/sf2, sounds/sf3 and soundfonts below `dataFolders`, by name.
-[[nodiscard]] std::vector<std::string> FindSoundfonts(const std::string& configured,
+// Where the distribution's alternatives system puts the soundfont of its choice.
+inline constexpr const char* kSystemSoundfont = "/usr/share/sounds/sf3/default-GM.sf3";
+
+// Every soundfont worth trying, best first: those of `preferred` that stand on the disk, then what lies in
+// sounds/sf2, sounds/sf3 and soundfonts below `dataFolders`, by name.
+[[nodiscard]] std::vector<std::string> FindSoundfonts(const std::vector<std::string>& preferred,
                                                       const std::vector<std::string>& dataFolders);
 
 }  // namespace brevant

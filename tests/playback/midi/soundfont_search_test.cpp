@@ -30,43 +30,35 @@ class SoundfontSearch : public testing::Test {
     return path.string();
   }
 
-  // What was found below the test's own folder; the machine's own soundfont is none of its business.
-  std::vector<std::string> Found(const std::string& configured,
-                                 const std::vector<std::string>& folders) const {
-    std::vector<std::string> found = FindSoundfonts(configured, folders);
-    std::erase_if(found, [this](const std::string& file) { return !file.starts_with(folder.string()); });
-    return found;
-  }
-
   fs::path folder;
 };
 
-TEST_F(SoundfontSearch, TheConfiguredOneComesFirstThenTheFoldersInTheirOrderByName) {
+TEST_F(SoundfontSearch, ThePreferredOnesComeFirstThenTheFoldersInTheirOrderByName) {
   const std::string zebra = Make("home/sounds/sf2/zebra.sf2");
   const std::string ant = Make("home/sounds/sf2/ANT.SF2");
   const std::string compressed = Make("home/sounds/sf3/b.sf3");
   const std::string other = Make("system/soundfonts/c.sf2");
   const std::string mine = Make("mine.sf2");
   Make("home/sounds/sf2/readme.txt");
-  EXPECT_THAT(Found(mine, {folder / "home", folder / "system"}),
+  EXPECT_THAT(FindSoundfonts({"", mine}, {folder / "home", folder / "system"}),
               ElementsAre(mine, ant, zebra, compressed, other));
 }
 
-TEST_F(SoundfontSearch, AConfiguredOneThatIsMissingOrAFolderIsPassedOver) {
+TEST_F(SoundfontSearch, APreferredOneThatIsMissingOrAFolderIsPassedOver) {
   const std::string other = Make("soundfonts/c.sf2");
-  EXPECT_THAT(Found((folder / "gone.sf2").string(), {folder}), ElementsAre(other));
-  EXPECT_THAT(Found(folder.string(), {folder}), ElementsAre(other));
+  EXPECT_THAT(FindSoundfonts({(folder / "gone.sf2").string()}, {folder}), ElementsAre(other));
+  EXPECT_THAT(FindSoundfonts({folder.string()}, {folder}), ElementsAre(other));
 }
 
 TEST_F(SoundfontSearch, NoFileIsNamedTwice) {
   const std::string file = Make("soundfonts/c.sf2");
-  EXPECT_THAT(Found(file, {folder, folder}), ElementsAre(file));
+  EXPECT_THAT(FindSoundfonts({file}, {folder, folder}), ElementsAre(file));
 }
 
 TEST_F(SoundfontSearch, AFolderNamedLikeASoundfontAndALinkToNothingAreNone) {
   fs::create_directories(folder / "soundfonts/folder.sf2");
   fs::create_symlink(folder / "nothing", folder / "soundfonts/broken.sf2");
-  EXPECT_THAT(Found("", {folder}), ElementsAre());
+  EXPECT_THAT(FindSoundfonts({}, {folder}), ElementsAre());
 }
 
 TEST(DataFolders, AreTheUsersThenTheSystems) {
