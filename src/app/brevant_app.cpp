@@ -32,7 +32,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       frame(record.settings, parts.player, parts.monitor),
       prompts(frame, record.setLists, parts.paths),
       document({record, parts.files, &parts.player, frame.PlaylistView(), frame.MessageDisplay(), frame,
-                prompts, parts.folders}),
+                prompts, parts.folders, parts.lengthProbe}),
       router(frame, document, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
