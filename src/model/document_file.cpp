@@ -19,11 +19,6 @@ bool IsFolderForm(const TextLines& lines) {
          ToLower(lines.front()).find(TextOf(TCTextId::GroupListExtension)) != std::u16string::npos;
 }
 
-// A song may come first and make a folder document of a flat one; then its lines name no group lists.
-bool NamesGroupList(std::u16string_view line) {
-  return HasSetListFileType(line) && line.find(u'"') == std::u16string_view::npos;
-}
-
 std::u16string ResolveGroupListLine(std::u16string_view documentFolder, std::u16string_view line) {
   const std::u16string folder = FolderPart(line);
   if (!folder.empty() && folder.find(u".\\") == std::u16string::npos) return std::u16string(line);
@@ -158,10 +153,9 @@ bool IsWholeDocument(std::string_view bytes) {
   const std::string_view mark = "\xFF\xFE";
   while (bytes.substr(0, mark.size()) == mark) bytes.remove_prefix(mark.size());
   if (JoinUtf16Lines(lines) != bytes) return false;  // an unended line, an odd byte, a lone carriage return
-  const bool folderForm = IsFolderForm(lines);
-  return std::all_of(lines.begin(), lines.end(), [folderForm](const std::u16string& line) {
-    return line.find(u'\n') == std::u16string::npos &&
-           (folderForm ? NamesGroupList(line) : IsWholeFlatLine(line));
+  if (IsFolderForm(lines)) return false;
+  return std::all_of(lines.begin(), lines.end(), [](const std::u16string& line) {
+    return line.find(u'\n') == std::u16string::npos && IsWholeFlatLine(line);
   });
 }
 

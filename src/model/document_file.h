@@ -41,8 +41,8 @@ class TCDocumentFile {
   TCMessageDisplay& messages;
 };
 
-// True when reading `bytes` as a document loses nothing: UTF-16, every line ended, nothing but songs or group
-// list files in it.
+// True when a document written from what was read says all that `bytes` say: UTF-16, every line ended,
+// nothing but songs. The folder form says more: which group list files, also those that were missing.
 [[nodiscard]] bool IsWholeDocument(std::string_view bytes);
 
 }  // namespace brevant
