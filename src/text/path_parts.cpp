@@ -11,8 +11,9 @@ constexpr std::size_t kNone = std::u16string_view::npos;
 // Where the file name begins. A separator in the first character is not seen, so `\a.mp3` is a name as a
 // whole; `>` separates as a backslash does.
 std::size_t FileNameStart(std::u16string_view path) {
-  const std::size_t separator = path.find_last_of(u"\\>");
-  return separator == kNone || separator == 0 ? 0 : separator + 1;
+  std::size_t start = path.size();
+  while (start > 1 && path[start - 1] != u'\\' && path[start - 1] != u'>') --start;
+  return start <= 1 ? 0 : start;
 }
 
 }  // namespace

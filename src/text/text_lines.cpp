@@ -13,7 +13,7 @@ namespace {
 constexpr char16_t kReturn = u'\r';
 constexpr char16_t kMark = u'\uFEFF';
 
-// The two sources of units that lines are cut from.
+// The sources of units that lines are cut from.
 
 class Utf16Units {
  public:
@@ -40,52 +40,63 @@ class Utf16Units {
   std::string_view bytes;
 };
 
-class DecodedUnits {
+template <class Char>
+class Units {
  public:
   static constexpr bool kDropsMarks = false;
 
-  explicit DecodedUnits(std::u16string_view source) : text(source) {}
+  explicit Units(std::basic_string_view<Char> source) : text(source) {}
   [[nodiscard]] std::size_t size() const { return text.size(); }
-  [[nodiscard]] char16_t operator[](std::size_t index) const { return text[index]; }
+  [[nodiscard]] Char operator[](std::size_t index) const { return text[index]; }
   [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
-    return std::min(text.find(kReturn, from), text.size());
+    return std::min(text.find(Char{'\r'}, from), text.size());
   }
-  [[nodiscard]] std::u16string_view Slice(std::size_t begin, std::size_t end) const {
+  [[nodiscard]] std::basic_string_view<Char> Slice(std::size_t begin, std::size_t end) const {
     return text.substr(begin, end - begin);
   }
 
  private:
-  std::u16string_view text;
+  std::basic_string_view<Char> text;
 };
+using DecodedUnits = Units<char16_t>;
+using Bytes = Units<char>;
+
+// True when the unit behind every carriage return is a character of its own in UTF-8.
+bool ReturnsSwallowAscii(const Bytes& bytes) {
+  for (std::size_t at = bytes.FindReturn(0); at + 1 < bytes.size(); at = bytes.FindReturn(at + 2)) {
+    if (static_cast<unsigned char>(bytes[at + 1]) >= 0x80) return false;
+  }
+  return true;
+}
 
 // How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
-template <class Units>
-std::size_t CountLines(const Units& units) {
+template <class Source>
+std::size_t CountLines(const Source& units) {
   std::size_t lines = 0;
   for (std::size_t at = units.FindReturn(0); at < units.size(); at = units.FindReturn(at + 2)) ++lines;
   return std::max<std::size_t>(lines, 1);
 }
 
-template <class Units, class Visit>
-void VisitLines(const Units& units, const Visit& visit) {
-  bool atStart = Units::kDropsMarks;  // no character but marks and line ends has been seen
+template <class Source, class Visit>
+void VisitLines(const Source& units, const Visit& visit) {
+  [[maybe_unused]] bool atStart = true;  // no character but marks and line ends has been seen
   bool first = true;
   for (std::size_t at = 0; at < units.size(); at += 2) {  // the carriage return and the unit it swallows
     std::size_t begin = at;
     at = units.FindReturn(at);
     const bool finished = at < units.size();
 
-    if (atStart) {
-      while (begin < at && units[begin] == kMark) ++begin;
-      atStart = begin == at;
+    if constexpr (Source::kDropsMarks) {
+      while (atStart && begin < at && units[begin] == kMark) ++begin;
+      atStart = atStart && begin == at;
     }
     if (finished || (first && begin < at)) visit(units.Slice(begin, at));
     first = false;
   }
 }
 
-template <class Units>
-TextLines SplitLines(const Units& units) {
+template <class Source>
+TextLines SplitLines(const Source& units) {
   TextLines lines;
   lines.reserve(CountLines(units));
   VisitLines(units, [&lines](auto&& line) { lines.emplace_back(std::forward<decltype(line)>(line)); });
@@ -112,16 +123,23 @@ void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit) {
   VisitLines(DecodedUnits(text), visit);
 }
 
+bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit) {
+  const Bytes units(bytes);
+  if (!IsUtf8(bytes) || !ReturnsSwallowAscii(units)) return false;
+  VisitLines(units, visit);
+  return true;
+}
+
 std::string JoinUtf16Lines(const TextLines& lines) {
   std::size_t units = 0;
   for (const std::u16string& line : lines) units += line.size() + 2;
 
-  std::string bytes;
-  bytes.reserve(2 * units);
-  const auto put = [&bytes](std::u16string_view text) {
+  std::string bytes(2 * units, '\0');
+  std::size_t at = 0;
+  const auto put = [&bytes, &at](std::u16string_view text) {
     for (const char16_t unit : text) {
-      bytes.push_back(static_cast<char>(unit & 0xFF));
-      bytes.push_back(static_cast<char>(unit >> 8));
+      bytes[at++] = static_cast<char>(unit & 0xFF);
+      bytes[at++] = static_cast<char>(unit >> 8);
     }
   };
   for (const std::u16string& line : lines) {

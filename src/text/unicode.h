@@ -11,6 +11,9 @@ namespace brevant {
 // Empty when `bytes` is not valid UTF-8 (overlong forms, surrogates and values past U+10FFFF are invalid).
 [[nodiscard]] std::optional<std::u16string> DecodeUtf8(std::string_view bytes);
 
+// Whether DecodeUtf8 would give something.
+[[nodiscard]] bool IsUtf8(std::string_view bytes);
+
 // Every byte is a character; the five bytes that the code page leaves open become U+0081 and so on.
 [[nodiscard]] std::u16string DecodeWindows1252(std::string_view bytes);
 

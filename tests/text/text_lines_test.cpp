@@ -154,6 +154,28 @@ TEST(TextLines, AFileThatCannotBeReadIsRefused) {
   EXPECT_FALSE(ReadTextLines(files, u"a.brv", lines));
 }
 
+TEST(TextLines, AsBytesAreTheSameLinesWhereThatMakesNoDifference) {
+  const auto visit = [](std::string_view bytes, std::vector<std::string>& lines) {
+    return VisitUtf8Lines(bytes, [&lines](std::string_view line) { lines.emplace_back(line); });
+  };
+  std::vector<std::string> lines;
+  EXPECT_TRUE(
+      visit("\xEF\xBB\xBF"
+            "caf\xC3\xA9\r\nb\nb\rxc\r\nd",
+            lines));
+  EXPECT_THAT(lines, ElementsAre("\xEF\xBB\xBF"
+                                 "caf\xC3\xA9",
+                                 "b\nb", "c"));
+  lines.clear();
+  EXPECT_TRUE(visit("one", lines));
+  EXPECT_THAT(lines, ElementsAre("one"));
+
+  lines.clear();
+  EXPECT_FALSE(visit("caf\xE9\r\n", lines));              // Windows-1252
+  EXPECT_FALSE(visit("a\r\xF0\x9F\x8E\xB5\r\n", lines));  // half of a surrogate pair is swallowed
+  EXPECT_THAT(lines, IsEmpty());
+}
+
 TEST(TextLines, AFilePastTheGreatestSizeIsRefused) {
   class TCHugeFiles final : public TCFileSystem {
    public:
