@@ -68,6 +68,12 @@ const HeaderTag* FindHeaderTag(View<Char> tag) {
   return known == kHeaderTags.end() ? nullptr : known;
 }
 
+// The mark is taken to stand first, as the '[' is.
+template <class Char>
+View<Char> HeaderValue(View<Char> tag, const HeaderTag& header) {
+  return tag.substr(std::min(tag.size(), header.mark.size()));
+}
+
 template <class Char>
 std::int32_t SingerOf(View<Char> text) {
   if (text.find(':') == kNone) return 0;
@@ -113,8 +119,11 @@ void ParseByteLine(std::string_view line, TCLyricSheet& sheet) {
   const std::string_view tag = TagIn(line, tagEnd);
   const bool ascii = std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(tagEnd),
                                  [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-  // What is cut off a header value or a garbled tag is counted in UTF-16.
-  if (!ascii || FindHeaderTag(tag) != nullptr) return ParseLyricLine(DecodeLyricText(line), sheet);
+  if (!ascii) return ParseLyricLine(DecodeLyricText(line), sheet);  // where units are counted, UTF-16 counts
+  if (const HeaderTag* header = FindHeaderTag(tag)) {
+    sheet.headers.*header->value = DecodeLyricText(HeaderValue(tag, *header));
+    return;
+  }
 
   const std::string_view text = TextBehindTags(line.substr(tagEnd + 1));
   sheet.Add(text, TimeOf(tag), kEndOfLyrics, SingerOf(text));
@@ -167,10 +176,10 @@ void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {
   if (tagEnd == kNone) return;
   const std::u16string_view tag = TagIn(line, tagEnd);
   if (const HeaderTag* header = FindHeaderTag(tag)) {
-    // By its length: the mark itself is taken to stand first, as the '[' is.
-    sheet.headers.*header->value = tag.substr(std::min(tag.size(), header->mark.size()));
+    sheet.headers.*header->value = HeaderValue(tag, *header);
     return;
   }
+
   const std::u16string_view text = TextBehindTags(line.substr(tagEnd + 1));
   sheet.Add({std::u16string(text), TimeOf(tag), kEndOfLyrics, SingerOf(text)});
 }

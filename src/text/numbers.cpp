@@ -21,13 +21,15 @@ std::optional<std::int32_t> ReadNumber(std::basic_string_view<Char> text) {
   if (negative || (!text.empty() && text.front() == '+')) text.remove_prefix(1);
   if (text.empty() || !IsDigit(text.front())) return std::nullopt;
 
-  std::int64_t value = 0;
+  constexpr std::int64_t kMost = std::int64_t{Limits::max()} + 1;  // the most that a negative number can be
+  std::int64_t magnitude = 0;
   for (const Char unit : text) {
     if (!IsDigit(unit)) break;
-    value = value * 10 + (negative ? '0' - unit : unit - '0');
-    if (value < Limits::min() || value > Limits::max()) return std::nullopt;
+    magnitude = magnitude * 10 + (unit - '0');
+    if (magnitude > kMost) return std::nullopt;
   }
-  return static_cast<std::int32_t>(value);
+  if (!negative && magnitude == kMost) return std::nullopt;
+  return static_cast<std::int32_t>(negative ? -magnitude : magnitude);
 }
 
 }  // namespace

@@ -37,8 +37,14 @@ std::u16string PathWithoutExtension(std::u16string_view path) {
 }
 
 std::u16string ReplaceExtension(std::u16string_view path, std::u16string_view extension) {
-  const std::u16string_view name = path.substr(FileNameStart(path));
-  return FolderPart(path).append(name.substr(0, name.rfind(u'.'))).append(1, u'.').append(extension);
+  const std::size_t nameStart = FileNameStart(path);
+  const std::u16string_view name = path.substr(nameStart);
+  std::u16string replaced;
+  replaced.reserve(path.size() + 1 + extension.size());
+  return replaced.append(TrimLeft(path.substr(0, nameStart)))
+      .append(name.substr(0, name.rfind(u'.')))
+      .append(1, u'.')
+      .append(extension);
 }
 
 }  // namespace brevant

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "text/unicode.h"
 
@@ -10,40 +9,15 @@ namespace brevant {
 
 namespace {
 
-constexpr char16_t kReturn = u'\r';
 constexpr char16_t kMark = u'\uFEFF';
 
-// The sources of units that lines are cut from.
+enum class Marks { Drop, Keep };
 
-class Utf16Units {
- public:
-  static constexpr bool kDropsMarks = true;
-
-  explicit Utf16Units(std::string_view source) : bytes(source) {}
-  [[nodiscard]] std::size_t size() const { return bytes.size() / 2; }
-  [[nodiscard]] char16_t operator[](std::size_t index) const {
-    const auto low = static_cast<unsigned char>(bytes[2 * index]);
-    const auto high = static_cast<unsigned char>(bytes[2 * index + 1]);
-    return static_cast<char16_t>(low | high << 8);
-  }
-  [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
-    while (from < size() && (*this)[from] != kReturn) ++from;
-    return from;
-  }
-  [[nodiscard]] std::u16string Slice(std::size_t begin, std::size_t end) const {
-    std::u16string line(end - begin, u'\0');
-    for (std::size_t i = begin; i < end; ++i) line[i - begin] = (*this)[i];
-    return line;
-  }
-
- private:
-  std::string_view bytes;
-};
-
-template <class Char>
+// What lines are cut from: UTF-16 units or bytes.
+template <class Char, Marks marks>
 class Units {
  public:
-  static constexpr bool kDropsMarks = false;
+  static constexpr bool kDropsMarks = marks == Marks::Drop;
 
   explicit Units(std::basic_string_view<Char> source) : text(source) {}
   [[nodiscard]] std::size_t size() const { return text.size(); }
@@ -58,8 +32,9 @@ class Units {
  private:
   std::basic_string_view<Char> text;
 };
-using DecodedUnits = Units<char16_t>;
-using Bytes = Units<char>;
+using Utf16Units = Units<char16_t, Marks::Drop>;
+using AnsiUnits = Units<char16_t, Marks::Keep>;
+using Bytes = Units<char, Marks::Keep>;
 
 // True when the unit behind every carriage return is a character of its own in UTF-8.
 bool ReturnsSwallowAscii(const Bytes& bytes) {
@@ -99,28 +74,30 @@ template <class Source>
 TextLines SplitLines(const Source& units) {
   TextLines lines;
   lines.reserve(CountLines(units));
-  VisitLines(units, [&lines](auto&& line) { lines.emplace_back(std::forward<decltype(line)>(line)); });
+  VisitLines(units, [&lines](std::u16string_view line) { lines.emplace_back(line); });
   return lines;
 }
 
 }  // namespace
 
 TextLines SplitUtf16Lines(std::string_view bytes) {
-  return SplitLines(Utf16Units(bytes));
+  const std::u16string text = DecodeUtf16(bytes);
+  return SplitLines(Utf16Units(text));
 }
 
 TextLines SplitAnsiLines(std::string_view bytes) {
   const std::u16string text = DecodeAnsi(bytes);
-  return SplitLines(DecodedUnits(text));
+  return SplitLines(AnsiUnits(text));
 }
 
 void VisitUtf16Lines(std::string_view bytes, const LineVisitor& visit) {
-  VisitLines(Utf16Units(bytes), visit);
+  const std::u16string text = DecodeUtf16(bytes);
+  VisitLines(Utf16Units(text), visit);
 }
 
 void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit) {
   const std::u16string text = DecodeAnsi(bytes);
-  VisitLines(DecodedUnits(text), visit);
+  VisitLines(AnsiUnits(text), visit);
 }
 
 bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit) {

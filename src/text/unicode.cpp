@@ -1,5 +1,6 @@
 #include "text/unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -119,7 +120,10 @@ std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
   std::size_t length = 0;
   for (std::size_t at = 0; at < bytes.size();) {
     const std::size_t end = EndOfAscii(bytes, at);
-    while (at < end) text[length++] = static_cast<std::uint8_t>(bytes[at++]);
+    std::copy(bytes.begin() + static_cast<std::ptrdiff_t>(at),
+              bytes.begin() + static_cast<std::ptrdiff_t>(end), text.data() + length);
+    length += end - at;
+    at = end;
     if (at == bytes.size()) break;
     const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));
     if (!next) return std::nullopt;
@@ -155,6 +159,16 @@ std::u16string DecodeAnsi(std::string_view bytes) {
   return DecodeWindows1252(bytes);
 }
 
+std::u16string DecodeUtf16(std::string_view bytes) {
+  std::u16string text(bytes.size() / 2, u'\0');
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto low = static_cast<std::uint8_t>(bytes[2 * at]);
+    const auto high = static_cast<std::uint8_t>(bytes[2 * at + 1]);
+    text[at] = static_cast<char16_t>(low | high << 8);
+  }
+  return text;
+}
+
 std::string EncodeUtf8(std::u16string_view text) {
   std::string bytes;
   AppendUtf8(bytes, text);
@@ -164,9 +178,12 @@ std::string EncodeUtf8(std::u16string_view text) {
 void AppendUtf8(std::string& bytes, std::u16string_view text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (const std::size_t end = EndOfAscii(text, at); end > at) {
-      std::size_t put = bytes.size();
-      bytes.resize(put + end - at);
-      while (at < end) bytes[put++] = static_cast<char>(text[at++]);
+      const std::size_t length = bytes.size();
+      bytes.resize(length + end - at);
+      std::transform(text.begin() + static_cast<std::ptrdiff_t>(at),
+                     text.begin() + static_cast<std::ptrdiff_t>(end), bytes.data() + length,
+                     [](char16_t unit) { return static_cast<char>(unit); });
+      at = end;
       if (at == text.size()) break;
     }
     const char16_t unit = text[at];

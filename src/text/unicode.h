@@ -20,6 +20,9 @@ namespace brevant {
 // UTF-8 when the bytes are valid UTF-8, else Windows-1252. A UTF-8 mark stays as U+FEFF.
 [[nodiscard]] std::u16string DecodeAnsi(std::string_view bytes);
 
+// Little-endian. A mark stays as U+FEFF, an odd last byte is ignored.
+[[nodiscard]] std::u16string DecodeUtf16(std::string_view bytes);
+
 // A lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string EncodeUtf8(std::u16string_view text);
 void AppendUtf8(std::string& bytes, std::u16string_view text);
