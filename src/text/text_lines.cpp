@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "text/unicode.h"
 
@@ -13,97 +14,79 @@ constexpr char16_t kMark = u'\uFEFF';
 
 enum class Marks { Drop, Keep };
 
-// What lines are cut from: UTF-16 units or bytes.
-template <class Char, Marks marks>
-class Units {
- public:
-  static constexpr bool kDropsMarks = marks == Marks::Drop;
+template <class Char>
+std::size_t FindReturn(std::basic_string_view<Char> text, std::size_t from) {
+  return std::min(text.find(Char{'\r'}, from), text.size());
+}
 
-  explicit Units(std::basic_string_view<Char> source) : text(source) {}
-  [[nodiscard]] std::size_t size() const { return text.size(); }
-  [[nodiscard]] Char operator[](std::size_t index) const { return text[index]; }
-  [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
-    return std::min(text.find(Char{'\r'}, from), text.size());
-  }
-  [[nodiscard]] std::basic_string_view<Char> Slice(std::size_t begin, std::size_t end) const {
-    return text.substr(begin, end - begin);
-  }
+// Of UTF-16 units or of bytes: `visit` gets a view into `text`.
+template <class Char, class Visit>
+void VisitLines(std::basic_string_view<Char> text, Marks marks, const Visit& visit) {
+  bool dropsMarks = marks == Marks::Drop;  // until a character but marks and line ends has been seen
+  bool first = true;
+  for (std::size_t at = 0; at < text.size(); at += 2) {  // the carriage return and the unit it swallows
+    std::size_t begin = at;
+    at = FindReturn(text, at);
+    const bool finished = at < text.size();
 
- private:
-  std::basic_string_view<Char> text;
-};
-using Utf16Units = Units<char16_t, Marks::Drop>;
-using AnsiUnits = Units<char16_t, Marks::Keep>;
-using Bytes = Units<char, Marks::Keep>;
+    if (dropsMarks) {
+      while (begin < at && text[begin] == kMark) ++begin;
+      dropsMarks = begin == at;
+    }
+    if (finished || (first && begin < at)) visit(text.substr(begin, at - begin));
+    first = false;
+  }
+}
+
+// How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
+TextLines SplitLines(std::u16string_view text, Marks marks) {
+  std::size_t count = 1;
+  for (std::size_t at = FindReturn(text, 0); at < text.size(); at = FindReturn(text, at + 2)) ++count;
+  TextLines lines;
+  lines.reserve(count);
+  VisitLines(text, marks, [&lines](std::u16string_view line) { lines.emplace_back(line); });
+  return lines;
+}
 
 // True when the unit behind every carriage return is a character of its own in UTF-8.
-bool ReturnsSwallowAscii(const Bytes& bytes) {
-  for (std::size_t at = bytes.FindReturn(0); at + 1 < bytes.size(); at = bytes.FindReturn(at + 2)) {
+bool ReturnsSwallowAscii(std::string_view bytes) {
+  for (std::size_t at = FindReturn(bytes, 0); at + 1 < bytes.size(); at = FindReturn(bytes, at + 2)) {
     if (static_cast<unsigned char>(bytes[at + 1]) >= 0x80) return false;
   }
   return true;
 }
 
-// How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
-template <class Source>
-std::size_t CountLines(const Source& units) {
-  std::size_t lines = 0;
-  for (std::size_t at = units.FindReturn(0); at < units.size(); at = units.FindReturn(at + 2)) ++lines;
-  return std::max<std::size_t>(lines, 1);
-}
-
-template <class Source, class Visit>
-void VisitLines(const Source& units, const Visit& visit) {
-  [[maybe_unused]] bool atStart = true;  // no character but marks and line ends has been seen
-  bool first = true;
-  for (std::size_t at = 0; at < units.size(); at += 2) {  // the carriage return and the unit it swallows
-    std::size_t begin = at;
-    at = units.FindReturn(at);
-    const bool finished = at < units.size();
-
-    if constexpr (Source::kDropsMarks) {
-      while (atStart && begin < at && units[begin] == kMark) ++begin;
-      atStart = atStart && begin == at;
-    }
-    if (finished || (first && begin < at)) visit(units.Slice(begin, at));
-    first = false;
-  }
-}
-
-template <class Source>
-TextLines SplitLines(const Source& units) {
-  TextLines lines;
-  lines.reserve(CountLines(units));
-  VisitLines(units, [&lines](std::u16string_view line) { lines.emplace_back(line); });
-  return lines;
-}
-
 }  // namespace
 
 TextLines SplitUtf16Lines(std::string_view bytes) {
-  const std::u16string text = DecodeUtf16(bytes);
-  return SplitLines(Utf16Units(text));
+  return SplitLines(DecodeUtf16(bytes), Marks::Drop);
 }
 
 TextLines SplitAnsiLines(std::string_view bytes) {
-  const std::u16string text = DecodeAnsi(bytes);
-  return SplitLines(AnsiUnits(text));
+  return SplitLines(DecodeAnsi(bytes), Marks::Keep);
 }
 
 void VisitUtf16Lines(std::string_view bytes, const LineVisitor& visit) {
   const std::u16string text = DecodeUtf16(bytes);
-  VisitLines(Utf16Units(text), visit);
+  VisitLines(std::u16string_view(text), Marks::Drop, visit);
 }
 
 void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit) {
   const std::u16string text = DecodeAnsi(bytes);
-  VisitLines(AnsiUnits(text), visit);
+  VisitLines(std::u16string_view(text), Marks::Keep, visit);
+}
+
+std::optional<std::u16string> FirstUtf16Line(std::string_view bytes) {
+  std::size_t end = 0;
+  while (end + 1 < bytes.size() && (bytes[end] != '\r' || bytes[end + 1] != '\0')) end += 2;
+  TextLines lines = SplitUtf16Lines(bytes.substr(0, end + 2));
+  if (lines.empty()) return std::nullopt;
+  return std::move(lines.front());
 }
 
 bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit) {
-  const Bytes units(bytes);
-  if (!IsUtf8(bytes) || !ReturnsSwallowAscii(units)) return false;
-  VisitLines(units, visit);
+  if (!IsUtf8(bytes) || !ReturnsSwallowAscii(bytes)) return false;
+  VisitLines(bytes, Marks::Keep, visit);
   return true;
 }
 

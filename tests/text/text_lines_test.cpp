@@ -154,6 +154,17 @@ TEST(TextLines, AFileThatCannotBeReadIsRefused) {
   EXPECT_FALSE(ReadTextLines(files, u"a.brv", lines));
 }
 
+TEST(TextLines, TheFirstCanBeHadAlone) {
+  for (const std::u16string_view text :
+       {u"", u"\r", u"\r\n", u"a", u"a\r", u"a\rb", u"a\r\nb\r\n", u"\r\na\r\n", u"\uFEFFa\r\nb",
+        u"\u0D00\u000Aa\r\n", u"\uFEFF", u"\uFEFF\r\na\r\n"}) {
+    const TextLines lines = Split(text);
+    const auto first = FirstUtf16Line(Utf16(text));
+    EXPECT_EQ(first, lines.empty() ? std::nullopt : std::optional(lines.front()))
+        << testing::PrintToString(text);
+  }
+}
+
 TEST(TextLines, AsBytesAreTheSameLinesWhereThatMakesNoDifference) {
   const auto visit = [](std::string_view bytes, std::vector<std::string>& lines) {
     return VisitUtf8Lines(bytes, [&lines](std::string_view line) { lines.emplace_back(line); });
