@@ -16,14 +16,20 @@ using testing::ElementsAre;
 constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 
-TCLyricSheet ParseLine(std::u16string_view line) {
+// What one line alone says.
+struct ParsedLine {
+  std::vector<TCLyric> lines;
+  TCLyricHeaders headers;
+};
+
+ParsedLine ParseLine(std::u16string_view line) {
   TCLyricSheet sheet;
   ParseLyricLine(line, sheet);
-  return sheet;
+  return {TCSongLyrics(sheet).LinesFrom(0, 2), sheet.headers};
 }
 
-bool SaysNothing(const TCLyricSheet& sheet) {
-  return sheet.lines.empty() && sheet.headers == TCLyricHeaders();
+bool SaysNothing(const ParsedLine& parsed) {
+  return parsed.lines.empty() && parsed.headers == TCLyricHeaders();
 }
 
 class LyricFile : public testing::Test {
@@ -87,7 +93,7 @@ TEST(LyricTime, ANumberPastThirtyTwoBitsCountsNothing) {
 // --- One line.
 
 TEST(LyricLine, IsTimedByItsTag) {
-  const TCLyricSheet sheet = ParseLine(u"[01:02.50]Hello [there");
+  const ParsedLine sheet = ParseLine(u"[01:02.50]Hello [there");
   EXPECT_THAT(sheet.lines, ElementsAre(TCLyric{u"Hello [there", 62'050, kEndOfLyrics, 0}));
   EXPECT_EQ(sheet.headers, TCLyricHeaders());
 }
@@ -129,7 +135,7 @@ TEST(LyricLine, TheFirstMarkOfTheListDecides) {
 }
 
 TEST(LyricLine, MarksAreLowerCase) {
-  const TCLyricSheet sheet = ParseLine(u"[TI:Song]Text");
+  const ParsedLine sheet = ParseLine(u"[TI:Song]Text");
   EXPECT_EQ(sheet.headers.title, u"");
   EXPECT_THAT(sheet.lines, ElementsAre(TCLyric{u"Text", 0, kEndOfLyrics, 0}));
 }

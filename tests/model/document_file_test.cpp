@@ -247,7 +247,7 @@ TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {
     const std::string name = std::to_string(i % 1000);
     lines.push_back(u"\"G\" \"P" + std::u16string(name.begin(), name.end()) + u"\" \"x.mp3\" 01:00");
   }
-  ASSERT_TRUE(document.LoadFlatDocument(lines));
+  ASSERT_TRUE(document.LoadFlatDocument(JoinUtf16Lines(lines)));
   ASSERT_EQ(store.groups[0].playlists.size(), 1000u);
   EXPECT_EQ(PlaylistOf(0, 999).items.size(), 3u);
 }
