@@ -57,14 +57,16 @@ void TCBrevantApp::ConnectParts() {
           [this] { router.OnCommand(TCCommandId::PauseContinue); });
   connect(&pane, &TCWMPPaneContainer::stopWanted, this, [this] { router.OnCommand(TCCommandId::Stop); });
 
-  connect(&frame, &TCMainFrame::marksChanged, this, [this] { actions.RefreshChecks(); });
+  connect(&frame, &TCMainFrame::marksChanged, &actions, &TCCommandActions::RefreshChecks);
 }
 
 void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   frame.show();
   frame.PlaylistView().TakeFocus();
-  OpenFirstDocument(startFile);
-  TCAboutBox::Open(libraries, frame);
+  firstPaint.emplace(frame, [this, startFile] {
+    OpenFirstDocument(startFile);
+    TCAboutBox::Open(libraries, frame);
+  });
 }
 
 void TCBrevantApp::OpenFirstDocument(const TCStartFile& startFile) {
@@ -84,7 +86,8 @@ void TCBrevantApp::LoadLastFile() {
 
 void TCBrevantApp::EndSession() {
   closeGuard.EndSession();
-  QCoreApplication::quit();
+  // Not quit(): that would ask the window first, and the window would ask the user.
+  QCoreApplication::exit(0);
 }
 
 }  // namespace brevant

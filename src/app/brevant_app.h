@@ -11,6 +11,7 @@
 #include "app/close_guard.h"
 #include "app/command_actions.h"
 #include "app/command_router.h"
+#include "app/first_paint.h"
 #include "app/key_filter.h"
 #include "app/main_frame.h"
 #include "app/qt_prompts.h"
@@ -47,7 +48,7 @@ class TCBrevantApp : public QObject {
  public:
   explicit TCBrevantApp(const TCAppParts& parts);
 
-  // Shows the main window, opens the first document and shows the About box; the rest is the event loop's.
+  // Shows the main window; once it can be seen, opens the first document and shows the About box.
   void InitInstance(const TCStartFile& startFile);
 
   // The session ends and nobody can be asked.
@@ -75,6 +76,7 @@ class TCBrevantApp : public QObject {
   TCCommandActions actions;
   TCKeyFilter keyFilter;
   TCCloseGuard closeGuard;
+  std::optional<TCFirstPaint> firstPaint;
   QMenu* playlistMenu = nullptr;  // the frame owns it
 };
 

@@ -31,7 +31,9 @@ TCKeyVerdict DecideOwner(const TCKeyPress& press) {
     case TCKeyFocus::Ordinary:
       break;
   }
-  return press.widgetKeepsIt ? TCKeyVerdict::Widget : TCKeyVerdict::Table;
+  if (press.widgetKeepsIt) return TCKeyVerdict::Widget;
+  // What is no command's goes its usual way: Alt alone to the menu bar, Page Down to the list.
+  return press.bound ? TCKeyVerdict::Table : TCKeyVerdict::Untouched;
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 // it sees and carries the answers out.
 #pragma once
 
-#include <Qt>
+#include <qnamespace.h>
 #include <map>
 
 namespace brevant {

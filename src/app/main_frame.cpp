@@ -32,10 +32,12 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
       statusLine(new TCStatusLine(this)) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
+  menuBar()->setAccessibleName(ToQString(TextOf(TCTextId::MainToolbar)));
   setStatusBar(statusLine);
   // By itself a main window is always a window of its own, whatever its parent.
   inner->setWindowFlags(Qt::Widget);
   setCentralWidget(inner);
+  inner->setAccessibleName(QStringLiteral("Playlist and panes"));
   inner->setContextMenuPolicy(Qt::NoContextMenu);
   inner->setCentralWidget(view);
 
@@ -50,6 +52,11 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
   ShowOptions();
   messageDisplay->AppendMessage(TCTextId::Banner);
   PlaceOnScreen();
+}
+
+TCMainFrame::~TCMainFrame() {
+  // The panes go with the toolkit's part of this window and tell of it, when nobody is left to be told.
+  for (QDockWidget* pane : {playerDock, messageDock}) pane->disconnect(this);
 }
 
 void TCMainFrame::SaveLayout(QSettings& layout) const {

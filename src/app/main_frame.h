@@ -27,6 +27,8 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   // closed. Sets the player's volume to 100.
   TCMainFrame(const TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor);
 
+  ~TCMainFrame() override;
+
   [[nodiscard]] TCBrevantView& PlaylistView() { return *view; }
   [[nodiscard]] TCGeneralReportsTab& MessageDisplay() { return *messageDisplay; }
   [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }

@@ -13,29 +13,12 @@
 #include <utility>
 #include <vector>
 
+#include "text/file_handle.h"
 #include "text/safe_replace.h"
 
 namespace brevant {
 
 namespace {
-
-struct OpenedFile {
-  TCFileHandle file;
-  bool nothingThere = false;  // worth a search for other case; any other failure is the file's own
-};
-
-// Opens regular files only. What else stands there is closed at once, and O_NONBLOCK keeps a FIFO without a
-// writer from holding us up.
-OpenedFile OpenRegularFile(const std::string& native) {
-  OpenedFile opened{TCFileHandle(open(native.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY))};
-  if (!opened.file.IsOpen()) {
-    opened.nothingThere = errno == ENOENT || errno == ENOTDIR;
-    return opened;
-  }
-  struct stat status {};
-  if (fstat(opened.file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) opened.file = TCFileHandle();
-  return opened;
-}
 
 bool IsThere(const std::string& native) {
   struct stat status {};
@@ -49,26 +32,30 @@ bool IsFolder(const std::string& native) {
 
 }  // namespace
 
+struct TCDiskFiles::OpenedFile {
+  TCFileHandle file;
+  std::uint64_t size = 0;     // what the file says of itself
+  bool nothingThere = false;  // worth a search for other case; any other failure is the file's own
+};
+
 TCDiskFiles::TCDiskFiles(TCNativePaths nativePaths, TCOtherCase::Clock clock)
     : paths(std::move(nativePaths)), otherCase(std::move(clock)) {}
 
 bool TCDiskFiles::FileExists(std::u16string_view path) {
-  return OpenForReading(path).IsOpen();
+  return OpenForReading(path).file.IsOpen();
 }
 
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
-  const TCFileHandle file = OpenForReading(path);
-  struct stat status {};
-  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return std::nullopt;
+  const OpenedFile opened = OpenForReading(path);
+  if (!opened.file.IsOpen() || opened.size > maxBytes) return std::nullopt;
 
-  // The size is what the file says of itself; it can grow or shrink under our hands, and some files of the
-  // system's say 0. One byte more than expected tells whether it ended there.
-  const auto expected = static_cast<std::uint64_t>(status.st_size);
-  if (expected > maxBytes) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(expected) + 1, '\0');
+  // A file can grow or shrink while it is read, and some files of the system's say 0 and hold something. One
+  // byte more is asked for than expected: no more than expected coming back is the end of the file.
+  const auto expected = static_cast<std::size_t>(opened.size);
+  std::string bytes(expected + 1, '\0');
   std::size_t length = 0;
-  while (true) {
-    const ssize_t got = read(file.Get(), bytes.data() + length, bytes.size() - length);
+  while (expected == 0 || length != expected) {
+    const ssize_t got = read(opened.file.Get(), bytes.data() + length, bytes.size() - length);
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return std::nullopt;
     if (got == 0) break;
@@ -122,16 +109,30 @@ bool TCDiskFiles::DeleteFile(std::u16string_view path) {
   return !IsThere(native);
 }
 
-TCFileHandle TCDiskFiles::OpenForReading(std::u16string_view path) {
+// Regular files only. What else stands there is closed at once, and O_NONBLOCK keeps a FIFO without a writer
+// from holding us up.
+TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(const std::string& native) {
+  OpenedFile opened{TCFileHandle(open(native.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY))};
+  if (!opened.file.IsOpen()) {
+    opened.nothingThere = errno == ENOENT || errno == ENOTDIR;
+    return opened;
+  }
+  struct stat status {};
+  if (fstat(opened.file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) opened.file = TCFileHandle();
+  opened.size = static_cast<std::uint64_t>(status.st_size);
+  return opened;
+}
+
+TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path) {
   const std::string native = paths.ToNative(path);
   OpenedFile opened = OpenRegularFile(native);
-  if (!opened.nothingThere) return std::move(opened.file);
+  if (!opened.nothingThere) return opened;
 
   for (const std::string& found : otherCase.Find(native)) {
     opened = OpenRegularFile(found);
     if (opened.file.IsOpen()) break;
   }
-  return std::move(opened.file);
+  return opened;
 }
 
 std::string TCDiskFiles::Locate(const std::string& native) {

@@ -1,11 +1,11 @@
 // The real disk behind TCFileSystem. Used on the user-interface thread only.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "text/file_handle.h"
 #include "text/file_system.h"
 #include "text/native_path.h"
 #include "text/other_case.h"
@@ -34,7 +34,10 @@ class TCDiskFiles final : public TCFileSystem {
   bool DeleteFile(std::u16string_view path) override;
 
  private:
-  [[nodiscard]] TCFileHandle OpenForReading(std::u16string_view path);
+  struct OpenedFile;
+
+  [[nodiscard]] static OpenedFile OpenRegularFile(const std::string& native);
+  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path);
   // The name under which something stands there: `native`, or its like in other case, or else `native` within
   // the folder that answers to its folder's name.
   [[nodiscard]] std::string Locate(const std::string& native);

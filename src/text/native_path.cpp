@@ -44,9 +44,6 @@ bool Exists(const std::string& native) {
 TCNativePaths::TCNativePaths(DriveFolders driveFolders) : drives(std::move(driveFolders)) {}
 
 std::string TCNativePaths::ToNative(std::u16string_view path) const {
-  // Neither can be part of a name here; with a replacement in its place, the text could name another file.
-  if (path.find(u'\0') != std::u16string_view::npos || HasLoneSurrogate(path)) return {};
-
   std::string native;
   if (StartsWithDrive(path)) {
     const auto letter = static_cast<char>(ToLower(path[0]) - u'a' + u'A');
@@ -58,9 +55,16 @@ std::string TCNativePaths::ToNative(std::u16string_view path) const {
       if (needsSlash) native.push_back('/');
     }
   }
-  std::string rest = EncodeUtf8(path);
-  std::replace(rest.begin(), rest.end(), '\\', '/');
-  return native + rest;
+  const std::size_t begin = native.size();
+  AppendUtf8(native, path);
+  // Neither can be part of a name here; with a replacement in its place, the text could name another file.
+  const bool ascii = native.size() - begin == path.size();
+  if ((!ascii && HasLoneSurrogate(path)) || native.find('\0', begin) != std::string::npos) return {};
+
+  for (std::size_t at = native.find('\\', begin); at != std::string::npos; at = native.find('\\', at)) {
+    native[at] = '/';
+  }
+  return native;
 }
 
 std::optional<std::u16string> TCNativePaths::FromNative(std::string_view native) {

@@ -10,10 +10,10 @@ namespace brevant {
 
 namespace {
 
-// What is remembered is dropped past these, so that a collection spread over a whole disk does not fill the
-// memory.
-constexpr std::size_t kMaxNames = 500'000;
-constexpr std::size_t kMaxFolders = 10'000;
+// Past these, what is remembered is dropped before another folder is read, so that a collection spread over a
+// whole disk does not fill the memory. A name takes about thirty bytes.
+constexpr std::size_t kMaxNames = 2'000'000;
+constexpr std::size_t kMaxFolders = 20'000;
 
 struct SplitPath {
   std::string_view folder;  // without a trailing slash, except for the root
@@ -46,54 +46,57 @@ TCOtherCase::TCOtherCase(Clock clockToUse) : clock(std::move(clockToUse)) {}
 std::vector<std::string> TCOtherCase::Find(std::string_view native) {
   const auto [folder, name] = Split(native);
   if (native.size() >= PATH_MAX || NamesNoEntry(name)) return {};
-  // Only here, where nothing refers into the maps.
-  if (nameCount > kMaxNames || foldersByWrittenName.size() > kMaxFolders) Forget();
+  // Only here, where nothing points into the maps.
+  const bool full = nameCount > kMaxNames || meanings.size() > kMaxFolders;
+  if (full && meanings.find(folder) == meanings.end()) Forget();
 
+  const Moment now = clock();
   std::vector<std::string> found;
-  for (const std::string& candidate : FoldersFor(folder)) {
-    for (const std::string& match : NamesIn(candidate).Matches(name)) found.push_back(Join(candidate, match));
+  for (Folder* candidate : MeaningOf(folder, now).folders) {
+    Check(*candidate, now);
+    for (const std::string& match : candidate->names.Matches(name))
+      found.push_back(Join(candidate->path, match));
   }
   return found;
 }
 
 void TCOtherCase::Forget() {
-  namesByFolder.clear();
-  foldersByWrittenName.clear();
+  meanings.clear();
+  foldersByPath.clear();
   nameCount = 0;
 }
 
-const TCFolderNames& TCOtherCase::NamesIn(const std::string& folder) {
-  const auto now = clock();
-  const auto known = namesByFolder.find(folder);
-  if (known == namesByFolder.end()) {
-    const Names& fresh = namesByFolder.emplace(folder, Names{TCFolderNames::Read(folder), now}).first->second;
-    nameCount += fresh.names.Count();
-    return fresh.names;
-  }
-  Names& entry = known->second;
-  if (now - entry.checked >= kTrust) {
-    if (!entry.names.StillHolds(folder)) {
-      nameCount -= entry.names.Count();
-      entry.names = TCFolderNames::Read(folder);
-      nameCount += entry.names.Count();
-    }
-    entry.checked = now;
-  }
-  return entry.names;
+TCOtherCase::Folder& TCOtherCase::Remember(std::string path, Moment now) {
+  const auto known = foldersByPath.find(path);
+  if (known != foldersByPath.end()) return known->second;
+  Folder folder{path, TCFolderNames::Read(path), now};
+  nameCount += folder.names.Count();
+  return foldersByPath.emplace(std::move(path), std::move(folder)).first->second;
 }
 
-const std::vector<std::string>& TCOtherCase::FoldersFor(std::string_view folder) {
-  const auto now = clock();
-  const auto known = foldersByWrittenName.find(folder);
-  if (known != foldersByWrittenName.end() && now - known->second.checked < kTrust) return known->second.found;
-
-  std::vector<std::string> found = ReadFoldersFor(folder);
-  return foldersByWrittenName.insert_or_assign(std::string(folder), Folders{std::move(found), now})
-      .first->second.found;
+void TCOtherCase::Check(Folder& folder, Moment now) {
+  if (now - folder.checked < kTrust) return;
+  if (!folder.names.StillHolds(folder.path)) {
+    nameCount -= folder.names.Count();
+    folder.names = TCFolderNames::Read(folder.path);
+    nameCount += folder.names.Count();
+  }
+  folder.checked = now;
 }
 
-std::vector<std::string> TCOtherCase::ReadFoldersFor(std::string_view folder) {
-  if (folder.empty() || folder == "/") return {std::string(folder)};
+const TCOtherCase::Meaning& TCOtherCase::MeaningOf(std::string_view written, Moment now) {
+  const auto known = meanings.find(written);
+  if (known != meanings.end() && now - known->second.checked < kTrust) return known->second;
+
+  Meaning meaning{{}, now};
+  for (std::string& path : ReadMeaning(written, now)) {
+    meaning.folders.push_back(&Remember(std::move(path), now));
+  }
+  return meanings.insert_or_assign(std::string(written), std::move(meaning)).first->second;
+}
+
+std::vector<std::string> TCOtherCase::ReadMeaning(std::string_view written, Moment now) {
+  if (written.empty() || written == "/") return {std::string(written)};
 
   std::vector<std::string> found;
   std::vector<std::pair<dev_t, ino_t>> seen;
@@ -108,11 +111,12 @@ std::vector<std::string> TCOtherCase::ReadFoldersFor(std::string_view folder) {
     found.push_back(std::move(candidate));
   };
 
-  const auto [above, name] = Split(folder);
-  for (const std::string& parent : FoldersFor(above)) {
-    add(Join(parent, name));
+  const auto [above, name] = Split(written);
+  for (Folder* parent : MeaningOf(above, now).folders) {
+    add(Join(parent->path, name));
     if (NamesNoEntry(name)) continue;
-    for (const std::string& match : NamesIn(parent).Matches(name)) add(Join(parent, match));
+    Check(*parent, now);
+    for (const std::string& match : parent->names.Matches(name)) add(Join(parent->path, match));
   }
   return found;
 }

@@ -39,24 +39,28 @@ class TCOtherCase {
   template <class Value>
   using MapByName = std::unordered_map<std::string, Value, HashText, std::equal_to<>>;
 
-  struct Names {
+  using Moment = std::chrono::steady_clock::time_point;
+
+  struct Folder {
+    std::string path;
     TCFolderNames names;
-    std::chrono::steady_clock::time_point checked;
+    Moment checked;
   };
   // The folders that a folder's name as written can mean: itself, and its likes in other case.
-  struct Folders {
-    std::vector<std::string> found;
-    std::chrono::steady_clock::time_point checked;
+  struct Meaning {
+    std::vector<Folder*> folders;
+    Moment checked;
   };
 
-  const TCFolderNames& NamesIn(const std::string& folder);
-  const std::vector<std::string>& FoldersFor(std::string_view folder);
-  [[nodiscard]] std::vector<std::string> ReadFoldersFor(std::string_view folder);
+  Folder& Remember(std::string path, Moment now);
+  void Check(Folder& folder, Moment now);
+  const Meaning& MeaningOf(std::string_view written, Moment now);
+  [[nodiscard]] std::vector<std::string> ReadMeaning(std::string_view written, Moment now);
 
   Clock clock;
-  MapByName<Names> namesByFolder;
-  MapByName<Folders> foldersByWrittenName;
-  std::size_t nameCount = 0;  // in all of namesByFolder
+  MapByName<Folder> foldersByPath;  // a map whose elements stay where they are: meanings point to them
+  MapByName<Meaning> meanings;
+  std::size_t nameCount = 0;  // in all folders
 };
 
 }  // namespace brevant

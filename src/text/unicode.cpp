@@ -1,7 +1,9 @@
 #include "text/unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace brevant {
 
@@ -24,6 +26,28 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     0x0090,    u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
     u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', 0x009D,    u'\u017E', u'\u0178'};
 
+// Nearly all text that comes through here is ASCII, and there is much of it, so it is looked at in words:
+// where the ASCII that stands at `at` ends.
+
+std::size_t EndOfAscii(std::string_view bytes, std::size_t at) {
+  for (std::uint64_t word = 0; at + sizeof word <= bytes.size(); at += sizeof word) {
+    std::memcpy(&word, bytes.data() + at, sizeof word);
+    if ((word & 0x8080808080808080U) != 0) break;
+  }
+  while (at < bytes.size() && static_cast<std::uint8_t>(bytes[at]) < 0x80) ++at;
+  return at;
+}
+
+std::size_t EndOfAscii(std::u16string_view text, std::size_t at) {
+  constexpr std::size_t kUnits = sizeof(std::uint64_t) / sizeof(char16_t);
+  for (std::uint64_t word = 0; at + kUnits <= text.size(); at += kUnits) {
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if ((word & 0xFF80FF80FF80FF80U) != 0) break;
+  }
+  while (at < text.size() && text[at] < 0x80) ++at;
+  return at;
+}
+
 // The length of the sequence that `lead` opens, and the least value that needs so many bytes.
 struct Sequence {
   std::size_t length = 0;  // 0: no lead byte
@@ -38,16 +62,38 @@ Sequence SequenceOf(std::uint8_t lead) {
   return {};
 }
 
-void AppendCodePoint(std::u16string& text, std::uint32_t codePoint) {
-  if (codePoint < 0x10000) {
-    text.push_back(static_cast<char16_t>(codePoint));
-    return;
+struct CodePoint {
+  std::uint32_t value = 0;
+  std::size_t length = 0;
+};
+
+// The sequence at the head of `bytes`, which is no ASCII.
+std::optional<CodePoint> DecodeSequence(std::string_view bytes) {
+  const Sequence sequence = SequenceOf(static_cast<std::uint8_t>(bytes.front()));
+  if (sequence.length == 0 || sequence.length > bytes.size()) return std::nullopt;
+  std::uint32_t value = sequence.leadBits;
+  for (std::size_t next = 1; next < sequence.length; ++next) {
+    const auto byte = static_cast<std::uint8_t>(bytes[next]);
+    if ((byte & 0xC0) != 0x80) return std::nullopt;
+    value = value << 6 | (byte & 0x3FU);
   }
-  text.push_back(static_cast<char16_t>(0xD800 + ((codePoint - 0x10000) >> 10)));
-  text.push_back(static_cast<char16_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF)));
+  const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+  if (value < sequence.least || value > 0x10FFFF || surrogate) return std::nullopt;
+  return CodePoint{value, sequence.length};
 }
 
-void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
+// Returns where the next unit goes.
+std::size_t PutUtf16(std::u16string& text, std::size_t at, std::uint32_t codePoint) {
+  if (codePoint < 0x10000) {
+    text[at] = static_cast<char16_t>(codePoint);
+    return at + 1;
+  }
+  text[at] = static_cast<char16_t>(0xD800 + ((codePoint - 0x10000) >> 10));
+  text[at + 1] = static_cast<char16_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF));
+  return at + 2;
+}
+
+void AppendCodePoint(std::string& bytes, std::uint32_t codePoint) {
   const auto put = [&bytes](std::uint32_t value) { bytes.push_back(static_cast<char>(value)); };
   if (codePoint < 0x80) {
     put(codePoint);
@@ -69,29 +115,32 @@ void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
 }  // namespace
 
 std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
-  std::u16string text;
-  text.reserve(bytes.size());
+  // No sequence is shorter than the units it becomes.
+  std::u16string text(bytes.size(), u'\0');
+  std::size_t length = 0;
   for (std::size_t at = 0; at < bytes.size();) {
-    const auto lead = static_cast<std::uint8_t>(bytes[at]);
-    if (lead < 0x80) {
-      text.push_back(lead);
-      ++at;
-      continue;
-    }
-    const Sequence sequence = SequenceOf(lead);
-    if (sequence.length == 0 || sequence.length > bytes.size() - at) return std::nullopt;
-    std::uint32_t codePoint = sequence.leadBits;
-    for (std::size_t next = 1; next < sequence.length; ++next) {
-      const auto byte = static_cast<std::uint8_t>(bytes[at + next]);
-      if ((byte & 0xC0) != 0x80) return std::nullopt;
-      codePoint = codePoint << 6 | (byte & 0x3FU);
-    }
-    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    if (codePoint < sequence.least || codePoint > 0x10FFFF || surrogate) return std::nullopt;
-    AppendCodePoint(text, codePoint);
-    at += sequence.length;
+    const std::size_t end = EndOfAscii(bytes, at);
+    std::copy(bytes.begin() + static_cast<std::ptrdiff_t>(at),
+              bytes.begin() + static_cast<std::ptrdiff_t>(end), text.data() + length);
+    length += end - at;
+    at = end;
+    if (at == bytes.size()) break;
+    const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));
+    if (!next) return std::nullopt;
+    length = PutUtf16(text, length, next->value);
+    at += next->length;
   }
+  text.resize(length);
   return text;
+}
+
+bool IsUtf8(std::string_view bytes) {
+  for (std::size_t at = EndOfAscii(bytes, 0); at < bytes.size(); at = EndOfAscii(bytes, at)) {
+    const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));
+    if (!next) return false;
+    at += next->length;
+  }
+  return true;
 }
 
 std::u16string DecodeWindows1252(std::string_view bytes) {
@@ -110,20 +159,42 @@ std::u16string DecodeAnsi(std::string_view bytes) {
   return DecodeWindows1252(bytes);
 }
 
+std::u16string DecodeUtf16(std::string_view bytes) {
+  std::u16string text(bytes.size() / 2, u'\0');
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto low = static_cast<std::uint8_t>(bytes[2 * at]);
+    const auto high = static_cast<std::uint8_t>(bytes[2 * at + 1]);
+    text[at] = static_cast<char16_t>(low | high << 8);
+  }
+  return text;
+}
+
 std::string EncodeUtf8(std::u16string_view text) {
   std::string bytes;
-  bytes.reserve(text.size());
+  AppendUtf8(bytes, text);
+  return bytes;
+}
+
+void AppendUtf8(std::string& bytes, std::u16string_view text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
+    if (const std::size_t end = EndOfAscii(text, at); end > at) {
+      const std::size_t length = bytes.size();
+      bytes.resize(length + end - at);
+      std::transform(text.begin() + static_cast<std::ptrdiff_t>(at),
+                     text.begin() + static_cast<std::ptrdiff_t>(end), bytes.data() + length,
+                     [](char16_t unit) { return static_cast<char>(unit); });
+      at = end;
+      if (at == text.size()) break;
+    }
     const char16_t unit = text[at];
     if (IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1])) {
       const std::uint32_t high = unit & 0x3FFU;
       const std::uint32_t low = text[++at] & 0x3FFU;
-      AppendUtf8(bytes, 0x10000 + (high << 10 | low));
+      AppendCodePoint(bytes, 0x10000 + (high << 10 | low));
     } else {
-      AppendUtf8(bytes, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
+      AppendCodePoint(bytes, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
     }
   }
-  return bytes;
 }
 
 }  // namespace brevant

@@ -207,10 +207,13 @@ void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points
 }
 
 void TCBrevantView::ResetMouseState() {
+  dragDropped = true;
   setState(NoState);
 }
 
 void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  // Until rows that were just shown are laid out, the scroll bar's range is still that of the rows before.
+  executeDelayedItemsLayout();
   // A row is wider than most windows: going to it must not slide its first columns out of sight.
   const int place = horizontalScrollBar()->value();
   QTableView::scrollTo(index, hint);
@@ -218,8 +221,14 @@ void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
 }
 
 void TCBrevantView::mousePressEvent(QMouseEvent* event) {
+  dragDropped = false;
   QTableView::mousePressEvent(event);
   if (event->button() == Qt::RightButton) Q_EMIT contextMenuWanted(event->globalPosition().toPoint());
+}
+
+void TCBrevantView::mouseMoveEvent(QMouseEvent* event) {
+  if (dragDropped && event->buttons() != Qt::NoButton) return;
+  QTableView::mouseMoveEvent(event);
 }
 
 void TCBrevantView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -328,7 +337,7 @@ void TCBrevantView::MeasureRows() {
 
 void TCBrevantView::MeasureRow(const TCPlaylistRow& row) {
   for (const TCPlaylistColumn column : kTextColumns) {
-    columnWidths.GrowNeeded(column, CellWidthOf(ToQString(TCPlaylistModel::TextIn(row, column))));
+    MakeRoomFor(column, ToQString(TCPlaylistModel::TextIn(row, column)));
   }
 }
 
@@ -336,8 +345,12 @@ void TCBrevantView::MeasureHeaders() {
   for (const TCPlaylistColumn column : kTextColumns) {
     const QString text =
         playlistModel->headerData(static_cast<int>(column), Qt::Horizontal, Qt::DisplayRole).toString();
-    columnWidths.GrowNeeded(column, CellWidthOf(text));
+    MakeRoomFor(column, text);
   }
+}
+
+void TCBrevantView::MakeRoomFor(TCPlaylistColumn column, const QString& text) {
+  columnWidths.MakeRoomFor(column, CellWidthOf(text), columnHeader->GapBetweenTexts());
 }
 
 void TCBrevantView::FitColumns() {

@@ -63,6 +63,7 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -77,6 +78,7 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void MeasureRows();
   void MeasureRow(const TCPlaylistRow& row);
   void MeasureHeaders();
+  void MakeRoomFor(TCPlaylistColumn column, const QString& text);
   void FitColumns();
   [[nodiscard]] int CellWidthOf(const QString& text);
 
@@ -86,9 +88,10 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   QHash<QString, int>
       measuredTexts;  // pixels of a cell in the present font; every digit counts as the widest
   QChar widestDigit = QLatin1Char('0');
-  QTimer pollTimer;
+  QTimer pollTimer{this};
   int pollTicks = 0;                // 0 to 2
   std::int32_t rowKeptInView = -1;  // stays in view while window or font changes, unless scrolled away
+  bool dragDropped = false;         // the mouse does nothing more until its button is pressed anew
   bool fittingColumns = false;      // columns change width by our doing, not the user's
 };
 

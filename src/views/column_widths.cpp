@@ -31,8 +31,9 @@ void TCColumnWidths::SetNeeded(TCPlaylistColumn column, int width) {
   widths[IndexOf(column)].needed = std::min(width, kMostWidth);
 }
 
-void TCColumnWidths::GrowNeeded(TCPlaylistColumn column, int width) {
-  SetNeeded(column, std::max(width, widths[IndexOf(column)].needed));
+void TCColumnWidths::MakeRoomFor(TCPlaylistColumn column, int textWidth, int gap) {
+  if (textWidth <= kInitialWidths[IndexOf(column)]) return;
+  SetNeeded(column, std::max(textWidth + gap, widths[IndexOf(column)].needed));
 }
 
 void TCColumnWidths::SetByUser(TCPlaylistColumn column, int width) {

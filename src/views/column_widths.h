@@ -13,9 +13,11 @@ inline constexpr int kPlaylistColumns = 5;
 
 class TCColumnWidths {
  public:
-  // Pixels; what the texts, or the space that is left, ask for. The initial width is the least that is given.
+  // Pixels. The initial width is the least that is given.
   void SetNeeded(TCPlaylistColumn column, int width);
-  void GrowNeeded(TCPlaylistColumn column, int width);
+  // One more text in the column: where the initial width holds it nothing changes, else the column becomes
+  // wide enough for it and a gap to the next one.
+  void MakeRoomFor(TCPlaylistColumn column, int textWidth, int gap);
 
   // The user's width stands, whatever the texts need, until it is released.
   void SetByUser(TCPlaylistColumn column, int width);

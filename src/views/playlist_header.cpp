@@ -36,8 +36,12 @@ TCPlaylistHeader::TCPlaylistHeader(QWidget* parent) : QHeaderView(Qt::Horizontal
 }
 
 int TCPlaylistHeader::TextMargins() const {
-  // What the rows' cells leave free, and a gap to the next column.
-  return 2 * SideMargin() + std::max(4, fontMetrics().averageCharWidth());
+  // Two more than the rows' cells leave free: text widths are rounded when they are measured.
+  return 2 * SideMargin() + 2;
+}
+
+int TCPlaylistHeader::GapBetweenTexts() const {
+  return std::max(4, fontMetrics().averageCharWidth());
 }
 
 int TCPlaylistHeader::SideMargin() const {

@@ -12,8 +12,9 @@ class TCPlaylistHeader final : public QHeaderView {
  public:
   explicit TCPlaylistHeader(QWidget* parent = nullptr);
 
-  // Pixels that a column needs beside its text, both sides together.
+  // Pixels that are left free beside a text, both sides together; and what looks good between two texts.
   [[nodiscard]] int TextMargins() const;
+  [[nodiscard]] int GapBetweenTexts() const;
 
   [[nodiscard]] QSize sizeHint() const override;
 

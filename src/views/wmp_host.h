@@ -72,7 +72,7 @@ class CWMPHost final : public QWidget {
   std::u16string shownUrl;
   TCHeldValue heldPosition{1.0};  // seconds
   TCHeldValue heldVolume{0.5};
-  QTimer pollTimer;
+  QTimer pollTimer{this};
 };
 
 }  // namespace brevant

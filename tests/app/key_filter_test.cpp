@@ -145,6 +145,12 @@ TEST_F(KeyFilter, TheMenuBarIsWalkedWithTheArrows) {
   EXPECT_EQ(Type(window.menuBar(), Qt::Key_Right), Ran{});
 }
 
+TEST_F(KeyFilter, AltAloneLeadsIntoTheMenuBar) {
+  Focus(list);
+  QTest::keyClick(list, Qt::Key_Alt, Qt::AltModifier);
+  EXPECT_EQ(QApplication::focusWidget(), window.menuBar());
+}
+
 TEST_F(KeyFilter, AWidgetKeepsTheKeysItHasClaimed) {
   filter->LetKeep(*list, [](int key, Qt::KeyboardModifiers) { return key == Qt::Key_Down; });
   Focus(list);

@@ -51,7 +51,8 @@ TEST(KeyRules, SayWhoHasAKey) {
       {"a button's Space", Bound(Qt::Key_Space, kOrdinary), TCKeyVerdict::Table},
       {"a letter", Bound(Qt::Key_P, kOrdinary), TCKeyVerdict::Table},
       {"read-only text's copy", Bound(Qt::Key_C, kOrdinary, Qt::ControlModifier), TCKeyVerdict::Table},
-      {"a key of no command", Unbound(Qt::Key_PageDown, kOrdinary), TCKeyVerdict::Table},
+      {"a key of no command", Unbound(Qt::Key_PageDown, kOrdinary), TCKeyVerdict::Untouched},
+      {"Alt alone", Unbound(Qt::Key_Alt, kOrdinary, Qt::AltModifier), TCKeyVerdict::Untouched},
       {"an arrow that the tree keeps", Kept(Bound(Qt::Key_Down, kOrdinary)), TCKeyVerdict::Widget},
       {"Enter that the tree keeps, held", Kept(Held(Bound(Qt::Key_Return, kOrdinary), false)),
        TCKeyVerdict::Widget},
@@ -80,7 +81,8 @@ TEST(KeyRules, SayWhoHasAKey) {
       {"a held key that acts once", Held(Bound(Qt::Key_Space, kOrdinary), false), TCKeyVerdict::Swallow},
       {"a held F-key that acts once, while typing", Held(Bound(Qt::Key_F5, kTyping), false),
        TCKeyVerdict::Swallow},
-      {"a held key of no command", Held(Unbound(Qt::Key_PageDown, kOrdinary), false), TCKeyVerdict::Table},
+      {"a held key of no command", Held(Unbound(Qt::Key_PageDown, kOrdinary), false),
+       TCKeyVerdict::Untouched},
   };
   for (const TCCase& each : cases) {
     EXPECT_EQ(static_cast<int>(DecideKey(each.press)), static_cast<int>(each.verdict)) << each.what;

@@ -112,9 +112,7 @@ def plays_pauses_and_stops(stage, listener):
     assert listener.silent(), "something sounds before Play"
     screen.press("Return")
     stage.wait_to_hear(440)
-    stage.wait_for_message("M: The harbour hums,")
-    assert "F: the evening comes." in stage.message(), stage.message()
-    assert "...Brevant..." not in stage.message(), stage.message()
+    assert stage.message() == "", f"Play left this in the message display: {stage.message()!r}"
 
     screen.press("space")
     stage.wait_for_silence()

@@ -47,7 +47,7 @@ class Listener:
     def sounds(self, pitch, share=0.5, seconds=0.25):
         """Whether the last stretch is loud and at least `share` of its power lies at `pitch` (hertz)."""
         stretch = self.last(seconds)
-        if len(stretch) < seconds * RATE or self.loudness(seconds) < 50:
+        if len(stretch) < int(seconds * RATE) or self.loudness(seconds) < 50:
             return False
         return share_of_pitch(stretch, pitch) >= share
 

@@ -1,0 +1,459 @@
+#include "app/brevant_app.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/about_box.h"
+#include "app/qt_keys.h"
+#include "dialog_answer.h"
+#include "resources/command_table.h"
+#include "support/fake_player.h"
+#include "support/memory_files.h"
+#include "text/ini_text.h"
+#include "views/text_conversion.h"
+
+namespace brevant {
+namespace {
+
+constexpr std::u16string_view kIniPath = u"\\conf\\Brevant.ini";
+constexpr std::u16string_view kShow = u"\\shows\\show.brv";
+
+// The whole program on a disk in memory, with a player without sound.
+class BrevantApp : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(layoutFolder.isValid());
+    files.PutUtf16(kShow,
+                   u"\"Band\" \"Set 1\" \"\\m\\one.mp3\" 03:00\r\n"
+                   u"\"Band\" \"Set 1\" \"\\m\\two.mp3\" 02:00\r\n"
+                   u"\"Band\" \"Set 2\" \"\\m\\three.mp3\" 01:00\r\n");
+    for (const std::u16string_view song : {u"\\m\\one.mp3", u"\\m\\two.mp3", u"\\m\\three.mp3"})
+      files.Put(song);
+  }
+
+  // Starts the program as main() does; the About box is closed unless a test is about it.
+  void Start(std::optional<std::u16string_view> file = {}) {
+    TCStartFile startFile;
+    if (file) startFile = {true, "typed", std::u16string(*file)};
+    StartWith(startFile);
+    CloseAboutBox();
+  }
+
+  void StartWith(const TCStartFile& startFile) {
+    app.emplace(TCAppParts{files,
+                           player,
+                           player,
+                           TCNativePaths(),
+                           {u"\\opt\\", u"\\conf\\", u"\\state\\"},
+                           layoutFolder.filePath(QStringLiteral("Layout.ini")),
+                           {}});
+    app->InitInstance(startFile);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !AboutBoxes().isEmpty(); }));
+  }
+
+  void CloseAboutBox() {
+    for (TCAboutBox* box : AboutBoxes()) box->accept();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Frame().activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &Frame(); }));
+  }
+
+  [[nodiscard]] QList<TCAboutBox*> AboutBoxes() {
+    QList<TCAboutBox*> boxes;
+    for (QObject* child : Frame().children()) {
+      if (auto* box = dynamic_cast<TCAboutBox*>(child)) boxes.append(box);
+    }
+    return boxes;
+  }
+
+  [[nodiscard]] TCMainFrame& Frame() { return app->Frame(); }
+  [[nodiscard]] TCSettings& Settings() { return app->Record().settings; }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    QCoreApplication::sendPostedEvents();
+  }
+
+  [[nodiscard]] QString CellText(int row, int column) {
+    return Frame().PlaylistView().model()->index(row, column).data().toString();
+  }
+
+  [[nodiscard]] std::u16string Written(std::u16string_view key) const {
+    const std::optional<std::string> bytes = files.BytesOf(kIniPath);
+    return bytes ? TCIniText::Parse(*bytes).GetString(u"Brevant", key, u"(missing)") : u"(no file)";
+  }
+
+  QTemporaryDir layoutFolder;
+  TCMemoryFiles files;
+  TCFakePlayer player;
+  std::optional<TCBrevantApp> app;
+};
+
+// Start-up.
+
+TEST_F(BrevantApp, ShowsTheAboutBoxOnceAtTheStart) {
+  StartWith({});
+  ASSERT_EQ(AboutBoxes().size(), 1);
+  EXPECT_TRUE(AboutBoxes().constFirst()->isVisible());
+  EXPECT_TRUE(AboutBoxes().constFirst()->isModal());
+  CloseAboutBox();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(AboutBoxes().isEmpty());
+}
+
+TEST_F(BrevantApp, TheSongGoesOnBehindTheAboutBox) {
+  StartWith({true, "typed", std::u16string(kShow)});
+  app->Document().OnCommand(TCCommandId::Play);
+  player.Advance(1.0);
+  ASSERT_EQ(AboutBoxes().size(), 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().Transport().State().started; }))
+      << "the poll stands still";
+  EXPECT_EQ(AboutBoxes().size(), 1);
+}
+
+TEST_F(BrevantApp, TheWindowIsSeenBeforeTheDocumentIsRead) {
+  app.emplace(TCAppParts{files,
+                         player,
+                         player,
+                         TCNativePaths(),
+                         {u"\\opt\\", u"\\conf\\", u"\\state\\"},
+                         layoutFolder.filePath(QStringLiteral("Layout.ini")),
+                         {}});
+  app->InitInstance({true, "typed", std::u16string(kShow)});
+  EXPECT_TRUE(Frame().isVisible());
+  EXPECT_EQ(app->Document().GetPathName(), u"");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().GetPathName() == kShow; }));
+}
+
+TEST_F(BrevantApp, StartsWithAnEmptyDocumentAndTheBanner) {
+  Start();
+  EXPECT_EQ(Frame().windowTitle(), QStringLiteral("Brevant[*]"));
+  EXPECT_TRUE(Frame().isVisible());
+  EXPECT_EQ(Frame().MessageDisplay().toPlainText().trimmed(), QStringLiteral("...Brevant..."));
+  EXPECT_EQ(QApplication::focusWidget(), &Frame().PlaylistView());
+}
+
+TEST_F(BrevantApp, OpensTheDocumentOfTheCommandLine) {
+  Start(kShow);
+  EXPECT_EQ(Frame().windowTitle(), QStringLiteral("show.brv[*] - Brevant"));
+  ASSERT_EQ(Frame().PlaylistView().model()->rowCount(), 2);
+  EXPECT_EQ(CellText(0, 4), QStringLiteral("one.mp3"));
+}
+
+TEST_F(BrevantApp, OpensTheLastDocumentWhenNoneIsNamed) {
+  files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\show.brv\r\n");
+  Start();
+  EXPECT_EQ(app->Document().GetPathName(), kShow);
+}
+
+TEST_F(BrevantApp, TheDocumentOfTheCommandLineGoesBeforeTheLast) {
+  files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\other.brv\r\n");
+  files.PutUtf16(u"\\shows\\other.brv", u"");
+  Start(kShow);
+  EXPECT_EQ(app->Document().GetPathName(), kShow);
+}
+
+TEST_F(BrevantApp, LeavesTheLastDocumentAloneWhenTheOptionIsOff) {
+  files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\show.brv\r\nLoadLastFileOnProgramRun=No\r\n");
+  Start();
+  EXPECT_EQ(app->Document().GetPathName(), u"");
+}
+
+TEST_F(BrevantApp, ALastDocumentThatIsGoneOpensNothing) {
+  files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\gone.brv\r\n");
+  Start();
+  EXPECT_EQ(Frame().windowTitle(), QStringLiteral("Brevant[*]"));
+}
+
+TEST_F(BrevantApp, RefusesANameThatTheModelCannotHold) {
+  files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\show.brv\r\n");
+  StartWith({true, "back\\slash.brv", {}});
+  EXPECT_TRUE(Frame().StatusLine().ShownMessage().endsWith(QStringLiteral("back\\slash.brv")));
+  EXPECT_EQ(app->Document().GetPathName(), u"") << "another document was not asked for";
+}
+
+TEST_F(BrevantApp, ReadsTheSettingsButForTheFontFaces) {
+  files.Put(kIniPath,
+            "[Brevant]\r\nWhiteOnBlack=No\r\nPlayListFontSize=33\r\nPlayListFontTypeName=Arial\r\n"
+            "LyricsFontTypeName=Arial\r\n");
+  Start();
+  EXPECT_FALSE(Settings().whiteOnBlack);
+  EXPECT_EQ(Frame().PlaylistView().font().pointSize(), 33);
+  EXPECT_EQ(Settings().playListFontTypeName, u"Times New Roman");
+  EXPECT_EQ(Settings().lyricsFontTypeName, u"Times New Roman");
+}
+
+// Menus and keys.
+
+TEST_F(BrevantApp, EveryMenuEntryIsThereToBeUsed) {
+  Start();
+  QStringList titles;
+  for (const QAction* title : Frame().menuBar()->actions()) {
+    titles.append(title->text());
+    ASSERT_NE(title->menu(), nullptr);
+    EXPECT_FALSE(title->menu()->isEmpty());
+    for (const QAction* entry : title->menu()->actions()) {
+      EXPECT_TRUE(entry->isEnabled() && entry->isVisible());
+      EXPECT_FALSE(entry->text().isEmpty());
+    }
+  }
+  for (const char* needed : {"&File", "&Play", "&Commands", "&Options", "&View", "&Help"}) {
+    EXPECT_TRUE(titles.contains(QLatin1String(needed))) << needed;
+  }
+}
+
+TEST_F(BrevantApp, HasWhatAPerformanceNeeds) {
+  Start();
+  for (const TCCommandId command :
+       {TCCommandId::FileNew,       TCCommandId::FileOpen,      TCCommandId::FileSave,
+        TCCommandId::FileSaveAs,    TCCommandId::Exit,          TCCommandId::Play,
+        TCCommandId::Stop,          TCCommandId::PauseContinue, TCCommandId::NextSong,
+        TCCommandId::PriorSong,     TCCommandId::NextPlaylist,  TCCommandId::PriorPlaylist,
+        TCCommandId::LoadSong,      TCCommandId::Cancel,        TCCommandId::ClearInformation,
+        TCCommandId::Reset,         TCCommandId::WhiteOnBlack,  TCCommandId::DynamicPlayColours,
+        TCCommandId::PlayerPane,    TCCommandId::MessagePane,   TCCommandId::StatusBarVisible,
+        TCCommandId::FocusPlaylist, TCCommandId::About}) {
+    EXPECT_NE(app->Actions().ActionOf(command), nullptr) << static_cast<int>(command);
+  }
+}
+
+TEST_F(BrevantApp, EveryKeyOfTheTableFiresItsCommandAndNoOther) {
+  Start();
+  for (QWidget* focus :
+       {static_cast<QWidget*>(&Frame().PlaylistView()), static_cast<QWidget*>(&Frame().MessageDisplay())}) {
+    focus->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), focus);
+    for (const TCKeyBinding& binding : EffectiveBindings()) {
+      const QAction* expected = app->Actions().ActionOf(binding.command);
+      for (const QKeySequence& key : ToQtKeys(binding.key)) {
+        QList<const QAction*> fired;
+        QObject listener;
+        for (const QAction* action : Frame().actions()) {
+          QObject::connect(action, &QAction::triggered, &listener,
+                           [&fired, action] { fired.append(action); });
+        }
+        QTest::keyClick(focus, key[0].key(), key[0].keyboardModifiers());
+        EXPECT_EQ(fired, expected != nullptr ? QList<const QAction*>{expected} : QList<const QAction*>())
+            << key.toString().toStdString();
+        // Whether it fires is the question here; what it does is asked elsewhere.
+        QCoreApplication::removePostedEvents(const_cast<TCCommandActions*>(&app->Actions()));
+      }
+    }
+  }
+}
+
+TEST_F(BrevantApp, EveryActionIsCarriedOutByItsOwner) {
+  Start();
+  for (const TCCommand& command : Commands()) {
+    if (app->Actions().ActionOf(command.id) == nullptr) continue;
+    const bool view = HasOwner(command, TCCommandOwner::View);
+    EXPECT_TRUE(view || TCMainFrame::Handles(command.id) || TCBrevantDoc::Handles(command.id) ||
+                command.id == TCCommandId::About)
+        << static_cast<int>(command.id);
+  }
+}
+
+TEST_F(BrevantApp, KeysPerformTheSet) {
+  Start(kShow);
+  player.ForgetCalls();
+  Press(Qt::Key_Down);
+  EXPECT_EQ(app->Record().setLists.currentSong, 1);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(player.Calls(), (std::vector<std::string>{"LoadUrl \\m\\two.mp3", "Play"}));
+  player.Advance(1.0);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(player.Calls().back(), "Pause");
+  Press(Qt::Key_S);
+  EXPECT_EQ(player.Calls().back(), "Stop");
+  Press(Qt::Key_Right);
+  ASSERT_EQ(Frame().PlaylistView().model()->rowCount(), 1);
+  EXPECT_EQ(CellText(0, 4), QStringLiteral("three.mp3"));
+}
+
+TEST_F(BrevantApp, F4AndSelectAllAreKeptFromTheList) {
+  Start(kShow);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_TRUE(Frame().PlaylistView().SelectedRows().empty());
+  Press(Qt::Key_F4);
+  EXPECT_EQ(player.Calls(), std::vector<std::string>{"SetVolume 100"});
+}
+
+TEST_F(BrevantApp, FocusPlaylistBringsTheKeyboardBack) {
+  Start();
+  Frame().MessageDisplay().setFocus();
+  Press(Qt::Key_F3);
+  EXPECT_EQ(QApplication::focusWidget(), &Frame().PlaylistView());
+}
+
+TEST_F(BrevantApp, CheckMarksFollowTheOptions) {
+  Start();
+  const QAction* action = app->Actions().ActionOf(TCCommandId::WhiteOnBlack);
+  EXPECT_TRUE(action->isChecked());
+  Press(Qt::Key_W);
+  EXPECT_FALSE(Settings().whiteOnBlack);
+  EXPECT_FALSE(action->isChecked());
+  EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
+  Press(Qt::Key_W);
+  EXPECT_TRUE(action->isChecked());
+  EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::black));
+}
+
+TEST_F(BrevantApp, CheckMarksFollowThePanes) {
+  Start();
+  QAction* action = app->Actions().ActionOf(TCCommandId::MessagePane);
+  EXPECT_TRUE(action->isChecked());
+  for (QDockWidget* pane : Frame().findChildren<QDockWidget*>()) pane->close();
+  EXPECT_FALSE(action->isChecked());
+  action->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(action->isChecked());
+  EXPECT_TRUE(Frame().MessageDisplay().isVisible());
+}
+
+TEST_F(BrevantApp, ResetIsCheckedWhileItIsPending) {
+  Start();
+  QAction* action = app->Actions().ActionOf(TCCommandId::Reset);
+  EXPECT_FALSE(action->isChecked());
+  action->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(action->isChecked());
+  action->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_FALSE(action->isChecked());
+}
+
+// The views' wishes.
+
+TEST_F(BrevantApp, APickedRowPlays) {
+  Start(kShow);
+  Q_EMIT Frame().PlaylistView().rowPicked(1);
+  EXPECT_EQ(player.Calls().back(), "Play");
+  EXPECT_EQ(player.GetUrl(), u"\\m\\two.mp3");
+}
+
+TEST_F(BrevantApp, ThePlayerPanesButtonsRunTheTransport) {
+  Start(kShow);
+  Q_EMIT Frame().PlayerPane().playWanted();
+  EXPECT_TRUE(app->Document().Transport().State().playing);
+  Q_EMIT Frame().PlayerPane().pauseWanted();
+  EXPECT_TRUE(app->Document().Transport().State().paused);
+  Q_EMIT Frame().PlayerPane().stopWanted();
+  EXPECT_FALSE(app->Document().Transport().State().playing);
+}
+
+TEST_F(BrevantApp, TheContextMenuOpensOverThePlaylistWithoutHoldingTheCaller) {
+  Start(kShow);
+  Q_EMIT Frame().PlaylistView().contextMenuWanted(QPoint(20, 20));
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  EXPECT_FALSE(menu->isEmpty());
+  menu->close();
+}
+
+// Closing.
+
+TEST_F(BrevantApp, ClosingWritesTheSettings) {
+  Start(kShow);
+  EXPECT_EQ(Written(u"WhiteOnBlack"), u"(no file)");
+  EXPECT_TRUE(Frame().close());
+  EXPECT_EQ(Written(u"WhiteOnBlack"), u"Yes");
+  EXPECT_EQ(Written(u"LastLoadedFileName"), kShow);
+}
+
+TEST_F(BrevantApp, ClosingWithAResetPendingDeletesTheSettings) {
+  files.Put(kIniPath, "[Brevant]\r\n");
+  Start();
+  Settings().ToggleReset();
+  EXPECT_TRUE(Frame().close());
+  EXPECT_FALSE(files.BytesOf(kIniPath).has_value());
+}
+
+TEST_F(BrevantApp, ClosingWithUnsavedChangesCanBeCancelledAfterTheSettingsAreWritten) {
+  Start(kShow);
+  app->Document().SetModified();
+  const TCDialogAnswer<QMessageBox> answer(
+      [](QMessageBox& box) { box.button(QMessageBox::Cancel)->click(); });
+  EXPECT_FALSE(Frame().close());
+  EXPECT_TRUE(Frame().isVisible());
+  EXPECT_EQ(Written(u"WhiteOnBlack"), u"Yes");
+}
+
+TEST_F(BrevantApp, ClosingCanSaveOrGiveUpTheChanges) {
+  Start(kShow);
+  const std::optional<std::string> before = files.BytesOf(kShow);
+  app->Record().setLists.groups[0].playlists[0].items.pop_back();
+  app->Document().SetModified();
+  {
+    const TCDialogAnswer<QMessageBox> answer(
+        [](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
+    EXPECT_TRUE(Frame().close());
+    EXPECT_EQ(files.BytesOf(kShow), before);
+  }
+  Frame().show();
+  const TCDialogAnswer<QMessageBox> answer([](QMessageBox& box) { box.button(QMessageBox::Save)->click(); });
+  EXPECT_TRUE(Frame().close());
+  EXPECT_NE(files.BytesOf(kShow), before);
+}
+
+TEST_F(BrevantApp, ADocumentSavedUnderANewNameWhileClosingIsTheLastOne) {
+  Start(kShow);
+  app->Document().SetModified();
+  // What a save-as while closing does to the store, seen from here.
+  const TCDialogAnswer<QMessageBox> answer([this](QMessageBox& box) {
+    EXPECT_EQ(Written(u"LastLoadedFileName"), kShow);
+    app->Document().OnSaveDocument(u"\\shows\\new.brv");
+    box.button(QMessageBox::Discard)->click();
+  });
+  EXPECT_TRUE(Frame().close());
+  EXPECT_EQ(Written(u"LastLoadedFileName"), u"\\shows\\new.brv");
+}
+
+TEST_F(BrevantApp, ExitClosesTheWindow) {
+  Start();
+  app->Actions().ActionOf(TCCommandId::Exit)->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_FALSE(Frame().isVisible());
+  EXPECT_EQ(Written(u"WhiteOnBlack"), u"Yes");
+}
+
+// Ends the session inside the event loop, as a signal does. False when somebody was asked something.
+bool EndSession(TCBrevantApp& app) {
+  bool asked = false;
+  QTimer noticesAQuestion;
+  QObject::connect(&noticesAQuestion, &QTimer::timeout, [&asked] {
+    if (auto* question = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+      asked = true;
+      question->reject();
+      QCoreApplication::exit(1);
+    }
+  });
+  noticesAQuestion.start(0);
+  QTimer::singleShot(0, &app, &TCBrevantApp::EndSession);
+  return QApplication::exec() == 0 && !asked;
+}
+
+TEST_F(BrevantApp, TheEndOfTheSessionAsksNothingAndKeepsUnsavedChanges) {
+  Start(kShow);
+  app->Document().SetModified();
+  const std::optional<std::string> before = files.BytesOf(kShow);
+  EXPECT_TRUE(EndSession(*app));
+  EXPECT_EQ(Written(u"LastLoadedFileName"), kShow);
+  EXPECT_EQ(files.BytesOf(u"\\state\\show.brv"), before);
+}
+
+TEST_F(BrevantApp, TheEndOfTheSessionKeepsNothingWhenNothingIsUnsaved) {
+  Start(kShow);
+  EXPECT_TRUE(EndSession(*app));
+  EXPECT_EQ(Written(u"WhiteOnBlack"), u"Yes");
+  EXPECT_FALSE(files.BytesOf(u"\\state\\show.brv").has_value());
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,151 @@
+#include "app/main_frame.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QSignalSpy>
+#include <QStatusTipEvent>
+#include <QTemporaryDir>
+
+#include "app/stage_palette.h"
+#include "support/fake_player.h"
+
+namespace brevant {
+namespace {
+
+class MainFrame : public testing::Test {
+ protected:
+  TCSettings settings;
+  TCFakePlayer player;
+  TCMainFrame frame{settings, player, player};
+};
+
+TEST_F(MainFrame, SetsTheVolumeToFullAndShowsTheBannerBeforeItIsShown) {
+  EXPECT_EQ(player.Calls(), std::vector<std::string>{"SetVolume 100"});
+  EXPECT_TRUE(frame.MessageDisplay().Enabled());
+  EXPECT_EQ(frame.MessageDisplay().toPlainText().trimmed(), QStringLiteral("...Brevant..."));
+}
+
+TEST_F(MainFrame, AClosedPaneStillTakesLines) {
+  frame.OnCommand(TCCommandId::MessagePane);
+  frame.MessageDisplay().Append(u"said behind the scene");
+  frame.OnCommand(TCCommandId::MessagePane);
+  EXPECT_TRUE(frame.MessageDisplay().toPlainText().contains(QStringLiteral("said behind the scene")));
+}
+
+TEST_F(MainFrame, ANewDocumentBearsTheProgramsName) {
+  EXPECT_EQ(frame.windowTitle(), QStringLiteral("Brevant[*]"));
+  EXPECT_FALSE(frame.isWindowModified());
+}
+
+TEST_F(MainFrame, TheTitleIsNameAndProgramWithTheModifiedMark) {
+  frame.ShowTitle(u"show.brv", TCModifiedMark::Modified);
+  EXPECT_EQ(frame.windowTitle(), QStringLiteral("show.brv[*] - Brevant"));
+  EXPECT_TRUE(frame.isWindowModified());
+  frame.ShowTitle(u"show.brv", TCModifiedMark::Clean);
+  EXPECT_FALSE(frame.isWindowModified());
+}
+
+TEST_F(MainFrame, ANameThatLooksLikeTheMarkIsShownAsItIs) {
+  // Doubled, the toolkit takes it for text.
+  frame.ShowTitle(u"a[*].brv", TCModifiedMark::Clean);
+  EXPECT_EQ(frame.windowTitle(), QStringLiteral("a[*][*].brv[*] - Brevant"));
+}
+
+TEST_F(MainFrame, ItsCommandsOpenAndClosePanesAndStatusBar) {
+  frame.show();
+  for (const TCCommandId command :
+       {TCCommandId::PlayerPane, TCCommandId::MessagePane, TCCommandId::StatusBarVisible}) {
+    ASSERT_TRUE(TCMainFrame::Handles(command));
+    EXPECT_TRUE(frame.IsChecked(command));
+    EXPECT_TRUE(frame.OnCommand(command));
+    EXPECT_FALSE(frame.IsChecked(command));
+    EXPECT_TRUE(frame.OnCommand(command));
+    EXPECT_TRUE(frame.IsChecked(command));
+  }
+}
+
+TEST_F(MainFrame, PanesThatAreNotBuiltAreNotItsOwn) {
+  for (const TCCommandId command : {TCCommandId::PropertiesPane, TCCommandId::PlaylistManagerPane,
+                                    TCCommandId::LiveViewMode, TCCommandId::Play}) {
+    EXPECT_FALSE(TCMainFrame::Handles(command));
+    EXPECT_FALSE(frame.OnCommand(command));
+  }
+}
+
+TEST_F(MainFrame, APaneClosedByItsOwnButtonIsToldOf) {
+  frame.show();
+  QSignalSpy marks(&frame, &TCMainFrame::marksChanged);
+  for (QDockWidget* pane : frame.findChildren<QDockWidget*>()) pane->close();
+  EXPECT_GE(marks.count(), 2);
+  EXPECT_FALSE(frame.IsChecked(TCCommandId::PlayerPane));
+  EXPECT_FALSE(frame.IsChecked(TCCommandId::MessagePane));
+}
+
+TEST_F(MainFrame, ThePanesLieSideBySideBelowThePlaylist) {
+  frame.resize(1200, 800);
+  frame.show();
+  const auto place = [this](const QWidget& widget) {
+    return QRect(widget.mapTo(&frame, QPoint(0, 0)), widget.size());
+  };
+  const QRect pane = place(frame.PlayerPane());
+  const QRect messages = place(frame.MessageDisplay());
+  const QRect list = place(frame.PlaylistView());
+  EXPECT_LT(list.bottom(), pane.top());
+  EXPECT_LT(pane.right(), messages.left());
+  EXPECT_LT(list.bottom(), messages.top());
+  EXPECT_GT(list.height(), pane.height()) << "the playlist has the most room";
+}
+
+TEST_F(MainFrame, FitsTheScreen) {
+  EXPECT_LE(frame.width(), frame.screen()->availableSize().width());
+  EXPECT_LE(frame.height(), frame.screen()->availableSize().height());
+}
+
+TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
+  for (const bool whiteOnBlack : {false, true}) {
+    settings.SetWhiteOnBlack(whiteOnBlack);
+    frame.ShowOptions();
+    const QColor background = ToColour(settings.backgroundColour);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), background);
+    EXPECT_EQ(frame.MessageDisplay().palette().color(QPalette::Base), background);
+    EXPECT_EQ(frame.PlaylistView().palette().color(QPalette::Base), background);
+  }
+}
+
+TEST_F(MainFrame, FontsFollowTheSettings) {
+  settings.playListFontSize = 31;
+  settings.lyricsFontSize = 27;
+  frame.ShowOptions();
+  EXPECT_EQ(frame.PlaylistView().font().pointSize(), 31);
+  EXPECT_EQ(frame.MessageDisplay().font().pointSize(), 27);
+}
+
+TEST_F(MainFrame, APointedAtMenuEntryIsExplainedInTheStatusBar) {
+  frame.ShowStatus(u"A message");
+  QStatusTipEvent over(QStringLiteral("What it does"));
+  QCoreApplication::sendEvent(&frame, &over);
+  EXPECT_EQ(frame.StatusLine().ShownMessage(), QStringLiteral("What it does"));
+  QStatusTipEvent away((QString()));
+  QCoreApplication::sendEvent(&frame, &away);
+  EXPECT_EQ(frame.StatusLine().ShownMessage(), QStringLiteral("A message"));
+}
+
+TEST_F(MainFrame, WidthsThatTheUserDraggedComeBack) {
+  const QTemporaryDir folder;
+  ASSERT_TRUE(folder.isValid());
+  const QString path = folder.filePath(QStringLiteral("Layout.ini"));
+  frame.show();
+  frame.PlaylistView().setColumnWidth(1, 123);
+  {
+    QSettings layout(path, QSettings::IniFormat);
+    frame.SaveLayout(layout);
+  }
+  TCMainFrame next(settings, player, player);
+  next.RestoreLayout(QSettings(path, QSettings::IniFormat));
+  next.show();
+  EXPECT_EQ(next.PlaylistView().columnWidth(1), 123);
+}
+
+}  // namespace
+}  // namespace brevant
