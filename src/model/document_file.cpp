@@ -115,6 +115,7 @@ bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
 
 bool TCDocumentFile::LoadFlatDocument(std::string_view bytes) {
   store.groups.clear();
+  const TCManyFiles lyricFiles(files);
   NameIndex names(store);
   TCSharedTexts texts;
   VisitUtf16Lines(bytes, [&](std::u16string_view text) {

@@ -42,11 +42,13 @@ TCDiskFiles::TCDiskFiles(TCNativePaths nativePaths, TCOtherCase::Clock clock)
     : paths(std::move(nativePaths)), otherCase(std::move(clock)) {}
 
 bool TCDiskFiles::FileExists(std::u16string_view path) {
-  return OpenForReading(path).file.IsOpen();
+  return OpenForReading(paths.ToNative(path)).file.IsOpen();
 }
 
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
-  const OpenedFile opened = OpenForReading(path);
+  const std::string native = paths.ToNative(path);
+  if (manyFiles > 0 && otherCase.IsMissing(native)) return std::nullopt;
+  const OpenedFile opened = OpenForReading(native);
   if (!opened.file.IsOpen() || opened.size > maxBytes) return std::nullopt;
 
   // A file can grow or shrink while it is read, and some files of the system's say 0 and hold something. One
@@ -109,6 +111,11 @@ bool TCDiskFiles::DeleteFile(std::u16string_view path) {
   return !IsThere(native);
 }
 
+void TCDiskFiles::EndManyFiles() {
+  --manyFiles;
+  if (manyFiles == 0) otherCase.Forget();
+}
+
 // Regular files only. What else stands there is closed at once, and O_NONBLOCK keeps a FIFO without a writer
 // from holding us up.
 TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(const std::string& native) {
@@ -123,8 +130,7 @@ TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(const std::string& native) 
   return opened;
 }
 
-TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path) {
-  const std::string native = paths.ToNative(path);
+TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(const std::string& native) {
   OpenedFile opened = OpenRegularFile(native);
   if (!opened.nothingThere) return opened;
 

@@ -33,17 +33,21 @@ class TCDiskFiles final : public TCFileSystem {
   [[nodiscard]] bool MakeFolder(std::u16string_view path) override;
   bool DeleteFile(std::u16string_view path) override;
 
+  void BeginManyFiles() override { ++manyFiles; }
+  void EndManyFiles() override;
+
  private:
   struct OpenedFile;
 
   [[nodiscard]] static OpenedFile OpenRegularFile(const std::string& native);
-  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path);
+  [[nodiscard]] OpenedFile OpenForReading(const std::string& native);
   // The name under which something stands there: `native`, or its like in other case, or else `native` within
   // the folder that answers to its folder's name.
   [[nodiscard]] std::string Locate(const std::string& native);
 
   TCNativePaths paths;
   TCOtherCase otherCase;
+  int manyFiles = 0;  // BeginManyFiles that were not ended
 };
 
 }  // namespace brevant

@@ -28,6 +28,11 @@ class TCOtherCase {
   // it is there; the nearest first. Usually none.
   [[nodiscard]] std::vector<std::string> Find(std::string_view native);
 
+  // True when the folders' names, as far as they are trusted at this moment, say that nothing stands there
+  // under any case. False also when they cannot say: a folder cannot be read, or the name is not plain ASCII
+  // and the disk may hold other spellings of it for the same.
+  [[nodiscard]] bool IsMissing(std::string_view native);
+
   // For after a change that this program made itself.
   void Forget();
 
@@ -52,6 +57,7 @@ class TCOtherCase {
     Moment checked;
   };
 
+  void MakeRoomFor(std::string_view folder);
   Folder& Remember(std::string path, Moment now);
   void Check(Folder& folder, Moment now);
   const Meaning& MeaningOf(std::string_view written, Moment now);

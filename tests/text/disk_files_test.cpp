@@ -152,6 +152,34 @@ TEST_F(DiskFiles, AFileThatAppearsInOtherCaseIsSeenAfterAMoment) {
   EXPECT_TRUE(files.FileExists(folder.Model("a.mp3")));
 }
 
+TEST_F(DiskFiles, AmongManyFilesAMissingOneStaysMissingForAMoment) {
+  folder.Write("Song.mp3");
+  folder.Write("Song.lrc", "abc");
+  {
+    const TCManyFiles many(files);
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrc"), kAnySize), "abc");
+    EXPECT_EQ(files.ReadFile(folder.Model("SONG.LRC"), kAnySize), "abc");
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrcx"), kAnySize), std::nullopt);
+    EXPECT_EQ(files.ReadFile(folder.Model("None/Song.lrc"), kAnySize), std::nullopt);
+
+    folder.Write("Song.lrcx", "new");
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrcx"), kAnySize), std::nullopt);
+    now += TCOtherCase::kTrust;
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrcx"), kAnySize), "new");
+
+    EXPECT_EQ(files.ReadFile(folder.Model("Late.lrc"), kAnySize), std::nullopt);
+    folder.Write("Late.lrc", "new");
+  }
+  EXPECT_EQ(files.ReadFile(folder.Model("Late.lrc"), kAnySize), "new");
+}
+
+TEST_F(DiskFiles, AmongManyFilesASongThatAppearsIsSeenAtOnce) {
+  const TCManyFiles many(files);
+  EXPECT_FALSE(files.FileExists(folder.Model("a.mp3")));
+  folder.Write("a.mp3");
+  EXPECT_TRUE(files.FileExists(folder.Model("a.mp3")));
+}
+
 TEST_F(DiskFiles, AFileOfOurOwnIsSeenInAnyCaseAtOnce) {
   EXPECT_FALSE(files.FileExists(folder.Model("show.brv")));
   EXPECT_TRUE(files.ReplaceFile(folder.Model("Show.brv"), "abc"));

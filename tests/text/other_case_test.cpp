@@ -110,6 +110,33 @@ TEST_F(OtherCase, AFolderThatWasChangedJustBeforeIsReadAgainWhateverItsStamp) {
   EXPECT_THAT(otherCase.Find(folder.Native("Music/SONG.mp3")), ElementsAre(folder.Native("Music/song.mp3")));
 }
 
+TEST_F(OtherCase, AFileIsMissingWhenItsFolderHoldsNoneOfItsNameInAnyCase) {
+  folder.Write("Music/Song.lrc");
+  EXPECT_TRUE(otherCase.IsMissing(folder.Native("Music/Other.lrc")));
+  EXPECT_TRUE(otherCase.IsMissing(folder.Native("None/Song.lrc")));
+  EXPECT_FALSE(otherCase.IsMissing(folder.Native("Music/Song.lrc")));
+  EXPECT_FALSE(otherCase.IsMissing(folder.Native("music/SONG.lrc")));
+}
+
+TEST_F(OtherCase, AFileIsNotCalledMissingWhereTheNamesCannotSay) {
+  folder.MakeFolder("Music");
+  EXPECT_FALSE(
+      otherCase.IsMissing(folder.Native("Music/Caf\xC3\xA9.lrc")));  // another spelling may stand there
+  EXPECT_FALSE(otherCase.IsMissing(folder.Native("Music/..")));
+  EXPECT_FALSE(otherCase.IsMissing(""));
+}
+
+TEST_F(OtherCase, AFileIsNotCalledMissingInAFolderThatCannotBeRead) {
+  folder.Write("Music/Song.lrc");
+  ASSERT_EQ(chmod(folder.Native("").c_str(), 0755), 0);
+  ASSERT_EQ(chmod(folder.Native("Music").c_str(), 0311), 0);
+  {
+    const TCOrdinaryUser user;
+    EXPECT_FALSE(otherCase.IsMissing(folder.Native("Music/Song.lrc")));
+  }
+  ASSERT_EQ(chmod(folder.Native("Music").c_str(), 0755), 0);
+}
+
 TEST_F(OtherCase, AFolderThatAppearsIsSeen) {
   EXPECT_THAT(otherCase.Find(folder.Native("MUSIC/SONG.mp3")), IsEmpty());
   folder.Write("Music/song.mp3");
