@@ -41,9 +41,9 @@ class TCFileSystem {
   virtual void EndManyFiles() {}
 };
 
-// While one lives, a file that ReadFile is asked for may count as missing when it was missing in its folder a
-// moment before: opening a document asks for two lyric files of every song, most of them in vain. What the
-// file system remembers for it is dropped at the end.
+// While one lives, questions about one folder that come one after the other may be answered from one look
+// into it: opening a document asks for two lyric files of every song, most of them in vain. A file that
+// appears in that moment may not be seen. What the file system remembers for it is dropped at the end.
 class TCManyFiles {
  public:
   explicit TCManyFiles(TCFileSystem& fileSystem) : files(fileSystem) { files.BeginManyFiles(); }

@@ -80,6 +80,12 @@ bool TCFolderNames::StillHolds(const std::string& folder) const {
   return stamp == now && (settled || !now);
 }
 
+bool TCFolderNames::IsMissing(std::string_view name) const {
+  const bool ascii = std::all_of(name.begin(), name.end(),
+                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+  return ascii && complete && Matches(name).empty();
+}
+
 std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {
   std::vector<std::string> matches;
   const std::optional<std::uint32_t> hash = FoldedHash(name);

@@ -58,19 +58,15 @@ std::vector<std::string> TCOtherCase::Find(std::string_view native) {
   return found;
 }
 
-bool TCOtherCase::IsMissing(std::string_view native) {
-  const auto [folder, name] = Split(native);
-  const bool ascii = std::all_of(name.begin(), name.end(),
-                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-  if (!ascii || native.size() >= PATH_MAX || NamesNoEntry(name)) return false;
+const TCFolderNames* TCOtherCase::SoleNames(std::string_view folder) {
+  if (folder.size() >= PATH_MAX) return nullptr;
   MakeRoomFor(folder);
-
   const Moment now = clock();
   const std::vector<Folder*>& candidates = MeaningOf(folder, now).folders;
-  return std::all_of(candidates.begin(), candidates.end(), [&, missing = name](Folder* candidate) {
-    Check(*candidate, now);
-    return candidate->names.Complete() && candidate->names.Matches(missing).empty();
-  });
+  if (candidates.size() != 1 || candidates.front()->path != folder) return nullptr;
+  Folder& sole = *candidates.front();
+  Check(sole, now);
+  return sole.names.Complete() ? &sole.names : nullptr;
 }
 
 // Not where something points into the maps.

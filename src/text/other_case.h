@@ -28,10 +28,10 @@ class TCOtherCase {
   // it is there; the nearest first. Usually none.
   [[nodiscard]] std::vector<std::string> Find(std::string_view native);
 
-  // True when the folders' names, as far as they are trusted at this moment, say that nothing stands there
-  // under any case. False also when they cannot say: a folder cannot be read, or the name is not plain ASCII
-  // and the disk may hold other spellings of it for the same.
-  [[nodiscard]] bool IsMissing(std::string_view native);
+  // The names in `folder` (no trailing slash) when it stands there as written, no other folder answers to its
+  // name in other case, and all names in it could be read; null in every other case. What the names say holds
+  // for this moment; the pointer for as long as no other folder is asked about and nothing is forgotten.
+  [[nodiscard]] const TCFolderNames* SoleNames(std::string_view folder);
 
   // For after a change that this program made itself.
   void Forget();
