@@ -35,6 +35,24 @@ class TCFileSystem {
 
   // False when the file is still there afterwards.
   virtual bool DeleteFile(std::u16string_view path) = 0;
+
+  // From the first to the second many files are asked for at once: see TCManyFiles.
+  virtual void BeginManyFiles() {}
+  virtual void EndManyFiles() {}
+};
+
+// While one lives, questions about one folder that come one after the other may be answered from one look
+// into it: opening a document asks for two lyric files of every song, most of them in vain. A file that
+// appears in that moment may not be seen. What the file system remembers for it is dropped at the end.
+class TCManyFiles {
+ public:
+  explicit TCManyFiles(TCFileSystem& fileSystem) : files(fileSystem) { files.BeginManyFiles(); }
+  TCManyFiles(const TCManyFiles&) = delete;
+  TCManyFiles& operator=(const TCManyFiles&) = delete;
+  ~TCManyFiles() { files.EndManyFiles(); }
+
+ private:
+  TCFileSystem& files;
 };
 
 }  // namespace brevant

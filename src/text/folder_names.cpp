@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 #include <memory>
 
@@ -64,7 +65,9 @@ TCFolderNames TCFolderNames::Read(const std::string& folder) {
   if (!handle) return result;
 
   result.settled = std::time(nullptr) - result.stamp->seconds > kStampGrainSeconds;
+  errno = 0;
   while (const dirent* entry = readdir(handle.get())) result.Add(entry->d_name);
+  result.complete = errno == 0;
   std::sort(result.entries.begin(), result.entries.end(),
             [](const Entry& a, const Entry& b) { return a.hash < b.hash; });
   result.names.shrink_to_fit();
@@ -75,6 +78,12 @@ TCFolderNames TCFolderNames::Read(const std::string& folder) {
 bool TCFolderNames::StillHolds(const std::string& folder) const {
   const std::optional<Stamp> now = StampOf(folder);
   return stamp == now && (settled || !now);
+}
+
+bool TCFolderNames::IsMissing(std::string_view name) const {
+  const bool ascii = std::all_of(name.begin(), name.end(),
+                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+  return ascii && complete && Matches(name).empty();
 }
 
 std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {
