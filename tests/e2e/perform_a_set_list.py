@@ -12,6 +12,9 @@ RED, GREEN, AMBER = (255, 0, 0), (0, 255, 0), (255, 191, 0)  # played, playing, 
 FIRST_HEADER = "First Set - Total Playlist Time: 01:12"  # 9 + 2 + 8 + 8 seconds and three gaps of 15
 SECOND_HEADER = "Second Set - Total Playlist Time: 00:31"  # 8 + 8 seconds and one gap
 
+KEY_HELP = ("Play=ENTER, P, F5| Stop=S, F6, 6 | Pause Cont.=Spacebar | Playlist Prior=<- | Playlist Next=-> | "
+            "Song Prior=^ | Song Next=v | Select=RETURN | Properties=Q | Focus Manager=F2/2 | Focus Playlist=F3/3")
+
 
 class Evening:
     """The document: a tone of its own pitch for each song, a short one to hear the end of, and a song that is gone."""
@@ -83,6 +86,10 @@ class Stage:
         except AssertionError as failure:
             raise AssertionError(f"{failure}; the rows are {seen}") from None
 
+    def click_the_button(self, name):
+        left, top, width, height = tree.area(self.program.wait_for("push button", name))
+        screen.click(left + width // 2, top + height // 2)
+
     def wait_for_message(self, text, seconds=5):
         wait_for(f"the message display to show {text!r}", lambda: text in self.message(), seconds)
 
@@ -104,7 +111,7 @@ def opens_the_document(stage, evening):
     ], stage.rows()
     assert stage.header() == FIRST_HEADER, stage.header()
     assert stage.message().strip() == "...Brevant...", stage.message()
-    assert stage.program.find("label", None), "the status bar has no label"
+    assert stage.program.find("label", KEY_HELP), "the status bar does not show the key help"
     stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
 
 
@@ -112,6 +119,7 @@ def plays_pauses_and_stops(stage, listener):
     assert listener.silent(), "something sounds before Play"
     screen.press("Return")
     stage.wait_to_hear(440)
+    stage.program.wait_for("label", "Harbour Tone.wav")  # in the player pane
     assert stage.message() == "", f"Play left this in the message display: {stage.message()!r}"
 
     screen.press("space")
@@ -150,6 +158,18 @@ def a_song_runs_to_its_end(stage, listener):
     stage.wait_to_hear(550)
     screen.press("F6")
     stage.wait_for_silence()
+
+
+def plays_with_the_mouse(stage):
+    stage.click_the_button("Play")
+    stage.wait_to_hear(550)
+    stage.click_the_button("Pause")
+    stage.wait_for_silence()
+    stage.click_the_button("Pause")
+    stage.wait_to_hear(550)
+    stage.click_the_button("Stop")
+    stage.wait_for_silence()
+    stage.wait_for_colours(WHITE, RED, GREEN, AMBER)
 
 
 def a_lost_song_is_reported(stage, listener, evening):
@@ -192,33 +212,34 @@ def closes_and_writes_its_settings(stage, program, evening):
     assert "AutoSongAdvance=Yes" in settings, settings
 
 
-def perform(evening_flow):
-    evening = Evening(evening_flow.scratch / "set lists")
-    listener = evening_flow.listener
-    program = evening_flow.start(evening.document)
+def perform(rig):
+    evening = Evening(rig.scratch / "set lists")
+    listener = rig.listener
+    program = rig.start(evening.document)
     stage = Stage(program, listener)
     steps = (
         (lambda: opens_the_document(stage, evening), "opens the document named on the command line"),
         (lambda: plays_pauses_and_stops(stage, listener), "plays, pauses, continues and stops the first song"),
         (lambda: steps_through_the_songs(stage), "steps down and up"),
         (lambda: a_song_runs_to_its_end(stage, listener), "hears a song to its end, and the next becomes current"),
+        (lambda: plays_with_the_mouse(stage), "plays with the mouse in the player pane"),
         (lambda: a_lost_song_is_reported(stage, listener, evening), "is told of a lost song"),
         (lambda: goes_to_the_next_playlist(stage), "goes to the next playlist and back"),
         (lambda: closes_and_writes_its_settings(stage, program, evening), "closes"),
     )
     for action, sentence in steps:
-        evening_flow.step(sentence)
+        rig.step(sentence)
         action()
-        evening_flow.picture(sentence.split(",")[0].replace(" ", "-"))
+        rig.picture(sentence.split(",")[0].replace(" ", "-"))
 
-    evening_flow.step("starts again and finds the last document")
-    again = evening_flow.start()
+    rig.step("starts again and finds the last document")
+    again = rig.start()
     second = Stage(again, listener)
     second.dismiss_the_about_box()
     wait_for("the title", lambda: screen.active_window_title() == "Evening.brv - Brevant")
     assert second.header() == FIRST_HEADER, second.header()
     second.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
-    evening_flow.picture("the-second-start")
+    rig.picture("the-second-start")
     screen.press("alt+f")
     screen.press("x")
     status = again.exit_status()
