@@ -141,7 +141,7 @@ bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
 bool TCDocumentFile::LoadFlatDocument(std::string_view bytes) {
   store.groups.clear();
   NameIndex names(store);
-  TCSharedTexts texts;
+  TCSongTexts texts;
   VisitUtf16Lines(bytes, [&](std::u16string_view text) {
     const TCFlatLine line = ParseFlatLine(text);
     TCPlayListItem& song = names.PlaylistFor(line).items.emplace_back();

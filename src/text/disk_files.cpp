@@ -47,11 +47,11 @@ TCDiskFiles::TCDiskFiles(TCNativePaths nativePaths, TCOtherCase::Clock clock)
     : paths(std::move(nativePaths)), otherCase(std::move(clock)) {}
 
 bool TCDiskFiles::FileExists(std::u16string_view path) {
-  return OpenForReading(path).file.IsOpen();
+  return OpenForReading(path, Expect::Found).file.IsOpen();
 }
 
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
-  const OpenedFile opened = OpenForReading(path);
+  const OpenedFile opened = OpenForReading(path, Expect::Missing);
   if (!opened.file.IsOpen() || opened.size > maxBytes) return std::nullopt;
 
   // A file can grow or shrink while it is read, and some files of the system's say 0 and hold something. One
@@ -144,9 +144,9 @@ TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(int folder, const std::stri
   return opened;
 }
 
-TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path) {
+TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path, Expect expect) {
   if (manyFiles > 0) {
-    if (std::optional<OpenedFile> opened = OpenAtHand(path)) return *std::move(opened);
+    if (std::optional<OpenedFile> opened = OpenAtHand(path, expect)) return *std::move(opened);
   }
   const std::string native = paths.ToNative(path);
   OpenedFile opened = OpenRegularFile(AT_FDCWD, native);
@@ -159,18 +159,20 @@ TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path) {
   return opened;
 }
 
-std::optional<TCDiskFiles::OpenedFile> TCDiskFiles::OpenAtHand(std::u16string_view path) {
+std::optional<TCDiskFiles::OpenedFile> TCDiskFiles::OpenAtHand(std::u16string_view path, Expect expect) {
   std::size_t nameStart = path.size();
   while (nameStart > 0 && !EndsFolder(path[nameStart - 1])) --nameStart;
   if (nameStart < 2 || path[nameStart - 1] == u':') return std::nullopt;
-  if (path.substr(0, nameStart) != atHand.path) TakeFolder(path.substr(0, nameStart));
+  const std::u16string_view folder = path.substr(0, nameStart);
+  if (!std::equal(folder.begin(), folder.end(), atHand.path.begin(), atHand.path.end())) TakeFolder(folder);
   const std::string name = paths.ToNative(path.substr(nameStart));
   if (atHand.names == nullptr || name.empty()) return std::nullopt;
 
-  if (atHand.names->IsMissing(name)) return OpenedFile{{}, 0, true};
-  OpenedFile opened = OpenRegularFile(atHand.folder.Get(), name);
-  if (opened.nothingThere) return std::nullopt;  // it stands there in other case
-  return opened;
+  OpenedFile opened{{}, 0, true};
+  if (expect == Expect::Missing && atHand.names->IsMissing(name)) return opened;
+  opened = OpenRegularFile(atHand.folder.Get(), name);
+  if (!opened.nothingThere || atHand.names->IsMissing(name)) return opened;
+  return std::nullopt;  // it stands there in other case
 }
 
 void TCDiskFiles::TakeFolder(std::u16string_view folder) {

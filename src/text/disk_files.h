@@ -50,9 +50,12 @@ class TCDiskFiles final : public TCFileSystem {
   void ForgetFolders();
   // Relative to `folder`, which can be AT_FDCWD.
   [[nodiscard]] static OpenedFile OpenRegularFile(int folder, const std::string& native);
-  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path);
+  // Decides what is asked first, the disk or the names that are known.
+  enum class Expect { Found, Missing };
+
+  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path, Expect expect);
   // Empty when the folder at hand cannot tell.
-  [[nodiscard]] std::optional<OpenedFile> OpenAtHand(std::u16string_view path);
+  [[nodiscard]] std::optional<OpenedFile> OpenAtHand(std::u16string_view path, Expect expect);
   void TakeFolder(std::u16string_view folder);
   // The name under which something stands there: `native`, or its like in other case, or else `native` within
   // the folder that answers to its folder's name.

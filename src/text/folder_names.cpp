@@ -37,7 +37,8 @@ std::optional<std::uint32_t> FoldedHash(std::string_view name) {
   constexpr std::uint32_t kSeed = 2166136261U;
   std::uint32_t hash = kSeed;
   const bool ascii = std::all_of(name.begin(), name.end(), [&hash](char byte) {
-    hash = AddToHash(hash, ToLower(static_cast<unsigned char>(byte)));
+    hash = AddToHash(hash, byte >= 'A' && byte <= 'Z' ? static_cast<char16_t>(byte - 'A' + 'a')
+                                                      : static_cast<unsigned char>(byte));
     return static_cast<unsigned char>(byte) < 0x80;
   });
   if (ascii) return hash;
@@ -50,6 +51,7 @@ std::optional<std::uint32_t> FoldedHash(std::string_view name) {
 }
 
 bool SameFolded(std::string_view a, std::string_view b) {
+  if (a == b) return true;
   const std::optional<std::u16string> left = DecodeUtf8(a);
   const std::optional<std::u16string> right = DecodeUtf8(b);
   return left && right && EqualIgnoringCase(*left, *right);

@@ -1,6 +1,7 @@
 // Text that never changes and is shared by its copies: thousands of songs in one folder hold its name once.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <string>
@@ -55,15 +56,17 @@ class TCSharedText {
 class TCSharedTexts {
  public:
   [[nodiscard]] TCSharedText Share(std::u16string_view text) {
+    if (std::equal(text.begin(), text.end(), last.str().begin(), last.str().end())) return last;
     const auto known = texts.find(text);
-    if (known != texts.end()) return known->second;
-    const TCSharedText shared{std::u16string(text)};
-    texts.emplace(shared.str(), shared);
-    return shared;
+    if (known != texts.end()) return last = known->second;
+    last = TCSharedText(std::u16string(text));
+    texts.emplace(last.str(), last);
+    return last;
   }
 
  private:
   std::unordered_map<std::u16string_view, TCSharedText> texts;  // the keys stand in the values
+  TCSharedText last;                                            // songs of one folder often stand together
 };
 
 }  // namespace brevant

@@ -83,7 +83,7 @@ TEST(SetListTest, APathIsCutIntoFolderNameAndType) {
 }
 
 TEST(SetListTest, SongsOfOneFolderShareItsText) {
-  TCSharedTexts texts;
+  TCSongTexts texts;
   TCPlayListItem first;
   first.SetPath(u"C:\\Music\\a.mp3", texts);
   TCPlayListItem elsewhere;
