@@ -66,6 +66,20 @@ TCPlayListItem* TCSetListStore::SongAt(std::int32_t song) {
   return &CurrentPlaylist()->items[static_cast<std::size_t>(song)];
 }
 
+const TCPlayListItem* TCSetListStore::FindSongByPath(std::u16string_view path) const {
+  for (const TCPlayGroups& group : groups) {
+    for (const TCPlayList& playlist : group.playlists) {
+      for (const TCPlayListItem& song : playlist.items) {
+        if (path.ends_with(song.fileName) &&
+            path.substr(0, path.size() - song.fileName.size()) == std::u16string_view(song.folder)) {
+          return &song;
+        }
+      }
+    }
+  }
+  return nullptr;
+}
+
 TCTreeNode TCSetListStore::GetSongTreeNode(std::int32_t song) const {
   if (!IsValidSongIndex(song)) return TCTreeNode::None;
   const TCPlayGroups& group = groups[static_cast<std::size_t>(currentGroup)];
