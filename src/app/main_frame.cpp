@@ -29,10 +29,12 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
       view(new TCBrevantView(inner)),
       playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
       messageDisplay(new TCGeneralReportsTab(inner)),
+      playControls(new TCPlayControlsBar(this)),
       statusLine(new TCStatusLine(this)) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
   menuBar()->setAccessibleName(ToQString(TextOf(TCTextId::MainToolbar)));
+  addToolBar(Qt::TopToolBarArea, playControls);
   setStatusBar(statusLine);
   // By itself a main window is always a window of its own, whatever its parent.
   inner->setWindowFlags(Qt::Widget);
@@ -45,6 +47,7 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
   messageDock = AddPane(TCCommandId::MessagePane, TCTextId::MessagePaneTitle, *messageDisplay);
   ArrangePanes();
 
+  connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
   view->SetRowPicture(PictureIcon(kRowIcon));
   player.SetVolume(kFullVolume);
   messageDisplay->Enable(kMessageLines);

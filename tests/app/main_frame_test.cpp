@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTemporaryDir>
+#include <limits>
 
 #include "app/stage_palette.h"
 #include "support/fake_player.h"
@@ -119,6 +120,28 @@ TEST_F(MainFrame, FontsFollowTheSettings) {
   frame.ShowOptions();
   EXPECT_EQ(frame.PlaylistView().font().pointSize(), 31);
   EXPECT_EQ(frame.MessageDisplay().font().pointSize(), 27);
+}
+
+TEST_F(MainFrame, AFontOfAnySizeLeavesTheDisplaysUsable) {
+  frame.show();
+  const int screenHeight = frame.screen()->availableGeometry().height();
+  for (const std::int32_t points : {0, -5, 1, 100000, std::numeric_limits<std::int32_t>::min(),
+                                    std::numeric_limits<std::int32_t>::max()}) {
+    settings.playListFontSize = points;
+    settings.lyricsFontSize = points;
+    frame.ShowOptions();
+    frame.MessageDisplay().Append(u"\tA line of lyrics");
+    for (const QWidget* display :
+         {static_cast<QWidget*>(&frame.PlaylistView()), static_cast<QWidget*>(&frame.MessageDisplay())}) {
+      EXPECT_GE(display->font().pointSize(), 1) << points;
+      EXPECT_LE(display->fontMetrics().lineSpacing(), screenHeight) << points;
+    }
+    EXPECT_EQ(settings.lyricsFontSize, points) << "the setting keeps what was entered";
+  }
+}
+
+TEST_F(MainFrame, ThePlayControlsStandAtTheTop) {
+  EXPECT_EQ(frame.toolBarArea(&frame.PlayControls()), Qt::TopToolBarArea);
 }
 
 TEST_F(MainFrame, APointedAtMenuEntryIsExplainedInTheStatusBar) {
