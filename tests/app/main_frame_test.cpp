@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <limits>
 
 #include "app/stage_palette.h"
@@ -138,6 +139,37 @@ TEST_F(MainFrame, AFontOfAnySizeLeavesTheDisplaysUsable) {
     }
     EXPECT_EQ(settings.lyricsFontSize, points) << "the setting keeps what was entered";
   }
+}
+
+// What stands in a pane, from the first visible line on.
+QStringList VisibleLines(const TCGeneralReportsTab& pane) {
+  QStringList lines;
+  QTextBlock block = pane.cursorForPosition(QPoint(0, 0)).block();
+  // A line counts when it is seen whole.
+  for (; block.isValid(); block = block.next()) {
+    const QRect place = pane.cursorRect(QTextCursor(block));
+    if (place.top() >= 0 && place.bottom() <= pane.viewport()->height()) lines.append(block.text());
+  }
+  return lines;
+}
+
+TEST_F(MainFrame, ThreeLyricLinesOfTheUsualSizeAreSeenAtOnce) {
+  frame.resize(1600, 1000);
+  frame.show();
+  frame.MessageDisplay().Clear();
+  for (const std::u16string_view line : {u"First line,", u"second line", u"and third."}) {
+    frame.MessageDisplay().Append(u"\r\n");
+    frame.MessageDisplay().Append(std::u16string(u"\t").append(line));
+  }
+  const QStringList seen = VisibleLines(frame.MessageDisplay());
+  for (const char* line : {"\tFirst line,", "\tsecond line", "\tand third."}) {
+    EXPECT_TRUE(seen.contains(QLatin1String(line))) << line;
+  }
+}
+
+TEST_F(MainFrame, TheBottomPanesHaveAThirdOfATallWindow) {
+  frame.show();
+  EXPECT_NEAR(frame.PlayerPane().parentWidget()->height(), frame.height() / 3, 2);
 }
 
 TEST_F(MainFrame, ThePlayControlsStandAtTheTop) {
