@@ -21,11 +21,36 @@ namespace {
 void CheckPacking(const TextLines& lines) {
   TCLyricSheet sheet;
   for (const std::u16string& line : lines) ParseLyricLine(line, sheet);
+  // The texts of the lines once more, as texts of any kind.
+  for (const std::u16string& line : lines) sheet.Add({line, -5, static_cast<std::int32_t>(line.size()), 2});
   const TCSongLyrics packed(sheet);
   MustHold(packed.Headers() == sheet.headers, "header values come back as they were read");
   MustHold(packed.LineCount() == sheet.lines.size(), "every line is packed");
+  const std::vector<TCLyric> unpacked = packed.LinesFrom(0, sheet.lines.size());
   for (std::size_t i = 0; i < sheet.lines.size(); ++i) {
-    MustHold(packed.LineAt(i) == sheet.lines[i], "a line comes back as it was read");
+    MustHold(unpacked[i].start == sheet.lines[i].start && unpacked[i].end == sheet.lines[i].end &&
+                 unpacked[i].singer == sheet.lines[i].singer,
+             "a line comes back as it was read");
+  }
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    MustHold(unpacked[unpacked.size() - lines.size() + i].text == lines[i], "a text comes back as it was");
+  }
+}
+
+// Lines are cut and understood as bytes where that makes no difference.
+void CheckWidths(std::string_view bytes) {
+  TCMemoryFiles files;
+  files.Put(u"song.lrc", std::string(bytes));
+  TCSongLyrics loaded;
+  MustHold(LoadLyrics(files, u"song.mp3", loaded), "a lyric file is read whatever it holds");
+  TCLyricSheet sheet;
+  for (const std::u16string& line : SplitAnsiLines(bytes)) ParseLyricLine(line, sheet);
+  const std::vector<TCLyric> lines = TCSongLyrics(sheet).LinesFrom(0, sheet.lines.size());
+  MustHold(loaded.LineCount() == lines.size() && loaded.Headers() == sheet.headers,
+           "both widths give the same lines");
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const TCLyric line = loaded.LineAt(i);
+    MustHold(line.text == lines[i].text && line.singer == lines[i].singer, "both widths give the same texts");
   }
 }
 
@@ -62,6 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   CheckPacking(SplitAnsiLines(bytes));
   CheckPacking(SplitUtf16Lines(bytes));
+  CheckWidths(bytes);
   CheckLoading(u"song.lrc", bytes);
   CheckLoading(u"song.lrcx", bytes);
   return 0;

@@ -39,8 +39,8 @@ def main():
 
 namespace brevant {{
 
-// The letters first, first + step, ... last; adding `delta` (modulo 2^16) makes each lower-case. Sorted, and no
-// two runs overlap.
+// The letters first, first + step, ... last; adding `delta` (modulo 2^16) makes each lower-case. Sorted, and
+// no two runs overlap.
 struct CaseRun {{
   char16_t first;
   char16_t last;
@@ -49,10 +49,12 @@ struct CaseRun {{
 }};
 """)
     table = runs(lower_case_pairs())
+    cells = [f"{{0x{first:04X}, 0x{last:04X}, {step}, 0x{delta:04X}}}," for first, last, step, delta in table]
+    print("// clang-format off")
     print(f"inline constexpr std::array<CaseRun, {len(table)}> kCaseRuns = {{{{")
-    for first, last, step, delta in table:
-        print(f"    {{0x{first:04X}, 0x{last:04X}, {step}, 0x{delta:04X}}},")
-    print("}};\n\n}  // namespace brevant")
+    for start in range(0, len(cells), 3):
+        print("    " + " ".join(cells[start:start + 3]))
+    print("}};\n// clang-format on\n\n}  // namespace brevant")
 
 
 if __name__ == "__main__":

@@ -94,7 +94,8 @@ void TCBrevantApp::LoadLastFile() {
 
 void TCBrevantApp::EndSession() {
   closeGuard.EndSession();
-  QCoreApplication::quit();
+  // Not quit(): that would ask the window first, and the window would ask the user.
+  QCoreApplication::exit(0);
 }
 
 }  // namespace brevant

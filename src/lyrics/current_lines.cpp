@@ -1,5 +1,6 @@
 #include "lyrics/current_lines.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace brevant {
@@ -10,13 +11,8 @@ std::int32_t FindLyricLines(const TCSongLyrics& lyrics, std::vector<TCLyric>& ou
   const std::int32_t current = lyrics.FindLineAt(timeMs);
   if (current < 0) return -1;
 
-  const auto first = static_cast<std::size_t>(current);
-  out.push_back(lyrics.LineAt(first));
-  // Asked for as a count of its own, never as first + lineCount: the setting is not range-limited.
-  for (std::size_t line = first + 1; line < lyrics.LineCount(); ++line) {
-    if (static_cast<std::int64_t>(out.size()) >= lineCount) break;
-    out.push_back(lyrics.LineAt(line));
-  }
+  const std::int32_t count = std::max(lineCount, 1);
+  out = lyrics.LinesFrom(static_cast<std::size_t>(current), static_cast<std::size_t>(count));
   return current;
 }
 

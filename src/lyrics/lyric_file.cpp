@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "lyrics/lyric_text.h"
 #include "text/numbers.h"
 #include "text/path_parts.h"
 #include "text/text_lines.h"
@@ -13,58 +14,119 @@ namespace brevant {
 
 namespace {
 
-constexpr std::size_t kNone = std::u16string_view::npos;
+// The rules are written for both widths of text: a file in UTF-8, as nearly all are, is read without turning
+// it into UTF-16 and back. What they look for is ASCII, one unit in either.
+template <class Char>
+using View = std::basic_string_view<Char>;
+
+constexpr std::size_t kNone = std::string_view::npos;
 
 std::int32_t Clamp32(std::int64_t value) {
   using Limits = std::numeric_limits<std::int32_t>;
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
-bool Contains(std::u16string_view text, std::u16string_view part) {
-  return text.find(part) != kNone;
+template <class Char>
+bool Contains(View<Char> text, std::string_view ascii) {
+  return std::search(text.begin(), text.end(), ascii.begin(), ascii.end()) != text.end();
 }
 
 // A tag is tested for these in this order, and the first that stands anywhere in it decides. "id:" and "ar:"
 // both name the artist.
 struct HeaderTag {
-  std::u16string_view mark;
+  std::string_view mark;
   std::u16string TCLyricHeaders::*value;
 };
 constexpr std::array<HeaderTag, 10> kHeaderTags = {{
-    {u"id:", &TCLyricHeaders::artist},
-    {u"ti:", &TCLyricHeaders::title},
-    {u"ar:", &TCLyricHeaders::artist},
-    {u"al:", &TCLyricHeaders::album},
-    {u"by:", &TCLyricHeaders::lyricWriter},
-    {u"au:", &TCLyricHeaders::songCreator},
-    {u"re:", &TCLyricHeaders::editor},
-    {u"ve:", &TCLyricHeaders::version},
-    {u"length:", &TCLyricHeaders::length},
-    {u"offset:", &TCLyricHeaders::offset},
+    {"id:", &TCLyricHeaders::artist},
+    {"ti:", &TCLyricHeaders::title},
+    {"ar:", &TCLyricHeaders::artist},
+    {"al:", &TCLyricHeaders::album},
+    {"by:", &TCLyricHeaders::lyricWriter},
+    {"au:", &TCLyricHeaders::songCreator},
+    {"re:", &TCLyricHeaders::editor},
+    {"ve:", &TCLyricHeaders::version},
+    {"length:", &TCLyricHeaders::length},
+    {"offset:", &TCLyricHeaders::offset},
 }};
 
 // Every mark of the list ends with a lower-case letter and a colon. Nearly every tag is a time, in which no
 // such pair stands, and need not be searched ten times.
-bool MayHoldHeaderMark(std::u16string_view tag) {
-  for (std::size_t colon = tag.find(u':', 1); colon != kNone; colon = tag.find(u':', colon + 1)) {
-    if (tag[colon - 1] >= u'a' && tag[colon - 1] <= u'z') return true;
+template <class Char>
+bool MayHoldHeaderMark(View<Char> tag) {
+  for (std::size_t colon = tag.find(':', 1); colon != kNone; colon = tag.find(':', colon + 1)) {
+    if (tag[colon - 1] >= 'a' && tag[colon - 1] <= 'z') return true;
   }
   return false;
 }
 
-const HeaderTag* FindHeaderTag(std::u16string_view tag) {
+template <class Char>
+const HeaderTag* FindHeaderTag(View<Char> tag) {
   if (!MayHoldHeaderMark(tag)) return nullptr;
   const auto* known = std::find_if(kHeaderTags.begin(), kHeaderTags.end(),
                                    [tag](const HeaderTag& header) { return Contains(tag, header.mark); });
   return known == kHeaderTags.end() ? nullptr : known;
 }
 
-std::int32_t SingerOf(std::u16string_view text) {
-  if (text.find(u':') == kNone) return 0;
-  if (Contains(text, u"F:")) return 2;
-  if (Contains(text, u"M:")) return 1;
-  if (Contains(text, u"D:")) return 3;
+// The mark is taken to stand first, as the '[' is.
+template <class Char>
+View<Char> HeaderValue(View<Char> tag, const HeaderTag& header) {
+  return tag.substr(std::min(tag.size(), header.mark.size()));
+}
+
+template <class Char>
+std::int32_t SingerOf(View<Char> text) {
+  if (text.find(':') == kNone) return 0;
+  if (Contains(text, "F:")) return 2;
+  if (Contains(text, "M:")) return 1;
+  if (Contains(text, "D:")) return 3;
   return 0;
+}
+
+template <class Char>
+std::int32_t TimeOf(View<Char> tag) {
+  const std::size_t colon = tag.find(':');
+  if (colon == kNone) return 0;
+  const View<Char> rest = tag.substr(colon + 1);
+  const std::size_t point = rest.find('.');
+
+  const std::int64_t minutes = ReadDecimal(tag.substr(0, colon)).value_or(0);
+  const std::int64_t seconds = ReadDecimal(rest.substr(0, point)).value_or(0);
+  const std::int64_t fraction = point == kNone ? 0 : ReadDecimal(rest.substr(point + 1)).value_or(0);
+  return Clamp32((minutes * 60 + seconds) * 1000 + fraction);
+}
+
+// Of several time tags the first counts; the text stands behind the last.
+template <class Char>
+View<Char> TextBehindTags(View<Char> rest) {
+  for (std::size_t tagEnd = rest.find(']'); tagEnd != kNone; tagEnd = rest.find(']')) {
+    rest.remove_prefix(tagEnd + 1);
+  }
+  return rest;
+}
+
+// The '[' is taken to stand first: whatever stands there is dropped, so a line with something in front of its
+// '[' gives a garbled tag.
+template <class Char>
+View<Char> TagIn(View<Char> line, std::size_t tagEnd) {
+  return line.substr(0, tagEnd).substr(std::min<std::size_t>(tagEnd, 1));
+}
+
+void ParseByteLine(std::string_view line, TCLyricSheet& sheet) {
+  if (line.find('[') == kNone) return;
+  const std::size_t tagEnd = line.find(']');
+  if (tagEnd == kNone) return;
+  const std::string_view tag = TagIn(line, tagEnd);
+  const bool ascii = std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(tagEnd),
+                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+  if (!ascii) return ParseLyricLine(DecodeLyricText(line), sheet);  // where units are counted, UTF-16 counts
+  if (const HeaderTag* header = FindHeaderTag(tag)) {
+    sheet.headers.*header->value = DecodeLyricText(HeaderValue(tag, *header));
+    return;
+  }
+
+  const std::string_view text = TextBehindTags(line.substr(tagEnd + 1));
+  sheet.Add(text, TimeOf(tag), kEndOfLyrics, SingerOf(text));
 }
 
 // Every line ends where the next one begins. All but the last are moved by the offset; the last keeps its
@@ -78,14 +140,20 @@ void SetLineEnds(TCLyricSheet& sheet) {
   }
 }
 
+void ReadSheet(std::string_view bytes, TCLyricSheet& sheet) {
+  sheet.text.reserve(bytes.size());
+  sheet.lines.reserve(bytes.size() / 32);
+  if (VisitUtf8Lines(bytes, [&sheet](std::string_view line) { ParseByteLine(line, sheet); })) return;
+  VisitAnsiLines(bytes, [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); });
+}
+
 bool ReadSheet(TCFileSystem& files, std::u16string_view songPath, TCLyricSheet& sheet) {
-  const LineVisitor parse = [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); };
   if (const auto bytes = files.ReadFile(ReplaceExtension(songPath, u"lrc"), kMaxLyricFileBytes)) {
-    VisitAnsiLines(*bytes, parse);
+    ReadSheet(*bytes, sheet);
     return true;
   }
   if (const auto bytes = files.ReadFile(ReplaceExtension(songPath, u"lrcx"), kMaxLyricFileBytes)) {
-    VisitUtf16Lines(*bytes, parse);
+    VisitUtf16Lines(*bytes, [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); });
     return true;
   }
   return false;
@@ -106,34 +174,18 @@ void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {
   if (line.find(u'[') == kNone) return;
   const std::size_t tagEnd = line.find(u']');
   if (tagEnd == kNone) return;
-
-  // The '[' is taken to stand first: whatever stands there is dropped, so a line with something in front of
-  // its '[' gives a garbled tag.
-  const std::u16string_view tag = line.substr(0, tagEnd).substr(std::min<std::size_t>(tagEnd, 1));
-  const std::u16string_view rest = line.substr(tagEnd + 1);
-
+  const std::u16string_view tag = TagIn(line, tagEnd);
   if (const HeaderTag* header = FindHeaderTag(tag)) {
-    // By its length: the mark itself is taken to stand first, as the '[' is.
-    sheet.headers.*header->value = tag.substr(std::min(tag.size(), header->mark.size()));
+    sheet.headers.*header->value = HeaderValue(tag, *header);
     return;
   }
 
-  // Of several time tags the first counts; the text stands behind the last.
-  const std::size_t lastTagEnd = rest.rfind(u']');
-  const std::u16string_view text = lastTagEnd == kNone ? rest : rest.substr(lastTagEnd + 1);
-  sheet.lines.push_back({std::u16string(text), ParseLyricTime(tag), kEndOfLyrics, SingerOf(text)});
+  const std::u16string_view text = TextBehindTags(line.substr(tagEnd + 1));
+  sheet.Add({std::u16string(text), TimeOf(tag), kEndOfLyrics, SingerOf(text)});
 }
 
 std::int32_t ParseLyricTime(std::u16string_view tag) {
-  const std::size_t colon = tag.find(u':');
-  if (colon == kNone) return 0;
-  const std::u16string_view rest = tag.substr(colon + 1);
-  const std::size_t point = rest.find(u'.');
-
-  const std::int64_t minutes = ReadDecimal(tag.substr(0, colon)).value_or(0);
-  const std::int64_t seconds = ReadDecimal(rest.substr(0, point)).value_or(0);
-  const std::int64_t fraction = point == kNone ? 0 : ReadDecimal(rest.substr(point + 1)).value_or(0);
-  return Clamp32((minutes * 60 + seconds) * 1000 + fraction);
+  return TimeOf(tag);
 }
 
 }  // namespace brevant

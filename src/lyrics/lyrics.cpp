@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
-#include <string_view>
+#include <utility>
 
-#include "text/unicode.h"
+#include "lyrics/lyric_text.h"
 
 namespace brevant {
 
@@ -33,134 +32,159 @@ constexpr std::array<HeaderField, kHeaderCount> kHeaderFields = {
     &TCLyricHeaders::editor,      &TCLyricHeaders::version, &TCLyricHeaders::offset,
 };
 
-enum class Encoding : std::uint8_t { Utf8, Utf16 };
+// How a sheet is packed, all in one block: the number of lines; the header values; the lines, one behind the
+// other. Numbers take as many bytes as they need, seven bits in each, the lowest first; a text stands behind
+// its length. A line says how far its start is from the end of the line before it, nearly always 0, how long
+// it lasts, its text's length and singer in one number, and its text.
 
-std::u16string Decode(std::string_view bytes, Encoding encoding) {
-  if (encoding == Encoding::Utf8) return DecodeUtf8(bytes).value_or(std::u16string());
-  std::u16string text(bytes.size() / sizeof(char16_t), u'\0');
-  if (!text.empty()) std::memcpy(text.data(), bytes.data(), bytes.size());
-  return text;
+void PutNumber(std::string& block, std::uint64_t number) {
+  for (; number >= 0x80; number >>= 7) block.push_back(static_cast<char>(0x80U | (number & 0x7FU)));
+  block.push_back(static_cast<char>(number));
 }
 
-struct EncodedSize {
-  std::size_t utf8 = 0;
-  std::size_t utf16 = 0;
-  bool lossless = true;  // as UTF-8
+// Numbers near 0 are small whatever their sign.
+void PutSigned(std::string& block, std::int64_t number) {
+  const auto bits = static_cast<std::uint64_t>(number);
+  PutNumber(block, number < 0 ? ~(bits << 1) : bits << 1);
+}
 
-  void Add(std::u16string_view text) {
-    utf16 += text.size() * sizeof(char16_t);
-    std::size_t at = 0;
-    while (at < text.size() && text[at] < 0x80) ++at;
-    utf8 += at;
-    for (; at < text.size(); ++at) {
-      const char16_t unit = text[at];
-      if ((unit & 0xF800) != 0xD800) {
-        utf8 += unit < 0x80 ? 1 : unit < 0x800 ? 2 : 3;
-        continue;
-      }
-      const bool pair = (unit & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
-      lossless = lossless && pair;
-      utf8 += 4;
-      ++at;
+class Reader {
+ public:
+  explicit Reader(const char* block) : at(block) {}
+
+  std::uint64_t TakeNumber() {
+    std::uint64_t number = 0;
+    for (unsigned shift = 0;; shift += 7) {
+      const auto byte = static_cast<std::uint8_t>(*at++);
+      number |= static_cast<std::uint64_t>(byte & 0x7FU) << shift;
+      if (byte < 0x80) return number;
     }
   }
+  std::int64_t TakeSigned() {
+    const std::uint64_t number = TakeNumber();
+    return static_cast<std::int64_t>((number & 1U) != 0 ? ~(number >> 1) : number >> 1);
+  }
+  std::string_view TakeText(std::size_t length) {
+    const std::string_view text(at, length);
+    at += length;
+    return text;
+  }
+
+ private:
+  const char* at;
 };
 
-EncodedSize Measure(const TCLyricSheet& sheet) {
-  EncodedSize size;
-  for (const HeaderField field : kHeaderFields) size.Add(sheet.headers.*field);
-  for (const TCLyric& line : sheet.lines) size.Add(line.text);
-  return size;
+// Takes the lines of a block one after the other.
+class LineReader {
+ public:
+  explicit LineReader(const char* block) : reader(block), left(reader.TakeNumber()) {
+    for (std::size_t header = 0; header < kHeaderCount; ++header) reader.TakeText(reader.TakeNumber());
+  }
+
+  // False behind the last line.
+  bool Next() {
+    if (left == 0) return false;
+    --left;
+    start = static_cast<std::int32_t>(end + reader.TakeSigned());
+    end = static_cast<std::int32_t>(start + reader.TakeSigned());
+    const std::uint64_t lengthAndSinger = reader.TakeNumber();
+    singer = static_cast<std::int32_t>(lengthAndSinger & 3U);
+    text = reader.TakeText(lengthAndSinger >> 2);
+    return true;
+  }
+
+  [[nodiscard]] bool IsCurrentAt(std::int32_t timeMs) const { return start <= timeMs && timeMs < end; }
+  [[nodiscard]] TCLyric Line() const { return {DecodeLyricText(text), start, end, singer}; }
+
+ private:
+  Reader reader;
+  std::uint64_t left = 0;
+  std::int32_t start = 0;
+  std::int32_t end = 0;
+  std::int32_t singer = 0;
+  std::string_view text;
+};
+
+std::string Pack(const TCLyricSheet& sheet) {
+  std::string block;
+  block.reserve(sheet.text.size() + 8 * sheet.lines.size() + 128);
+  PutNumber(block, sheet.lines.size());
+  std::string value;
+  for (const HeaderField field : kHeaderFields) {
+    value.clear();
+    EncodeLyricText(value, sheet.headers.*field);
+    PutNumber(block, value.size());
+    block += value;
+  }
+  std::size_t textBegin = 0;
+  std::int64_t previousEnd = 0;
+  for (const TCLyricSheet::Line& line : sheet.lines) {
+    const bool known = line.singer >= 0 && line.singer <= 3;
+    const std::size_t length = line.textEnd - textBegin;
+    PutSigned(block, line.start - previousEnd);
+    PutSigned(block, std::int64_t{line.end} - line.start);
+    PutNumber(block, std::uint64_t{length} << 2 | (known ? static_cast<std::uint64_t>(line.singer) : 0));
+    block.append(sheet.text, textBegin, length);
+    textBegin = line.textEnd;
+    previousEnd = line.end;
+  }
+  return block;
 }
 
 }  // namespace
 
-// One text for all header values and lines, and a record of twelve bytes a line. Each piece of the text
-// begins where the one before it ended.
-struct TCSongLyrics::Packed {
-  struct Line {
-    std::int32_t start = 0;
-    std::int32_t end = 0;
-    std::uint32_t textEnd : 30 = 0;
-    std::uint32_t singer : 2 = 0;
-  };
+void TCLyricSheet::Add(const TCLyric& line) {
+  EncodeLyricText(text, line.text);
+  lines.push_back({line.start, line.end, line.singer, text.size()});
+}
 
-  explicit Packed(const TCLyricSheet& sheet) {
-    // UTF-8 holds most lyrics in half the room. UTF-16 is taken where it is smaller, and where UTF-8 would
-    // lose half a surrogate pair.
-    const EncodedSize size = Measure(sheet);
-    encoding = size.lossless && size.utf8 <= size.utf16 ? Encoding::Utf8 : Encoding::Utf16;
-    text.reserve(std::min<std::size_t>(encoding == Encoding::Utf8 ? size.utf8 : size.utf16, kMaxTextBytes));
-    for (std::size_t header = 0; header < kHeaderCount; ++header) {
-      headerEnds[header] = Append(sheet.headers.*kHeaderFields[header]);
-    }
-    lines.reserve(sheet.lines.size());
-    for (const TCLyric& line : sheet.lines) {
-      Line& record = lines.emplace_back();
-      record.start = line.start;
-      record.end = line.end;
-      record.textEnd = Append(line.text) & kMaxTextBytes;
-      record.singer = line.singer < 0 || line.singer > 3 ? 0 : static_cast<std::uint32_t>(line.singer) & 3U;
-    }
-  }
-
-  [[nodiscard]] std::u16string HeaderText(std::size_t header) const {
-    return Piece(header == 0 ? 0 : headerEnds[header - 1], headerEnds[header]);
-  }
-  [[nodiscard]] std::u16string LineText(std::size_t index) const {
-    return Piece(index == 0 ? headerEnds.back() : lines[index - 1].textEnd, lines[index].textEnd);
-  }
-
-  std::vector<Line> lines;
-
- private:
-  // What 30 bits can address. A lyric file is far smaller; a text that would go past is left out.
-  static constexpr std::uint32_t kMaxTextBytes = (std::uint32_t{1} << 30) - 1;
-
-  std::uint32_t Append(std::u16string_view piece) {
-    const std::size_t begin = text.size();
-    if (encoding == Encoding::Utf8) {
-      AppendUtf8(text, piece);
-    } else {
-      text.append(reinterpret_cast<const char*>(piece.data()), piece.size() * sizeof(char16_t));
-    }
-    if (text.size() > kMaxTextBytes) text.resize(begin);
-    return static_cast<std::uint32_t>(text.size());
-  }
-  [[nodiscard]] std::u16string Piece(std::size_t begin, std::size_t end) const {
-    return Decode(std::string_view(text).substr(begin, end - begin), encoding);
-  }
-
-  std::string text;
-  std::array<std::uint32_t, kHeaderCount> headerEnds{};
-  Encoding encoding = Encoding::Utf8;
-};
+void TCLyricSheet::Add(std::string_view utf8, std::int32_t start, std::int32_t end, std::int32_t singer) {
+  text += utf8;
+  lines.push_back({start, end, singer, text.size()});
+}
 
 TCSongLyrics::TCSongLyrics(const TCLyricSheet& sheet) {
   if (sheet.lines.empty() && sheet.headers == TCLyricHeaders()) return;
-  packed = std::make_shared<const Packed>(sheet);
+  const std::string block = Pack(sheet);
+  const std::shared_ptr<char[]> copy = std::make_shared<char[]>(block.size());
+  std::copy(block.begin(), block.end(), copy.get());
+  packed = copy;
 }
 
 std::size_t TCSongLyrics::LineCount() const {
-  return packed ? packed->lines.size() : 0;
+  return packed ? Reader(packed.get()).TakeNumber() : 0;
 }
 
 TCLyric TCSongLyrics::LineAt(std::size_t index) const {
-  if (index >= LineCount()) return {};
-  const Packed::Line& line = packed->lines[index];
-  return {packed->LineText(index), line.start, line.end, static_cast<std::int32_t>(line.singer)};
+  std::vector<TCLyric> lines = LinesFrom(index, 1);
+  return lines.empty() ? TCLyric() : std::move(lines.front());
+}
+
+std::vector<TCLyric> TCSongLyrics::LinesFrom(std::size_t first, std::size_t count) const {
+  std::vector<TCLyric> lines;
+  if (!packed) return lines;
+  LineReader reader(packed.get());
+  for (std::size_t index = 0; lines.size() < count && reader.Next(); ++index) {
+    if (index >= first) lines.push_back(reader.Line());
+  }
+  return lines;
 }
 
 std::int32_t TCSongLyrics::FindLineAt(std::int32_t timeMs) const {
-  for (std::size_t index = 0; index < LineCount(); ++index) {
-    const Packed::Line& line = packed->lines[index];
-    if (line.start <= timeMs && timeMs < line.end) return static_cast<std::int32_t>(index);
+  if (!packed) return -1;
+  LineReader reader(packed.get());
+  for (std::int32_t index = 0; reader.Next(); ++index) {
+    if (reader.IsCurrentAt(timeMs)) return index;
   }
   return -1;
 }
 
 std::u16string TCSongLyrics::HeaderAt(std::size_t header) const {
-  return packed ? packed->HeaderText(header) : std::u16string();
+  if (!packed) return {};
+  Reader reader(packed.get());
+  reader.TakeNumber();  // of lines
+  for (std::size_t before = 0; before < header; ++before) reader.TakeText(reader.TakeNumber());
+  return DecodeLyricText(reader.TakeText(reader.TakeNumber()));
 }
 
 std::u16string TCSongLyrics::Artist() const {
@@ -202,10 +226,7 @@ TCLyricHeaders TCSongLyrics::Headers() const {
 bool operator==(const TCSongLyrics& a, const TCSongLyrics& b) {
   if (a.packed == b.packed) return true;
   if (a.LineCount() != b.LineCount() || a.Headers() != b.Headers()) return false;
-  for (std::size_t index = 0; index < a.LineCount(); ++index) {
-    if (a.LineAt(index) != b.LineAt(index)) return false;
-  }
-  return true;
+  return a.LinesFrom(0, a.LineCount()) == b.LinesFrom(0, b.LineCount());
 }
 
 }  // namespace brevant

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brevant {
@@ -39,15 +40,28 @@ struct TCLyricHeaders {
   friend bool operator==(const TCLyricHeaders&, const TCLyricHeaders&) = default;
 };
 
-// Lyric data while it is being read: lines in file order, never sorted.
+// Lyric data while it is being read: lines in file order, never sorted. Their texts stand one behind the
+// other in one, since a sheet is filled for every song of a document.
 struct TCLyricSheet {
-  std::vector<TCLyric> lines;
+  struct Line {
+    std::int32_t start = 0;
+    std::int32_t end = 0;
+    std::int32_t singer = 0;
+    std::size_t textEnd = 0;  // in `text`; it begins where the one before it ended
+  };
+
+  std::vector<Line> lines;
+  std::string text;  // as EncodeLyricText gives it
   TCLyricHeaders headers;
+
+  void Add(const TCLyric& line);
+  // `utf8` is valid UTF-8.
+  void Add(std::string_view utf8, std::int32_t start, std::int32_t end, std::int32_t singer);
 };
 
 // A finished sheet, packed: a value like any other, but copies share what they hold, since it never changes
 // and is only ever replaced whole. A set list of 100,000 songs keeps one of these in each of them, most of
-// them empty: an empty one is a null pointer.
+// them empty: an empty one is a null pointer. The lines are found by reading through what is packed.
 class TCSongLyrics {
  public:
   TCSongLyrics() = default;
@@ -59,6 +73,8 @@ class TCSongLyrics {
 
   // Line `index` in file order; a line without text and times when there is no such line.
   [[nodiscard]] TCLyric LineAt(std::size_t index) const;
+  // `count` lines from `first` on, as far as there are so many.
+  [[nodiscard]] std::vector<TCLyric> LinesFrom(std::size_t first, std::size_t count) const;
 
   // The first line with start <= timeMs < end, or -1. Unpacks no text.
   [[nodiscard]] std::int32_t FindLineAt(std::int32_t timeMs) const;
@@ -79,11 +95,9 @@ class TCSongLyrics {
   friend bool operator==(const TCSongLyrics& a, const TCSongLyrics& b);
 
  private:
-  struct Packed;
-
   [[nodiscard]] std::u16string HeaderAt(std::size_t header) const;
 
-  std::shared_ptr<const Packed> packed;
+  std::shared_ptr<const char[]> packed;
 };
 
 }  // namespace brevant

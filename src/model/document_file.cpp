@@ -14,14 +14,9 @@ namespace brevant {
 
 namespace {
 
-bool IsFolderForm(const TextLines& lines) {
-  return !lines.empty() &&
-         ToLower(lines.front()).find(TextOf(TCTextId::GroupListExtension)) != std::u16string::npos;
-}
-
-// A song may come first and make a folder document of a flat one; then its lines name no group lists.
-bool NamesGroupList(std::u16string_view line) {
-  return HasSetListFileType(line) && line.find(u'"') == std::u16string_view::npos;
+// Decided by the first line alone.
+bool IsFolderForm(std::u16string_view firstLine) {
+  return ToLower(firstLine).find(TextOf(TCTextId::GroupListExtension)) != std::u16string::npos;
 }
 
 std::u16string ResolveGroupListLine(std::u16string_view documentFolder, std::u16string_view line) {
@@ -39,6 +34,10 @@ class NameIndex {
   explicit NameIndex(TCSetListStore& setLists) : store(setLists) {}
 
   TCPlayList& PlaylistFor(const TCFlatLine& line) {
+    // Nearly always the songs of a playlist stand together.
+    if (!store.groups.empty() && line.group == lastGroupName && line.playlist == lastPlaylistName) {
+      return store.groups[lastGroup].playlists[lastPlaylist];
+    }
     const auto [groupEntry, isNewGroup] = groups.try_emplace(ToLower(line.group));
     GroupNames& group = groupEntry->second;
     if (isNewGroup) {
@@ -48,6 +47,10 @@ class NameIndex {
     std::vector<TCPlayList>& playlists = store.groups[group.index].playlists;
     const auto [entry, isNewPlaylist] = group.playlists.try_emplace(ToLower(line.playlist), playlists.size());
     if (isNewPlaylist) playlists.emplace_back().name = line.playlist;
+    lastGroup = group.index;
+    lastPlaylist = entry->second;
+    lastGroupName = line.group;
+    lastPlaylistName = line.playlist;
     return playlists[entry->second];
   }
 
@@ -59,6 +62,10 @@ class NameIndex {
 
   TCSetListStore& store;
   std::unordered_map<std::u16string, GroupNames> groups;  // by lower-cased name
+  std::size_t lastGroup = 0;
+  std::size_t lastPlaylist = 0;
+  std::u16string lastGroupName;
+  std::u16string lastPlaylistName;
 };
 
 }  // namespace
@@ -74,15 +81,16 @@ void TCDocumentFile::SetDocumentPath(std::u16string_view path) {
 }
 
 bool TCDocumentFile::OpenSetListDocument(std::u16string_view path) {
-  TextLines lines;
-  if (!ReadTextLines(files, path, lines)) return false;
-  if (lines.empty()) return true;
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
+  if (!bytes) return false;
+  const std::optional<std::u16string> firstLine = FirstUtf16Line(*bytes);
+  if (!firstLine) return true;
   SetDocumentPath(path);
-  if (IsFolderForm(lines)) {
+  if (IsFolderForm(*firstLine)) {
     LoadFolderDocument(path);  // what of it could be read is the document
     return true;
   }
-  return LoadFlatDocument(lines);
+  return LoadFlatDocument(*bytes);
 }
 
 bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
@@ -105,20 +113,18 @@ bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
   return true;
 }
 
-bool TCDocumentFile::LoadFlatDocument(const TextLines& lines) {
+bool TCDocumentFile::LoadFlatDocument(std::string_view bytes) {
   store.groups.clear();
   NameIndex names(store);
-  TCPlayListItem previous;  // the songs of one folder stand together and share its name
-  for (const std::u16string& text : lines) {
+  TCSharedTexts texts;
+  VisitUtf16Lines(bytes, [&](std::u16string_view text) {
     const TCFlatLine line = ParseFlatLine(text);
-    TCPlayListItem song;
-    song.SetPath(line.path, &previous);
+    TCPlayListItem& song = names.PlaylistFor(line).items.emplace_back();
+    song.SetPath(line.path, texts);
     song.time = line.time;
     song.status = SongFileStatus(files, line.path);
     LoadLyrics(files, line.path, song.lyrics);
-    previous.folder = song.folder;
-    names.PlaylistFor(line).items.push_back(std::move(song));
-  }
+  });
   for (TCPlayGroups& group : store.groups) {
     for (TCPlayList& playlist : group.playlists) playlist.items.shrink_to_fit();
   }
@@ -158,10 +164,9 @@ bool IsWholeDocument(std::string_view bytes) {
   const std::string_view mark = "\xFF\xFE";
   while (bytes.substr(0, mark.size()) == mark) bytes.remove_prefix(mark.size());
   if (JoinUtf16Lines(lines) != bytes) return false;  // an unended line, an odd byte, a lone carriage return
-  const bool folderForm = IsFolderForm(lines);
-  return std::all_of(lines.begin(), lines.end(), [folderForm](const std::u16string& line) {
-    return line.find(u'\n') == std::u16string::npos &&
-           (folderForm ? NamesGroupList(line) : IsWholeFlatLine(line));
+  if (!lines.empty() && IsFolderForm(lines.front())) return false;
+  return std::all_of(lines.begin(), lines.end(), [](const std::u16string& line) {
+    return line.find(u'\n') == std::u16string::npos && IsWholeFlatLine(line);
   });
 }
 

@@ -22,7 +22,8 @@ class TCDocumentFile {
 
   // A first line with "brvgl" anywhere in it makes a document of the folder form.
   bool LoadFolderDocument(std::u16string_view path);
-  bool LoadFlatDocument(const TextLines& lines);
+  // `bytes` are the whole file.
+  bool LoadFlatDocument(std::string_view bytes);
 
   // Writes the flat form. False when that failed, and also when there is no song to write: the file is then
   // left as it was. A file that this program could not have read whole is kept beside it as "NAME.brv~"
@@ -41,8 +42,8 @@ class TCDocumentFile {
   TCMessageDisplay& messages;
 };
 
-// True when reading `bytes` as a document loses nothing: UTF-16, every line ended, nothing but songs or group
-// list files in it.
+// True when a document written from what was read says all that `bytes` say: UTF-16, every line ended,
+// nothing but songs. The folder form says more: which group list files, also those that were missing.
 [[nodiscard]] bool IsWholeDocument(std::string_view bytes);
 
 }  // namespace brevant

@@ -7,13 +7,10 @@
 
 namespace brevant {
 
-bool HasSetListFileType(std::u16string_view path) {
-  const std::u16string type = ToLower(ExtensionPart(path));
-  return type == TextOf(TCTextId::GroupListExtension) || type == TextOf(TCTextId::PlayListExtension);
-}
-
 bool IsSetListFileType(std::u16string_view path, TCMessageDisplay& messages) {
-  if (HasSetListFileType(path)) return true;
+  const std::u16string type = ToLower(ExtensionPart(path));
+  if (type == TextOf(TCTextId::GroupListExtension) || type == TextOf(TCTextId::PlayListExtension))
+    return true;
   messages.AppendMessage(TCTextId::BadFileType, path);
   messages.AppendMessage(TCTextId::PlayListsMustBeText);
   return false;

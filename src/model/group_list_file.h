@@ -9,10 +9,7 @@
 
 namespace brevant {
 
-// True for the types "brvgl" and "brvpl" in any case. Looks only at the name.
-[[nodiscard]] bool HasSetListFileType(std::u16string_view path);
-
-// The same, and says so in two messages when it is not.
+// True for the types "brvgl" and "brvpl" in any case; else says so in two messages. Looks only at the name.
 [[nodiscard]] bool IsSetListFileType(std::u16string_view path, TCMessageDisplay& messages);
 
 // Fills `group`, whose `folder` must already be the folder of `path`: bare playlist names are resolved

@@ -32,7 +32,7 @@ void SetFolderForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16str
 }
 
 void SetExtensionForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view fileName) {
-  const std::u16string extension = ExtensionPart(fileName);
+  const TCSharedText extension = ExtensionPart(fileName);
   for (TCPlayListItem& song : playlist.items) {
     song.fileName = ReplaceExtension(song.fileName, extension);
     song.extension = extension;

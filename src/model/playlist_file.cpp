@@ -10,14 +10,14 @@ namespace brevant {
 namespace {
 
 void SetSongFromLine(TCFileSystem& files, TCPlayListItem& song, std::u16string_view line,
-                     const TCPlayListItem* neighbour) {
+                     TCSharedTexts& texts) {
   std::u16string_view path = line;
   // A star in the first place is part of the name: there would be no path before it.
   if (const std::size_t star = line.find(u'*'); star != std::u16string_view::npos && star > 0) {
     path = TrimRight(line.substr(0, star));
     song.time = TrimLeft(line.substr(star + 1));
   }
-  song.SetPath(path, neighbour);
+  song.SetPath(path, texts);
   song.status = SongFileStatus(files, path);
 }
 
@@ -30,11 +30,9 @@ bool LoadPlaylistFile(TCFileSystem& files, const TCSetListStore& store, TCPlayLi
   if (lines.empty()) return true;
 
   playlist.items.resize(lines.size());
-  const TCPlayListItem* neighbour = nullptr;
+  TCSharedTexts texts;
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    TCPlayListItem& song = playlist.items[i];
-    SetSongFromLine(files, song, lines[i], neighbour);
-    neighbour = &song;
+    SetSongFromLine(files, playlist.items[i], lines[i], texts);
   }
 
   playlist.name = PathWithoutExtension(FileNamePart(path));

@@ -17,6 +17,16 @@ std::u16string_view StatusText(TCSongStatus status) {
   return TextOf(TCTextId::Pending);
 }
 
+const TCSharedText& DefaultOption1() {
+  static const TCSharedText kText = u"30";
+  return kText;
+}
+
+const TCSharedText& DefaultOption2() {
+  static const TCSharedText kText{std::u16string(TextOf(TCTextId::Yes))};
+  return kText;
+}
+
 std::u16string TCPlayListItem::FullPath() const {
   std::u16string path;
   path.reserve(folder.str().size() + fileName.size());
@@ -25,15 +35,16 @@ std::u16string TCPlayListItem::FullPath() const {
   return path;
 }
 
-void TCPlayListItem::SetPath(std::u16string_view path, const TCPlayListItem* neighbour) {
+void TCPlayListItem::SetPath(std::u16string_view path) {
   fileName = FileNamePart(path);
+  folder = FolderPart(path);
   extension = ExtensionPart(path);
-  std::u16string ownFolder = FolderPart(path);
-  if (neighbour != nullptr && neighbour->folder.str() == ownFolder) {
-    folder = neighbour->folder;
-  } else {
-    folder = std::move(ownFolder);
-  }
+}
+
+void TCPlayListItem::SetPath(std::u16string_view path, TCSharedTexts& texts) {
+  fileName = FileNamePart(path);
+  folder = texts.Share(FolderPart(path));
+  extension = texts.Share(ExtensionPart(path));
 }
 
 }  // namespace brevant

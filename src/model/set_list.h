@@ -24,24 +24,30 @@ enum class TCSongStatus : std::uint8_t { Pending, Found, NotFound };
 // How a row stands to the current song; decides its colour.
 enum class TCPlayMark : std::uint8_t { Ordinary = 0, Next = 1, Current = 2, Previous = 3 };
 
+// What a new song has.
+[[nodiscard]] const TCSharedText& DefaultOption1();  // "30"
+[[nodiscard]] const TCSharedText& DefaultOption2();  // "Yes"
+
+// There can be a hundred thousand of these, so the texts that most of them have alike are shared.
 struct TCPlayListItem {
-  std::u16string fileName;   // with its type
-  TCSharedText folder;       // with its trailing backslash; empty when the file was named without one
-  std::u16string extension;  // as written, without the dot
+  std::u16string fileName;  // with its type
+  TCSharedText folder;      // with its trailing backslash; empty when the file was named without one
+  TCSharedText extension;   // as written, without the dot
   TCSongLyrics lyrics;
   TCPlayMark flags = TCPlayMark::Ordinary;
   TCSongStatus status = TCSongStatus::Pending;
   TCTreeNode treeNode = TCTreeNode::None;
   std::u16string time = u"00:00";
-  std::u16string option1 = u"30";   // no file keeps it; copied with the song
-  std::u16string option2 = u"Yes";  // no file keeps it; copied with the song
+  TCSharedText option1 = DefaultOption1();  // no file keeps it; copied with the song
+  TCSharedText option2 = DefaultOption2();  // no file keeps it; copied with the song
 
   // Folder directly followed by the file name.
   [[nodiscard]] std::u16string FullPath() const;
 
-  // Takes file name, folder and type from `path`. The folder text is shared with `neighbour` when it is
-  // equal.
-  void SetPath(std::u16string_view path, const TCPlayListItem* neighbour = nullptr);
+  // Takes file name, folder and type from `path`.
+  void SetPath(std::u16string_view path);
+  // The same; folder and type are shared with the other songs that were given `texts`.
+  void SetPath(std::u16string_view path, TCSharedTexts& texts);
 };
 
 struct TCPlayList {

@@ -14,17 +14,6 @@ namespace {
 constexpr std::size_t kNone = std::u16string_view::npos;
 constexpr char16_t kByteOrderMark = u'\uFEFF';
 
-std::u16string DecodeUtf16(std::string_view bytes) {
-  std::u16string text;
-  text.reserve(bytes.size() / 2);
-  for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
-    const auto low = static_cast<unsigned char>(bytes[at]);
-    const auto high = static_cast<unsigned char>(bytes[at + 1]);
-    text.push_back(static_cast<char16_t>(low | high << 8));
-  }
-  return text;
-}
-
 std::vector<std::u16string> SplitIniLines(std::u16string_view text) {
   std::vector<std::u16string> lines;
   while (!text.empty()) {

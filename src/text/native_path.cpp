@@ -20,14 +20,10 @@ bool StartsWithDrive(std::u16string_view path) {
   return letter >= u'a' && letter <= u'z';
 }
 
-// Half a surrogate pair or a zero: neither can stand in a name here, and with a replacement in its place the
-// text could name another file.
-bool CanBeNoName(std::u16string_view text) {
+bool HasLoneSurrogate(std::u16string_view text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const char16_t unit = text[at];
-    if (unit == 0) return true;
-    if ((unit & 0xF800) != 0xD800) continue;
-    const bool pair = (unit & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
+    if ((text[at] & 0xF800) != 0xD800) continue;
+    const bool pair = (text[at] & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
     if (!pair) return true;
     ++at;
   }
@@ -48,8 +44,6 @@ bool Exists(const std::string& native) {
 TCNativePaths::TCNativePaths(DriveFolders driveFolders) : drives(std::move(driveFolders)) {}
 
 std::string TCNativePaths::ToNative(std::u16string_view path) const {
-  if (CanBeNoName(path)) return {};
-
   std::string native;
   if (StartsWithDrive(path)) {
     const auto letter = static_cast<char>(ToLower(path[0]) - u'a' + u'A');
@@ -61,9 +55,16 @@ std::string TCNativePaths::ToNative(std::u16string_view path) const {
       if (needsSlash) native.push_back('/');
     }
   }
-  std::string rest = EncodeUtf8(path);
-  std::replace(rest.begin(), rest.end(), '\\', '/');
-  return native.empty() ? rest : native + rest;
+  const std::size_t begin = native.size();
+  AppendUtf8(native, path);
+  // Neither can be part of a name here; with a replacement in its place, the text could name another file.
+  const bool ascii = native.size() - begin == path.size();
+  if ((!ascii && HasLoneSurrogate(path)) || native.find('\0', begin) != std::string::npos) return {};
+
+  for (std::size_t at = native.find('\\', begin); at != std::string::npos; at = native.find('\\', at)) {
+    native[at] = '/';
+  }
+  return native;
 }
 
 std::optional<std::u16string> TCNativePaths::FromNative(std::string_view native) {

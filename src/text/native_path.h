@@ -18,13 +18,13 @@ class TCNativePaths {
   explicit TCNativePaths(DriveFolders drives);
 
   // The system's name for `path`: `\` becomes `/`, a drive letter its folder. A drive that no folder stands
-  // for is left as it is written ("D:/..."), which names nothing. Lone surrogates give a name that names
-  // nothing.
+  // for is left as it is written ("D:/..."), which names nothing. A zero or a lone surrogate gives the empty
+  // name, which names nothing either.
   [[nodiscard]] std::string ToNative(std::u16string_view path) const;
 
   // The model's name for a file chosen, dropped or named on the command line: `/home/me/a.mp3` is
   // `\home\me\a.mp3`. Empty when the model cannot hold it: a backslash, double quote or line break inside a
-  // name, or bytes that are not UTF-8.
+  // name, bytes that are not UTF-8, or a relative name that begins like a drive.
   [[nodiscard]] static std::optional<std::u16string> FromNative(std::string_view native);
 
   // The native name of an existing file or folder: as written when that stands on the disk, else one that

@@ -8,26 +8,38 @@ namespace brevant {
 
 namespace {
 
-bool IsDigit(char16_t unit) {
-  return unit >= u'0' && unit <= u'9';
+template <class Char>
+bool IsDigit(Char unit) {
+  return unit >= '0' && unit <= '9';
+}
+
+template <class Char>
+std::optional<std::int32_t> ReadNumber(std::basic_string_view<Char> text) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  while (!text.empty() && IsWhiteSpace(static_cast<char16_t>(text.front()))) text.remove_prefix(1);
+  const bool negative = !text.empty() && text.front() == '-';
+  if (negative || (!text.empty() && text.front() == '+')) text.remove_prefix(1);
+  if (text.empty() || !IsDigit(text.front())) return std::nullopt;
+
+  constexpr std::int64_t kMost = std::int64_t{Limits::max()} + 1;  // the most that a negative number can be
+  std::int64_t magnitude = 0;
+  for (const Char unit : text) {
+    if (!IsDigit(unit)) break;
+    magnitude = magnitude * 10 + (unit - '0');
+    if (magnitude > kMost) return std::nullopt;
+  }
+  if (!negative && magnitude == kMost) return std::nullopt;
+  return static_cast<std::int32_t>(negative ? -magnitude : magnitude);
 }
 
 }  // namespace
 
 std::optional<std::int32_t> ReadDecimal(std::u16string_view text) {
-  using Limits = std::numeric_limits<std::int32_t>;
-  text = TrimLeft(text);
-  const bool negative = text.starts_with(u'-');
-  if (negative || text.starts_with(u'+')) text.remove_prefix(1);
-  if (text.empty() || !IsDigit(text.front())) return std::nullopt;
+  return ReadNumber(text);
+}
 
-  std::int64_t value = 0;
-  for (const char16_t unit : text) {
-    if (!IsDigit(unit)) break;
-    value = value * 10 + (negative ? -(unit - u'0') : unit - u'0');
-    if (value < Limits::min() || value > Limits::max()) return std::nullopt;
-  }
-  return static_cast<std::int32_t>(value);
+std::optional<std::int32_t> ReadDecimal(std::string_view text) {
+  return ReadNumber(text);
 }
 
 std::u16string FormatDecimal(std::int64_t value) {

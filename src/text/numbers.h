@@ -11,6 +11,7 @@ namespace brevant {
 // Reads leading white space, an optional sign and as many digits as stand there; what follows is ignored.
 // Empty when no digit stands there, or when the number does not fit 32 bits.
 [[nodiscard]] std::optional<std::int32_t> ReadDecimal(std::u16string_view text);
+[[nodiscard]] std::optional<std::int32_t> ReadDecimal(std::string_view text);
 
 [[nodiscard]] std::u16string FormatDecimal(std::int64_t value);
 

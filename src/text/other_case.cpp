@@ -10,10 +10,10 @@ namespace brevant {
 
 namespace {
 
-// What is remembered is dropped past these, so that a collection spread over a whole disk does not fill the
-// memory.
-constexpr std::size_t kMaxNames = 500'000;
-constexpr std::size_t kMaxFolders = 10'000;
+// Past these, what is remembered is dropped before another folder is read, so that a collection spread over a
+// whole disk does not fill the memory. A name takes about thirty bytes.
+constexpr std::size_t kMaxNames = 2'000'000;
+constexpr std::size_t kMaxFolders = 20'000;
 
 struct SplitPath {
   std::string_view folder;  // without a trailing slash, except for the root
@@ -47,7 +47,8 @@ std::vector<std::string> TCOtherCase::Find(std::string_view native) {
   const auto [folder, name] = Split(native);
   if (native.size() >= PATH_MAX || NamesNoEntry(name)) return {};
   // Only here, where nothing points into the maps.
-  if (nameCount > kMaxNames || meanings.size() > kMaxFolders) Forget();
+  const bool full = nameCount > kMaxNames || meanings.size() > kMaxFolders;
+  if (full && meanings.find(folder) == meanings.end()) Forget();
 
   const Moment now = clock();
   std::vector<std::string> found;

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <utility>
 
 namespace brevant {
 
@@ -28,6 +30,21 @@ class TCSharedText {
 
  private:
   std::shared_ptr<const std::u16string> text;
+};
+
+// Gives equal texts the same copy, for as long as many of them are made.
+class TCSharedTexts {
+ public:
+  [[nodiscard]] TCSharedText Share(std::u16string_view text) {
+    const auto known = texts.find(text);
+    if (known != texts.end()) return known->second;
+    const TCSharedText shared{std::u16string(text)};
+    texts.emplace(shared.str(), shared);
+    return shared;
+  }
+
+ private:
+  std::unordered_map<std::u16string_view, TCSharedText> texts;  // the keys stand in the values
 };
 
 }  // namespace brevant

@@ -10,118 +10,96 @@ namespace brevant {
 
 namespace {
 
-constexpr char16_t kReturn = u'\r';
 constexpr char16_t kMark = u'\uFEFF';
 
-// The two sources of units that lines are cut from.
+enum class Marks { Drop, Keep };
 
-class Utf16Units {
- public:
-  static constexpr bool kDropsMarks = true;
-
-  explicit Utf16Units(std::string_view source) : bytes(source) {}
-  [[nodiscard]] std::size_t size() const { return bytes.size() / 2; }
-  [[nodiscard]] char16_t operator[](std::size_t index) const {
-    const auto low = static_cast<unsigned char>(bytes[2 * index]);
-    const auto high = static_cast<unsigned char>(bytes[2 * index + 1]);
-    return static_cast<char16_t>(low | high << 8);
-  }
-  [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
-    while (from < size() && (*this)[from] != kReturn) ++from;
-    return from;
-  }
-  [[nodiscard]] std::u16string Slice(std::size_t begin, std::size_t end) const {
-    std::u16string line(end - begin, u'\0');
-    for (std::size_t i = begin; i < end; ++i) line[i - begin] = (*this)[i];
-    return line;
-  }
-
- private:
-  std::string_view bytes;
-};
-
-class DecodedUnits {
- public:
-  static constexpr bool kDropsMarks = false;
-
-  explicit DecodedUnits(std::u16string_view source) : text(source) {}
-  [[nodiscard]] std::size_t size() const { return text.size(); }
-  [[nodiscard]] char16_t operator[](std::size_t index) const { return text[index]; }
-  [[nodiscard]] std::size_t FindReturn(std::size_t from) const {
-    return std::min(text.find(kReturn, from), text.size());
-  }
-  [[nodiscard]] std::u16string_view Slice(std::size_t begin, std::size_t end) const {
-    return text.substr(begin, end - begin);
-  }
-
- private:
-  std::u16string_view text;
-};
-
-// How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
-template <class Units>
-std::size_t CountLines(const Units& units) {
-  std::size_t lines = 0;
-  for (std::size_t at = units.FindReturn(0); at < units.size(); at = units.FindReturn(at + 2)) ++lines;
-  return std::max<std::size_t>(lines, 1);
+template <class Char>
+std::size_t FindReturn(std::basic_string_view<Char> text, std::size_t from) {
+  return std::min(text.find(Char{'\r'}, from), text.size());
 }
 
-template <class Units, class Visit>
-void VisitLines(const Units& units, const Visit& visit) {
-  bool atStart = Units::kDropsMarks;  // no character but marks and line ends has been seen
+// Of UTF-16 units or of bytes: `visit` gets a view into `text`.
+template <class Char, class Visit>
+void VisitLines(std::basic_string_view<Char> text, Marks marks, const Visit& visit) {
+  bool dropsMarks = marks == Marks::Drop;  // until a character but marks and line ends has been seen
   bool first = true;
-  for (std::size_t at = 0; at < units.size(); at += 2) {  // the carriage return and the unit it swallows
+  for (std::size_t at = 0; at < text.size(); at += 2) {  // the carriage return and the unit it swallows
     std::size_t begin = at;
-    at = units.FindReturn(at);
-    const bool finished = at < units.size();
+    at = FindReturn(text, at);
+    const bool finished = at < text.size();
 
-    if (atStart) {
-      while (begin < at && units[begin] == kMark) ++begin;
-      atStart = begin == at;
+    if (dropsMarks) {
+      while (begin < at && text[begin] == kMark) ++begin;
+      dropsMarks = begin == at;
     }
-    if (finished || (first && begin < at)) visit(units.Slice(begin, at));
+    if (finished || (first && begin < at)) visit(text.substr(begin, at - begin));
     first = false;
   }
 }
 
-template <class Units>
-TextLines SplitLines(const Units& units) {
+// How many lines a file holds is counted first: growing step by step would hold most lines twice for a while.
+TextLines SplitLines(std::u16string_view text, Marks marks) {
+  std::size_t count = 1;
+  for (std::size_t at = FindReturn(text, 0); at < text.size(); at = FindReturn(text, at + 2)) ++count;
   TextLines lines;
-  lines.reserve(CountLines(units));
-  VisitLines(units, [&lines](auto&& line) { lines.emplace_back(std::forward<decltype(line)>(line)); });
+  lines.reserve(count);
+  VisitLines(text, marks, [&lines](std::u16string_view line) { lines.emplace_back(line); });
   return lines;
+}
+
+// True when the unit behind every carriage return is a character of its own in UTF-8.
+bool ReturnsSwallowAscii(std::string_view bytes) {
+  for (std::size_t at = FindReturn(bytes, 0); at + 1 < bytes.size(); at = FindReturn(bytes, at + 2)) {
+    if (static_cast<unsigned char>(bytes[at + 1]) >= 0x80) return false;
+  }
+  return true;
 }
 
 }  // namespace
 
 TextLines SplitUtf16Lines(std::string_view bytes) {
-  return SplitLines(Utf16Units(bytes));
+  return SplitLines(DecodeUtf16(bytes), Marks::Drop);
 }
 
 TextLines SplitAnsiLines(std::string_view bytes) {
-  const std::u16string text = DecodeAnsi(bytes);
-  return SplitLines(DecodedUnits(text));
+  return SplitLines(DecodeAnsi(bytes), Marks::Keep);
 }
 
 void VisitUtf16Lines(std::string_view bytes, const LineVisitor& visit) {
-  VisitLines(Utf16Units(bytes), visit);
+  const std::u16string text = DecodeUtf16(bytes);
+  VisitLines(std::u16string_view(text), Marks::Drop, visit);
 }
 
 void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit) {
   const std::u16string text = DecodeAnsi(bytes);
-  VisitLines(DecodedUnits(text), visit);
+  VisitLines(std::u16string_view(text), Marks::Keep, visit);
+}
+
+std::optional<std::u16string> FirstUtf16Line(std::string_view bytes) {
+  std::size_t end = 0;
+  while (end + 1 < bytes.size() && (bytes[end] != '\r' || bytes[end + 1] != '\0')) end += 2;
+  TextLines lines = SplitUtf16Lines(bytes.substr(0, end + 2));
+  if (lines.empty()) return std::nullopt;
+  return std::move(lines.front());
+}
+
+bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit) {
+  if (!IsUtf8(bytes) || !ReturnsSwallowAscii(bytes)) return false;
+  VisitLines(bytes, Marks::Keep, visit);
+  return true;
 }
 
 std::string JoinUtf16Lines(const TextLines& lines) {
   std::size_t units = 0;
   for (const std::u16string& line : lines) units += line.size() + 2;
 
-  std::string bytes;
-  bytes.reserve(2 * units);
-  const auto put = [&bytes](std::u16string_view text) {
+  std::string bytes(2 * units, '\0');
+  std::size_t at = 0;
+  const auto put = [&bytes, &at](std::u16string_view text) {
     for (const char16_t unit : text) {
-      bytes.push_back(static_cast<char>(unit & 0xFF));
-      bytes.push_back(static_cast<char>(unit >> 8));
+      bytes[at++] = static_cast<char>(unit & 0xFF);
+      bytes[at++] = static_cast<char>(unit >> 8);
     }
   };
   for (const std::u16string& line : lines) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,14 @@ inline constexpr std::size_t kMaxTextFileBytes = std::size_t{256} << 20;
 using LineVisitor = std::function<void(std::u16string_view)>;
 void VisitUtf16Lines(std::string_view bytes, const LineVisitor& visit);
 void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit);
+
+// The first of those lines; empty when there is none.
+[[nodiscard]] std::optional<std::u16string> FirstUtf16Line(std::string_view bytes);
+
+// The lines of VisitAnsiLines as they stand in the file, for a reader that has no need of UTF-16. False, and
+// nothing visited, when the bytes are no UTF-8 or a carriage return swallows a part of a character.
+using ByteLineVisitor = std::function<void(std::string_view)>;
+[[nodiscard]] bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit);
 
 // Every line followed by carriage return and line feed, UTF-16 little-endian, no mark.
 [[nodiscard]] std::string JoinUtf16Lines(const TextLines& lines);

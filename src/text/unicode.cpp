@@ -1,7 +1,9 @@
 #include "text/unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace brevant {
 
@@ -23,6 +25,28 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', 0x008D,    u'\u017D', 0x008F,
     0x0090,    u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
     u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', 0x009D,    u'\u017E', u'\u0178'};
+
+// Nearly all text that comes through here is ASCII, and there is much of it, so it is looked at in words:
+// where the ASCII that stands at `at` ends.
+
+std::size_t EndOfAscii(std::string_view bytes, std::size_t at) {
+  for (std::uint64_t word = 0; at + sizeof word <= bytes.size(); at += sizeof word) {
+    std::memcpy(&word, bytes.data() + at, sizeof word);
+    if ((word & 0x8080808080808080U) != 0) break;
+  }
+  while (at < bytes.size() && static_cast<std::uint8_t>(bytes[at]) < 0x80) ++at;
+  return at;
+}
+
+std::size_t EndOfAscii(std::u16string_view text, std::size_t at) {
+  constexpr std::size_t kUnits = sizeof(std::uint64_t) / sizeof(char16_t);
+  for (std::uint64_t word = 0; at + kUnits <= text.size(); at += kUnits) {
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if ((word & 0xFF80FF80FF80FF80U) != 0) break;
+  }
+  while (at < text.size() && text[at] < 0x80) ++at;
+  return at;
+}
 
 // The length of the sequence that `lead` opens, and the least value that needs so many bytes.
 struct Sequence {
@@ -95,12 +119,12 @@ std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
   std::u16string text(bytes.size(), u'\0');
   std::size_t length = 0;
   for (std::size_t at = 0; at < bytes.size();) {
-    const auto lead = static_cast<std::uint8_t>(bytes[at]);
-    if (lead < 0x80) {
-      text[length++] = lead;
-      ++at;
-      continue;
-    }
+    const std::size_t end = EndOfAscii(bytes, at);
+    std::copy(bytes.begin() + static_cast<std::ptrdiff_t>(at),
+              bytes.begin() + static_cast<std::ptrdiff_t>(end), text.data() + length);
+    length += end - at;
+    at = end;
+    if (at == bytes.size()) break;
     const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));
     if (!next) return std::nullopt;
     length = PutUtf16(text, length, next->value);
@@ -108,6 +132,15 @@ std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
   }
   text.resize(length);
   return text;
+}
+
+bool IsUtf8(std::string_view bytes) {
+  for (std::size_t at = EndOfAscii(bytes, 0); at < bytes.size(); at = EndOfAscii(bytes, at)) {
+    const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));
+    if (!next) return false;
+    at += next->length;
+  }
+  return true;
 }
 
 std::u16string DecodeWindows1252(std::string_view bytes) {
@@ -126,6 +159,16 @@ std::u16string DecodeAnsi(std::string_view bytes) {
   return DecodeWindows1252(bytes);
 }
 
+std::u16string DecodeUtf16(std::string_view bytes) {
+  std::u16string text(bytes.size() / 2, u'\0');
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto low = static_cast<std::uint8_t>(bytes[2 * at]);
+    const auto high = static_cast<std::uint8_t>(bytes[2 * at + 1]);
+    text[at] = static_cast<char16_t>(low | high << 8);
+  }
+  return text;
+}
+
 std::string EncodeUtf8(std::u16string_view text) {
   std::string bytes;
   AppendUtf8(bytes, text);
@@ -133,14 +176,16 @@ std::string EncodeUtf8(std::u16string_view text) {
 }
 
 void AppendUtf8(std::string& bytes, std::u16string_view text) {
-  // Most of what is written is ASCII to its end, and is copied without a look at the room left.
-  const std::size_t start = bytes.size();
-  bytes.resize(start + text.size());
-  std::size_t at = 0;
-  for (; at < text.size() && text[at] < 0x80; ++at) bytes[start + at] = static_cast<char>(text[at]);
-  bytes.resize(start + at);
-
-  for (; at < text.size(); ++at) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (const std::size_t end = EndOfAscii(text, at); end > at) {
+      const std::size_t length = bytes.size();
+      bytes.resize(length + end - at);
+      std::transform(text.begin() + static_cast<std::ptrdiff_t>(at),
+                     text.begin() + static_cast<std::ptrdiff_t>(end), bytes.data() + length,
+                     [](char16_t unit) { return static_cast<char>(unit); });
+      at = end;
+      if (at == text.size()) break;
+    }
     const char16_t unit = text[at];
     if (IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1])) {
       const std::uint32_t high = unit & 0x3FFU;

@@ -11,11 +11,17 @@ namespace brevant {
 // Empty when `bytes` is not valid UTF-8 (overlong forms, surrogates and values past U+10FFFF are invalid).
 [[nodiscard]] std::optional<std::u16string> DecodeUtf8(std::string_view bytes);
 
+// Whether DecodeUtf8 would give something.
+[[nodiscard]] bool IsUtf8(std::string_view bytes);
+
 // Every byte is a character; the five bytes that the code page leaves open become U+0081 and so on.
 [[nodiscard]] std::u16string DecodeWindows1252(std::string_view bytes);
 
 // UTF-8 when the bytes are valid UTF-8, else Windows-1252. A UTF-8 mark stays as U+FEFF.
 [[nodiscard]] std::u16string DecodeAnsi(std::string_view bytes);
+
+// Little-endian. A mark stays as U+FEFF, an odd last byte is ignored.
+[[nodiscard]] std::u16string DecodeUtf16(std::string_view bytes);
 
 // A lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string EncodeUtf8(std::u16string_view text);

@@ -2,10 +2,6 @@
 
 namespace brevant {
 
-bool IsWhiteSpace(char16_t unit) {
-  return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
-}
-
 std::u16string_view TrimLeft(std::u16string_view text) {
   while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
   return text;

@@ -6,7 +6,9 @@
 
 namespace brevant {
 
-[[nodiscard]] bool IsWhiteSpace(char16_t unit);
+[[nodiscard]] constexpr bool IsWhiteSpace(char16_t unit) {
+  return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
+}
 [[nodiscard]] std::u16string_view TrimLeft(std::u16string_view text);
 [[nodiscard]] std::u16string_view TrimRight(std::u16string_view text);
 [[nodiscard]] std::u16string_view Trim(std::u16string_view text);

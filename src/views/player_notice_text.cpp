@@ -7,7 +7,7 @@ QString NoticeText(TCPlayerNotice notice) {
     case TCPlayerNotice::None:
       return {};
     case TCPlayerNotice::NoSoundDevice:
-      return QStringLiteral("No sound device. Connect one, then press Play.");
+      return QStringLiteral("No sound device. The song goes on when there is one again.");
     case TCPlayerNotice::NoSoundfont:
       return QStringLiteral("No soundfont on this machine: MIDI songs stay silent.");
     case TCPlayerNotice::CannotPlay:

@@ -620,19 +620,35 @@ TEST_F(BrevantApp, ExitClosesTheWindow) {
   EXPECT_EQ(Written(u"WhiteOnBlack"), u"Yes");
 }
 
+// Ends the session inside the event loop, as a signal does. False when somebody was asked something.
+bool EndSession(TCBrevantApp& app) {
+  bool asked = false;
+  QTimer noticesAQuestion;
+  QObject::connect(&noticesAQuestion, &QTimer::timeout, [&asked] {
+    if (auto* question = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+      asked = true;
+      question->reject();
+      QCoreApplication::exit(1);
+    }
+  });
+  noticesAQuestion.start(0);
+  QTimer::singleShot(0, &app, &TCBrevantApp::EndSession);
+  return QApplication::exec() == 0 && !asked;
+}
+
 TEST_F(BrevantApp, TheEndOfTheSessionAsksNothingAndKeepsUnsavedChanges) {
   Start(kShow);
   app->Document().SetModified();
   const std::optional<std::string> before = files.BytesOf(kShow);
-  app->EndSession();
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(EndSession(*app));
   EXPECT_EQ(Written(u"LastLoadedFileName"), kShow);
   EXPECT_EQ(files.BytesOf(u"\\state\\show.brv"), before);
 }
 
 TEST_F(BrevantApp, TheEndOfTheSessionKeepsNothingWhenNothingIsUnsaved) {
   Start(kShow);
-  app->EndSession();
+  EXPECT_TRUE(EndSession(*app));
+  EXPECT_EQ(Written(u"WhiteOnBlack"), u"Yes");
   EXPECT_FALSE(files.BytesOf(u"\\state\\show.brv").has_value());
 }
 

@@ -5,6 +5,7 @@
 #include "lyrics/lyrics.h"
 #include "model/play_marks.h"
 #include "support/fake_playlist_view.h"
+#include "support/lyrics_of.h"
 
 namespace brevant {
 namespace {
@@ -60,9 +61,7 @@ TEST_F(PlaylistPresenterTest, APlaylistIsShownWithItsRowsAndItsTotal) {
 }
 
 TEST_F(PlaylistPresenterTest, ASongWithLyricLinesSaysSoBehindItsStatus) {
-  TCLyricSheet sheet;
-  sheet.lines.push_back({u"Sing", 0, kEndOfLyrics, 0});
-  store.groups[0].playlists[0].items[0].lyrics = TCSongLyrics(sheet);
+  store.groups[0].playlists[0].items[0].lyrics = LyricsOf({{u"Sing", 0, kEndOfLyrics, 0}});
   presenter.ShowPlaylist(0, 0);
   EXPECT_EQ(view.rows[0].texts.status, u"Found\\Lyrics");
   EXPECT_EQ(view.rows[1].texts.status, u"Found");

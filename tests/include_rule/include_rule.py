@@ -28,7 +28,7 @@ STANDARD = set("""
     valarray variant vector version
 """.split())
 SYSTEM = re.compile(r"(sys/[\w/]+|fcntl|unistd|dirent|errno|limits|poll|signal|spawn|windows|io)\.h$")
-QT = re.compile(r"(Q[A-Z]\w*|Qt\w*/.*|q[a-z]+\.h|qpa/.*)$")
+QT = re.compile(r"(Q[A-Za-z]\w*(/.*)?|q[a-z]+\.h|qpa/.*)$")
 MEDIA = re.compile(r"(gst/.*|glib.*|gio/.*|fluidsynth.*|mpg123\.h)$")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>|(\S.*))')

@@ -57,6 +57,8 @@ class IncludeRuleTest(unittest.TestCase):
         self.assert_refused("document/a.h", "#include <QString>", "takes Qt")
         self.assert_refused("playback/gst/a.cpp", "#include <QtCore/qglobal.h>", "takes Qt")
         self.assert_refused("resources/a.cpp", "  #  include <QIcon>", "takes Qt")
+        self.assert_refused("model/a.cpp", "#include <QtGlobal>", "takes Qt")
+        self.assert_refused("text/a.cpp", "#include <Qt>", "takes Qt")
 
     def test_media_libraries_stay_in_the_back_end(self):
         for header in ("gst/gst.h", "glib.h", "fluidsynth.h", "mpg123.h"):

@@ -5,6 +5,8 @@
 
 #include <limits>
 
+#include "support/lyrics_of.h"
+
 namespace brevant {
 namespace {
 
@@ -22,8 +24,8 @@ class CurrentLines : public testing::Test {
     return texts;
   }
 
-  TCSongLyrics lyrics{TCLyricSheet{
-      {{u"ten", 10'000, 20'000, 1}, {u"twenty", 20'000, 30'000, 0}, {u"last", 30'000, kEndOfLyrics, 0}}, {}}};
+  TCSongLyrics lyrics = LyricsOf(
+      {{u"ten", 10'000, 20'000, 1}, {u"twenty", 20'000, 30'000, 0}, {u"last", 30'000, kEndOfLyrics, 0}});
   std::int32_t index = 0;
 };
 
@@ -69,14 +71,13 @@ TEST_F(CurrentLines, LinesPastTheEndAreMissing) {
 }
 
 TEST_F(CurrentLines, InAGapNothingIsCurrent) {
-  lyrics = TCSongLyrics(TCLyricSheet{{{u"a", 1'000, 2'000, 0}, {u"b", 3'000, 4'000, 0}}, {}});
+  lyrics = LyricsOf({{u"a", 1'000, 2'000, 0}, {u"b", 3'000, 4'000, 0}});
   EXPECT_THAT(Find(2'500, 2), IsEmpty());
   EXPECT_EQ(index, -1);
 }
 
 TEST_F(CurrentLines, TheFirstOfSeveralCurrentLinesIsTheOne) {
-  lyrics = TCSongLyrics(
-      TCLyricSheet{{{u"never", 5'000, 1'000, 0}, {u"a", 1'000, 9'000, 0}, {u"b", 1'000, 9'000, 0}}, {}});
+  lyrics = LyricsOf({{u"never", 5'000, 1'000, 0}, {u"a", 1'000, 9'000, 0}, {u"b", 1'000, 9'000, 0}});
   EXPECT_THAT(Find(5'000, 1), ElementsAre(u"a"));
   EXPECT_EQ(index, 1);
 }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <random>
 
 #include "support/memory_files.h"
 
@@ -15,14 +16,20 @@ using testing::ElementsAre;
 constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 
-TCLyricSheet ParseLine(std::u16string_view line) {
+// What one line alone says.
+struct ParsedLine {
+  std::vector<TCLyric> lines;
+  TCLyricHeaders headers;
+};
+
+ParsedLine ParseLine(std::u16string_view line) {
   TCLyricSheet sheet;
   ParseLyricLine(line, sheet);
-  return sheet;
+  return {TCSongLyrics(sheet).LinesFrom(0, 2), sheet.headers};
 }
 
-bool SaysNothing(const TCLyricSheet& sheet) {
-  return sheet.lines.empty() && sheet.headers == TCLyricHeaders();
+bool SaysNothing(const ParsedLine& parsed) {
+  return parsed.lines.empty() && parsed.headers == TCLyricHeaders();
 }
 
 class LyricFile : public testing::Test {
@@ -86,7 +93,7 @@ TEST(LyricTime, ANumberPastThirtyTwoBitsCountsNothing) {
 // --- One line.
 
 TEST(LyricLine, IsTimedByItsTag) {
-  const TCLyricSheet sheet = ParseLine(u"[01:02.50]Hello [there");
+  const ParsedLine sheet = ParseLine(u"[01:02.50]Hello [there");
   EXPECT_THAT(sheet.lines, ElementsAre(TCLyric{u"Hello [there", 62'050, kEndOfLyrics, 0}));
   EXPECT_EQ(sheet.headers, TCLyricHeaders());
 }
@@ -128,7 +135,7 @@ TEST(LyricLine, TheFirstMarkOfTheListDecides) {
 }
 
 TEST(LyricLine, MarksAreLowerCase) {
-  const TCLyricSheet sheet = ParseLine(u"[TI:Song]Text");
+  const ParsedLine sheet = ParseLine(u"[TI:Song]Text");
   EXPECT_EQ(sheet.headers.title, u"");
   EXPECT_THAT(sheet.lines, ElementsAre(TCLyric{u"Text", 0, kEndOfLyrics, 0}));
 }
@@ -312,11 +319,15 @@ TEST_F(LyricFile, InTheWrongEncodingIsReadAsWhatItLooksLike) {
   EXPECT_EQ(lyrics, TCSongLyrics());
 }
 
-TEST_F(LyricFile, OfBinaryDataIsSurvived) {
+TEST_F(LyricFile, OfBinaryDataIsReadAsWhateverLinesItHolds) {
+  std::minstd_rand random;  // the same numbers in every run
   std::string bytes;
-  for (int i = 0; i < 100'000; ++i) bytes.push_back(static_cast<char>((i * i >> 3) ^ i));
+  while (bytes.size() < 300'000) bytes.push_back(static_cast<char>(random() >> 8));
   const TCSongLyrics lyrics = Load(bytes);
-  EXPECT_LE(lyrics.LineCount(), bytes.size());
+  EXPECT_GT(lyrics.LineCount(), 0U);
+  for (std::size_t i = 0; i < lyrics.LineCount(); ++i) {
+    EXPECT_EQ(lyrics.LineAt(i).text.find(u']'), std::u16string::npos);
+  }
 }
 
 TEST_F(LyricFile, WithAnEnormousLineIsReadWhole) {

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
+#include "support/lyrics_of.h"
+
 namespace brevant {
 namespace {
-
-TCLyricSheet SheetOf(std::vector<TCLyric> lines, TCLyricHeaders headers = {}) {
-  return {std::move(lines), std::move(headers)};
-}
 
 TCLyricHeaders AllHeaders() {
   return {u"artist", u"album", u"title", u"creator", u"length", u"writer", u"editor", u"version", u"offset"};
@@ -31,7 +31,7 @@ TEST(Lyrics, HoldTheirLinesInOrder) {
   const std::vector<TCLyric> lines = {{u"M: Hello", 2000, 3000, 1},
                                       {u"", 1000, 1500, 0},
                                       {u"F: \u00E9\u20AC\U0001F3B5", -5, kEndOfLyrics, 2}};
-  const TCSongLyrics lyrics(SheetOf(lines));
+  const TCSongLyrics lyrics = LyricsOf(lines);
   ASSERT_EQ(lyrics.LineCount(), 3U);
   EXPECT_FALSE(lyrics.Empty());
   for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(lyrics.LineAt(i), lines[i]);
@@ -39,7 +39,7 @@ TEST(Lyrics, HoldTheirLinesInOrder) {
 }
 
 TEST(Lyrics, HoldTheirHeaderValues) {
-  const TCSongLyrics lyrics(SheetOf({{u"line", 0, 1, 0}}, AllHeaders()));
+  const TCSongLyrics lyrics = LyricsOf({{u"line", 0, 1, 0}}, AllHeaders());
   EXPECT_EQ(lyrics.Artist(), u"artist");
   EXPECT_EQ(lyrics.Album(), u"album");
   EXPECT_EQ(lyrics.Title(), u"title");
@@ -54,7 +54,7 @@ TEST(Lyrics, HoldTheirHeaderValues) {
 }
 
 TEST(Lyrics, WithHeaderValuesAloneAreEmptyOfLines) {
-  const TCSongLyrics lyrics(SheetOf({}, AllHeaders()));
+  const TCSongLyrics lyrics = LyricsOf({}, AllHeaders());
   EXPECT_TRUE(lyrics.Empty());
   EXPECT_EQ(lyrics.Title(), u"title");
 }
@@ -62,8 +62,7 @@ TEST(Lyrics, WithHeaderValuesAloneAreEmptyOfLines) {
 TEST(Lyrics, OfEveryScriptComeBackAsTheyWere) {
   TCLyricHeaders headers;
   headers.title = u"\u65E5\u672C\u8A9E";
-  // Mostly three-byte characters, which are held as UTF-16.
-  const TCSongLyrics wide(SheetOf({{u"\u65E5\u672C", 0, 1, 0}, {u"\u8A9E", 1, 2, 0}}, headers));
+  const TCSongLyrics wide = LyricsOf({{u"\u65E5\u672C", 0, 1, 0}, {u"\u8A9E", 1, 2, 0}}, headers);
   EXPECT_EQ(wide.Title(), headers.title);
   EXPECT_EQ(wide.LineAt(0).text, u"\u65E5\u672C");
   EXPECT_EQ(wide.LineAt(1).text, u"\u8A9E");
@@ -73,21 +72,50 @@ TEST(Lyrics, KeepLoneSurrogatesAndZeros) {
   using namespace std::string_literals;
   const std::u16string high(1, static_cast<char16_t>(0xD83C));
   const std::u16string low(1, static_cast<char16_t>(0xDFB5));
-  const TCSongLyrics lyrics(SheetOf({{u"a" + high, 0, 1, 0}, {low + u"b", 1, 2, 0}, {u"c\0d"s, 2, 3, 0}}));
+  const TCSongLyrics lyrics = LyricsOf({{u"a" + high, 0, 1, 0}, {low + u"b", 1, 2, 0}, {u"c\0d"s, 2, 3, 0}});
   EXPECT_EQ(lyrics.LineAt(0).text, u"a" + high);
   EXPECT_EQ(lyrics.LineAt(1).text, low + u"b");
   EXPECT_EQ(lyrics.LineAt(2).text, u"c\0d"s);
+
+  const std::u16string halves = low + high + u"\uD7FF\uE000\U0001F3B5" + high + high;
+  EXPECT_EQ(LyricsOf({{halves, 0, 1, 0}}).LineAt(0).text, halves);
+}
+
+TEST(Lyrics, KeepEveryTime) {
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+  const std::vector<TCLyric> lines = {
+      {u"a", kLeast, kMost, 0}, {u"b", kMost, kLeast, 3}, {u"c", kLeast, kLeast, 1}, {u"d", -1, 0, 2},
+      {u"e", 63, 127, 0},       {u"f", 64, 128, 0},       {u"g", -64, -65, 0},       {u"h", 8191, 8192, 0}};
+  EXPECT_EQ(LyricsOf(lines).LinesFrom(0, 100), lines);
+}
+
+TEST(Lyrics, KeepATextOfAnyLength) {
+  for (const std::size_t length : {0U, 1U, 31U, 32U, 4095U, 4096U, 1000000U}) {
+    const std::u16string text(length, u'x');
+    const TCSongLyrics lyrics = LyricsOf({{text, 0, 1, 3}, {u"after", 1, 2, 0}});
+    EXPECT_EQ(lyrics.LineAt(0).text, text);
+    EXPECT_EQ(lyrics.LineAt(1).text, u"after");
+  }
+}
+
+TEST(Lyrics, GiveSeveralLinesAtOnce) {
+  const TCSongLyrics lyrics = LyricsOf({{u"a", 0, 1, 0}, {u"b", 1, 2, 0}, {u"c", 2, 3, 0}});
+  EXPECT_EQ(lyrics.LinesFrom(1, 1), (std::vector<TCLyric>{{u"b", 1, 2, 0}}));
+  EXPECT_EQ(lyrics.LinesFrom(1, 100).size(), 2U);
+  EXPECT_TRUE(lyrics.LinesFrom(3, 1).empty());
+  EXPECT_TRUE(TCSongLyrics().LinesFrom(0, 1).empty());
 }
 
 TEST(Lyrics, ASingerThatNobodyKnowsIsNoSinger) {
-  const TCSongLyrics lyrics(SheetOf({{u"a", 0, 1, 4}, {u"b", 0, 1, -1}, {u"c", 0, 1, 3}}));
+  const TCSongLyrics lyrics = LyricsOf({{u"a", 0, 1, 4}, {u"b", 0, 1, -1}, {u"c", 0, 1, 3}});
   EXPECT_EQ(lyrics.LineAt(0).singer, 0);
   EXPECT_EQ(lyrics.LineAt(1).singer, 0);
   EXPECT_EQ(lyrics.LineAt(2).singer, 3);
 }
 
 TEST(Lyrics, ACopyHoldsTheSameAndOutlivesTheOriginal) {
-  TCSongLyrics original(SheetOf({{u"line", 1, 2, 3}}, AllHeaders()));
+  TCSongLyrics original = LyricsOf({{u"line", 1, 2, 3}}, AllHeaders());
   const TCSongLyrics copy = original;
   EXPECT_EQ(copy, original);
   original = TCSongLyrics();
@@ -96,12 +124,12 @@ TEST(Lyrics, ACopyHoldsTheSameAndOutlivesTheOriginal) {
 }
 
 TEST(Lyrics, AreEqualWhenLinesAndHeaderValuesAre) {
-  const TCSongLyrics one(SheetOf({{u"line", 1, 2, 3}}, AllHeaders()));
-  EXPECT_EQ(one, TCSongLyrics(SheetOf({{u"line", 1, 2, 3}}, AllHeaders())));
-  EXPECT_NE(one, TCSongLyrics(SheetOf({{u"line", 1, 2, 3}})));
-  EXPECT_NE(one, TCSongLyrics(SheetOf({{u"line", 1, 3, 3}}, AllHeaders())));
-  EXPECT_NE(one, TCSongLyrics(SheetOf({{u"other", 1, 2, 3}}, AllHeaders())));
-  EXPECT_NE(one, TCSongLyrics(SheetOf({{u"line", 1, 2, 3}, {u"line", 1, 2, 3}}, AllHeaders())));
+  const TCSongLyrics one = LyricsOf({{u"line", 1, 2, 3}}, AllHeaders());
+  EXPECT_EQ(one, LyricsOf({{u"line", 1, 2, 3}}, AllHeaders()));
+  EXPECT_NE(one, LyricsOf({{u"line", 1, 2, 3}}));
+  EXPECT_NE(one, LyricsOf({{u"line", 1, 3, 3}}, AllHeaders()));
+  EXPECT_NE(one, LyricsOf({{u"other", 1, 2, 3}}, AllHeaders()));
+  EXPECT_NE(one, LyricsOf({{u"line", 1, 2, 3}, {u"line", 1, 2, 3}}, AllHeaders()));
   EXPECT_EQ(TCSongLyrics(), TCSongLyrics(TCLyricSheet()));
 }
 

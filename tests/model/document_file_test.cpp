@@ -215,14 +215,6 @@ TEST_F(DocumentFileTest, SongsThatWereTakenForGroupListsAreKeptBesideTheNewFile)
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
 }
 
-TEST_F(DocumentFileTest, AWholeDocumentOfGroupListsLeavesNoCopyBehind) {
-  files.PutUtf16(u"D:\\Docs\\1.brvgl", u"p.brvpl\r\n");
-  files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
-  ASSERT_TRUE(Open(u"1.brvgl\r\n.\\1.BRVGL\r\n"));
-  ASSERT_TRUE(document.SaveSetListDocument(kPath));
-  EXPECT_FALSE(files.BytesOf(u"D:\\Docs\\show.brv~").has_value());
-}
-
 TEST_F(DocumentFileTest, AWholeDocumentLeavesNoCopyBehind) {
   for (const std::u16string_view text :
        {u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n", u"\uFEFF\"A\" \"P1\" \"x.mp3\" 03:00\r\n"}) {
@@ -230,6 +222,15 @@ TEST_F(DocumentFileTest, AWholeDocumentLeavesNoCopyBehind) {
     ASSERT_TRUE(document.SaveSetListDocument(kPath));
     EXPECT_FALSE(files.BytesOf(u"D:\\Docs\\show.brv~").has_value());
   }
+}
+
+TEST_F(DocumentFileTest, TheListOfGroupFilesIsKeptBesideTheSongsThatReplaceIt) {
+  files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
+  ASSERT_TRUE(Open(u"Gone.brvgl\r\nThere.brvgl\r\n"));
+  const auto before = files.BytesOf(kPath);
+  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
 }
 
 TEST_F(DocumentFileTest, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
@@ -246,7 +247,7 @@ TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {
     const std::string name = std::to_string(i % 1000);
     lines.push_back(u"\"G\" \"P" + std::u16string(name.begin(), name.end()) + u"\" \"x.mp3\" 01:00");
   }
-  ASSERT_TRUE(document.LoadFlatDocument(lines));
+  ASSERT_TRUE(document.LoadFlatDocument(JoinUtf16Lines(lines)));
   ASSERT_EQ(store.groups[0].playlists.size(), 1000u);
   EXPECT_EQ(PlaylistOf(0, 999).items.size(), 3u);
 }

@@ -79,14 +79,18 @@ TEST(SetListTest, APathIsCutIntoFolderNameAndType) {
 }
 
 TEST(SetListTest, SongsOfOneFolderShareItsText) {
+  TCSharedTexts texts;
   TCPlayListItem first;
-  first.SetPath(u"C:\\Music\\a.mp3");
-  TCPlayListItem second;
-  second.SetPath(u"C:\\Music\\b.mp3", &first);
-  EXPECT_EQ(&second.folder.str(), &first.folder.str());
+  first.SetPath(u"C:\\Music\\a.mp3", texts);
   TCPlayListItem elsewhere;
-  elsewhere.SetPath(u"D:\\b.mp3", &first);
+  elsewhere.SetPath(u"D:\\b.wav", texts);
+  TCPlayListItem second;
+  second.SetPath(u"C:\\Music\\c.mp3", texts);
+  EXPECT_EQ(second.FullPath(), u"C:\\Music\\c.mp3");
+  EXPECT_EQ(&second.folder.str(), &first.folder.str());
+  EXPECT_EQ(&second.extension.str(), &first.extension.str());
   EXPECT_EQ(elsewhere.folder.str(), u"D:\\");
+  EXPECT_EQ(elsewhere.extension.str(), u"wav");
 }
 
 TEST(SetListStoreTest, NamesAreFoundWhateverTheirCase) {

@@ -23,9 +23,9 @@ class LyricDisplayTest : public testing::Test {
         {{u"M: one", 10000, 20000, 1}, {u"F: two", 20000, 30000, 2}, {u"D: three", 40000, kEndOfLyrics, 3}});
   }
 
-  static TCSongLyrics LyricsOf(std::vector<TCLyric> lines) {
+  static TCSongLyrics LyricsOf(const std::vector<TCLyric>& lines) {
     TCLyricSheet sheet;
-    sheet.lines = std::move(lines);
+    for (const TCLyric& line : lines) sheet.Add(line);
     return TCSongLyrics(sheet);
   }
 

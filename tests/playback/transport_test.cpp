@@ -447,7 +447,8 @@ TEST_F(TransportTest, WithoutAutoPlayTheSongRunsPastTheRepeatRange) {
 
 TEST_F(TransportTest, LyricsFollowThePlayingSong) {
   TCLyricSheet sheet;
-  sheet.lines = {{u"one", 1000, 3000, 0}, {u"two", 3000, kEndOfLyrics, 0}};
+  sheet.Add({u"one", 1000, 3000, 0});
+  sheet.Add({u"two", 3000, kEndOfLyrics, 0});
   Song(0).lyrics = TCSongLyrics(sheet);
   settings.numberLyricLines = 1;
   transport.Play();

@@ -36,6 +36,15 @@ TEST(Numbers, PastThirtyTwoBitsAreRefused) {
   EXPECT_EQ(ReadDecimal(std::u16string(100'000, u'0') + u"7"), 7);
 }
 
+TEST(Numbers, AreReadFromBytesAlike) {
+  EXPECT_EQ(ReadDecimal(" \t-12abc"), -12);
+  EXPECT_EQ(ReadDecimal(""), std::nullopt);
+  EXPECT_EQ(ReadDecimal("\xA0"
+                        "5"),
+            std::nullopt);
+  EXPECT_EQ(ReadDecimal("2147483648"), std::nullopt);
+}
+
 TEST(Numbers, AreWrittenAsTheyAreRead) {
   EXPECT_EQ(FormatDecimal(0), u"0");
   EXPECT_EQ(FormatDecimal(-7), u"-7");

@@ -19,6 +19,15 @@ TEST(SharedText, IsEmptyByDefaultAndFromAnEmptyText) {
   EXPECT_EQ(TCSharedText(), TCSharedText(u""));
 }
 
+TEST(SharedText, EqualTextsOfOnePoolAreHeldOnce) {
+  TCSharedTexts texts;
+  const TCSharedText folder = texts.Share(u"C:\\Music\\");
+  EXPECT_EQ(&texts.Share(std::u16string(u"C:\\Music\\")).str(), &folder.str());
+  EXPECT_EQ(texts.Share(u"c:\\music\\").str(), u"c:\\music\\");
+  EXPECT_TRUE(texts.Share(u"").empty());
+  EXPECT_TRUE(texts.Share(u"").empty());
+}
+
 TEST(SharedText, IsComparedByItsText) {
   EXPECT_EQ(TCSharedText(u"a"), TCSharedText(u"a"));
   EXPECT_FALSE(TCSharedText(u"a") == TCSharedText(u"A"));

@@ -154,6 +154,39 @@ TEST(TextLines, AFileThatCannotBeReadIsRefused) {
   EXPECT_FALSE(ReadTextLines(files, u"a.brv", lines));
 }
 
+TEST(TextLines, TheFirstCanBeHadAlone) {
+  for (const std::u16string_view text :
+       {u"", u"\r", u"\r\n", u"a", u"a\r", u"a\rb", u"a\r\nb\r\n", u"\r\na\r\n", u"\uFEFFa\r\nb",
+        u"\u0D00\u000Aa\r\n", u"\uFEFF", u"\uFEFF\r\na\r\n"}) {
+    const TextLines lines = Split(text);
+    const auto first = FirstUtf16Line(Utf16(text));
+    EXPECT_EQ(first, lines.empty() ? std::nullopt : std::optional(lines.front()))
+        << testing::PrintToString(text);
+  }
+}
+
+TEST(TextLines, AsBytesAreTheSameLinesWhereThatMakesNoDifference) {
+  const auto visit = [](std::string_view bytes, std::vector<std::string>& lines) {
+    return VisitUtf8Lines(bytes, [&lines](std::string_view line) { lines.emplace_back(line); });
+  };
+  std::vector<std::string> lines;
+  EXPECT_TRUE(
+      visit("\xEF\xBB\xBF"
+            "caf\xC3\xA9\r\nb\nb\rxc\r\nd",
+            lines));
+  EXPECT_THAT(lines, ElementsAre("\xEF\xBB\xBF"
+                                 "caf\xC3\xA9",
+                                 "b\nb", "c"));
+  lines.clear();
+  EXPECT_TRUE(visit("one", lines));
+  EXPECT_THAT(lines, ElementsAre("one"));
+
+  lines.clear();
+  EXPECT_FALSE(visit("caf\xE9\r\n", lines));              // Windows-1252
+  EXPECT_FALSE(visit("a\r\xF0\x9F\x8E\xB5\r\n", lines));  // half of a surrogate pair is swallowed
+  EXPECT_THAT(lines, IsEmpty());
+}
+
 TEST(TextLines, AFilePastTheGreatestSizeIsRefused) {
   class TCHugeFiles final : public TCFileSystem {
    public:

@@ -12,6 +12,15 @@ TEST(Unicode, ReadsUtf8OfEveryLength) {
   EXPECT_EQ(DecodeUtf8("\xF4\x8F\xBF\xBF"), u"\U0010FFFF");
 }
 
+TEST(Unicode, TellsUtf8WithoutReadingIt) {
+  for (const char* bytes :
+       {"", "a", "12345678", "12345678\xC3\xA9", "a\xE2\x82\xAC\xF0\x9F\x8E\xB5 12345678"}) {
+    EXPECT_TRUE(IsUtf8(bytes)) << bytes;
+  }
+  EXPECT_FALSE(IsUtf8("12345678\xE9"));
+  EXPECT_FALSE(IsUtf8("1234567\xC3"));
+}
+
 TEST(Unicode, RefusesWhatIsNoUtf8) {
   for (const char* bytes : {
            "\x80",              // a continuation alone
@@ -29,6 +38,7 @@ TEST(Unicode, RefusesWhatIsNoUtf8) {
            "caf\xE9",
        }) {
     EXPECT_EQ(DecodeUtf8(bytes), std::nullopt) << testing::PrintToString(bytes);
+    EXPECT_FALSE(IsUtf8(bytes)) << testing::PrintToString(bytes);
   }
 }
 

@@ -120,7 +120,8 @@ double TCPlayerDesk::Position() {
 
 std::optional<TCPlayerDesk::Handover> TCPlayerDesk::ReplaceWorkerIfStuck(double limit) {
   const std::lock_guard lock(mutex);
-  if (closed || !busySince || clock() - *busySince < limit) return std::nullopt;
+  const double patience = limit * std::exp2(std::min(slowWorkers, 2));
+  if (closed || !busySince || clock() - *busySince < patience) return std::nullopt;
   busySince.reset();
   ++stuckWorkers;
   return Handover{++worker, checkpoint};
@@ -173,6 +174,7 @@ void TCPlayerDesk::LeaveWork(Ticket ticket) {
   const std::lock_guard lock(mutex);
   if (ticket != worker) {
     --stuckWorkers;
+    ++slowWorkers;
   } else {
     busySince.reset();
   }
@@ -185,6 +187,7 @@ int TCPlayerDesk::StuckWorkers() const {
 
 void TCPlayerDesk::Show(const TCPlayerMachine& machine) {
   TCPlayerSnapshot view = machine.View();
+  if (view.positionSeconds > 0.0 && view.notice == TCPlayerNotice::None) slowWorkers = 0;
   view.volume = shown.volume;
   shownDuration = machine.DurationSeconds();
   const bool ended = machine.Ends() != shownEnds;

@@ -56,7 +56,9 @@ class TCPlayerDesk {
   // not taken for a start that is still to come.
   [[nodiscard]] double Position();
 
-  // Hands the work over when the worker has been at one item for longer than `limit` seconds.
+  // Hands the work over when the worker has been at one item for longer than `limit` seconds. Replaced
+  // workers that come back were only slow, as on a machine with too much to do; the next gets up to four
+  // times as long, until a song sounds again, so that there is an end to replacing.
   [[nodiscard]] std::optional<Handover> ReplaceWorkerIfStuck(double limit);
   // Wakes the worker for the last time and refuses everything after.
   void Close();
@@ -99,6 +101,7 @@ class TCPlayerDesk {
 
   Ticket worker = 1;
   int stuckWorkers = 0;
+  int slowWorkers = 0;
   std::optional<double> busySince;
   TCPlayerMachine checkpoint;
 };

@@ -233,6 +233,27 @@ TEST_F(PlayerDesk, AReplacedWorkerIsNotHeardAnyMoreAndLeaves) {
   EXPECT_TRUE(desk.Publish(handover->ticket, handover->machine));
 }
 
+TEST_F(PlayerDesk, AWorkerAfterOneThatWasOnlySlowGetsMoreTimeUntilASongSounds) {
+  OpenAndPlay();
+  TCPlayerDesk::Item item;
+  double patience = 1.0;
+  for (const double next : {2.0, 4.0, 4.0}) {
+    EXPECT_EQ(desk.WaitForItem(ticket, 0.0, item), TCPlayerDesk::Wake::Tick);
+    now += patience - 0.1;
+    EXPECT_FALSE(desk.ReplaceWorkerIfStuck(1.0)) << patience;
+    now += 0.2;
+    const auto handover = desk.ReplaceWorkerIfStuck(1.0);
+    ASSERT_TRUE(handover) << patience;
+    desk.LeaveWork(ticket);
+    ticket = handover->ticket;
+    patience = next;
+  }
+  Sound(10.0);
+  EXPECT_EQ(desk.WaitForItem(ticket, 0.0, item), TCPlayerDesk::Wake::Tick);
+  now += 1.1;
+  EXPECT_TRUE(desk.ReplaceWorkerIfStuck(1.0));
+}
+
 TEST_F(PlayerDesk, CommandsGivenWhileAWorkerIsStuckReachTheNext) {
   TCPlayerDesk::Item item;
   desk.Load(u"\\a.wav");
