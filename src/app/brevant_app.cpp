@@ -39,6 +39,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .frame = frame,
                 .prompts = prompts,
                 .folders = parts.folders,
+                .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls()}),
       router(frame, document, libraries),
       actions(router, frame),

@@ -187,10 +187,14 @@ TEST_F(KeyFilter, TheMenuBarIsWalkedWithTheArrows) {
   EXPECT_EQ(Type(window.menuBar(), Qt::Key_Right), Ran{});
 }
 
-TEST_F(KeyFilter, AltAloneLeadsIntoTheMenuBar) {
+TEST_F(KeyFilter, AltAloneLeavesTheStageKeysWhereTheyAre) {
+  TCStageStyle style;
+  window.menuBar()->setStyle(&style);
   Focus(list);
   QTest::keyClick(list, Qt::Key_Alt, Qt::AltModifier);
-  EXPECT_EQ(QApplication::focusWidget(), window.menuBar());
+  EXPECT_EQ(QApplication::focusWidget(), list);
+  EXPECT_EQ(Type(list, Qt::Key_P), Ran{TCCommandId::Play});
+  window.menuBar()->setStyle(nullptr);
 }
 
 TEST_F(KeyFilter, AWidgetKeepsTheKeysItHasClaimed) {
