@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "app/stage_style.h"
 #include "fake_target.h"
 
 namespace brevant {
