@@ -77,6 +77,19 @@ Touched TouchFiles(const std::vector<NativeNames>& names) {
   return touched;
 }
 
+struct Samples {
+  std::vector<double> wall;
+  std::vector<double> processor;
+
+  void Add(const TCSpent& spent) {
+    wall.push_back(spent.wall);
+    processor.push_back(spent.processor);
+  }
+  void Print(const char* what) const {
+    std::printf("%s %9.2f %9.2f\n", what, Median(wall), Median(processor));
+  }
+};
+
 int Measure(const std::u16string& path) {
   TCOpenedDocument first;
   if (!first.Open(path)) return EXIT_FAILURE;
@@ -86,22 +99,25 @@ int Measure(const std::u16string& path) {
               touched.lyricFiles, touched.lyricBytes);
 
   // One after the other, so that whatever else the machine does meets both.
-  std::vector<double> floors;
-  std::vector<double> opens;
-  std::vector<double> ratios;
-  std::vector<double> saves;
+  Samples floor;
+  Samples open;
+  Samples ratio;
+  Samples save;
   for (int repetition = 0; repetition < kRepetitions; ++repetition) {
-    floors.push_back(Milliseconds([&] { (void)TouchFiles(names); }));
+    const TCSpent floorSpent = Spent([&] { (void)TouchFiles(names); });
     TCOpenedDocument opened;  // new each time: what it remembers of the folders would spare the next one work
-    opens.push_back(Milliseconds([&] { (void)opened.Open(path); }));
-    ratios.push_back(opens.back() / floors.back());
-    saves.push_back(Milliseconds([&] { (void)opened.file.SaveSetListDocument(path + u".saved.brv"); }));
+    const TCSpent openSpent = Spent([&] { (void)opened.Open(path); });
+    floor.Add(floorSpent);
+    open.Add(openSpent);
+    ratio.Add({openSpent.wall / floorSpent.wall, openSpent.processor / floorSpent.processor});
+    save.Add(Spent([&] { (void)opened.file.SaveSetListDocument(path + u".saved.brv"); }));
     opened.files.DeleteFile(path + u".saved.brv");
   }
-  std::printf("floor, file opens only   %8.1f ms\n", Median(floors));
-  std::printf("open the document        %8.1f ms\n", Median(opens));
-  std::printf("open / floor             %8.2f\n", Median(ratios));
-  std::printf("save the document        %8.1f ms\n", Median(saves));
+  std::printf("medians of %d              clock  processor\n", kRepetitions);
+  floor.Print("file opens alone, ms   ");
+  open.Print("open the document, ms  ");
+  ratio.Print("open / file opens      ");
+  save.Print("save the document, ms  ");
   return EXIT_SUCCESS;
 }
 

@@ -112,7 +112,38 @@ View<Char> TagIn(View<Char> line, std::size_t tagEnd) {
   return line.substr(0, tagEnd).substr(std::min<std::size_t>(tagEnd, 1));
 }
 
+// What nearly every line of a lyric file begins with, "[" digits ":" digits "." digits "]", read in one go.
+struct PlainTag {
+  std::size_t end = 0;  // where its ']' stands; 0 when the line begins with anything else
+  std::int32_t time = 0;
+};
+
+PlainTag ReadPlainTag(std::string_view line) {
+  constexpr std::size_t kMostDigits = 4;  // far from any limit of a number
+  constexpr std::string_view kEnds = ":.]";
+  std::array<std::int32_t, kEnds.size()> numbers{};
+  std::size_t at = 0;
+  if (line.empty() || line[at++] != '[') return {};
+  for (std::size_t part = 0; part < kEnds.size(); ++part) {
+    const std::size_t begin = at;
+    for (; at < line.size() && line[at] >= '0' && line[at] <= '9'; ++at) {
+      if (at - begin == kMostDigits) return {};
+      numbers[part] = numbers[part] * 10 + (line[at] - '0');
+    }
+    if (at == line.size() || line[at++] != kEnds[part]) return {};
+  }
+  return {at - 1, (numbers[0] * 60 + numbers[1]) * 1000 + numbers[2]};
+}
+
+void AddByteLine(std::string_view line, std::size_t tagEnd, std::int32_t time, TCLyricSheet& sheet) {
+  const std::string_view text = TextBehindTags(line.substr(tagEnd + 1));
+  sheet.Add(text, time, kEndOfLyrics, SingerOf(text));
+}
+
 void ParseByteLine(std::string_view line, TCLyricSheet& sheet) {
+  if (const PlainTag plain = ReadPlainTag(line); plain.end > 0) {
+    return AddByteLine(line, plain.end, plain.time, sheet);
+  }
   if (line.find('[') == kNone) return;
   const std::size_t tagEnd = line.find(']');
   if (tagEnd == kNone) return;
@@ -124,9 +155,7 @@ void ParseByteLine(std::string_view line, TCLyricSheet& sheet) {
     sheet.headers.*header->value = DecodeLyricText(HeaderValue(tag, *header));
     return;
   }
-
-  const std::string_view text = TextBehindTags(line.substr(tagEnd + 1));
-  sheet.Add(text, TimeOf(tag), kEndOfLyrics, SingerOf(text));
+  AddByteLine(line, tagEnd, TimeOf(tag), sheet);
 }
 
 // Every line ends where the next one begins. All but the last are moved by the offset; the last keeps its
@@ -148,11 +177,13 @@ void ReadSheet(std::string_view bytes, TCLyricSheet& sheet) {
 }
 
 bool ReadSheet(TCFileSystem& files, std::u16string_view songPath, TCLyricSheet& sheet) {
-  if (const auto bytes = files.ReadFile(ReplaceExtension(songPath, u"lrc"), kMaxLyricFileBytes)) {
+  std::u16string path = ReplaceExtension(songPath, u"lrc");
+  if (const auto bytes = files.ReadFile(path, kMaxLyricFileBytes)) {
     ReadSheet(*bytes, sheet);
     return true;
   }
-  if (const auto bytes = files.ReadFile(ReplaceExtension(songPath, u"lrcx"), kMaxLyricFileBytes)) {
+  path += u'x';
+  if (const auto bytes = files.ReadFile(path, kMaxLyricFileBytes)) {
     VisitUtf16Lines(*bytes, [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); });
     return true;
   }

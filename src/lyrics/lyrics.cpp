@@ -37,16 +37,29 @@ constexpr std::array<HeaderField, kHeaderCount> kHeaderFields = {
 // its length. A line says how far its start is from the end of the line before it, nearly always 0, how long
 // it lasts, its text's length and singer in one number, and its text.
 
-void PutNumber(std::string& block, std::uint64_t number) {
-  for (; number >= 0x80; number >>= 7) block.push_back(static_cast<char>(0x80U | (number & 0x7FU)));
-  block.push_back(static_cast<char>(number));
-}
+constexpr std::size_t kMostNumberBytes = 10;
 
-// Numbers near 0 are small whatever their sign.
-void PutSigned(std::string& block, std::int64_t number) {
-  const auto bits = static_cast<std::uint64_t>(number);
-  PutNumber(block, number < 0 ? ~(bits << 1) : bits << 1);
-}
+class Writer {
+ public:
+  // Of a block that can hold all that is to be put.
+  explicit Writer(char* block) : at(block) {}
+
+  void PutNumber(std::uint64_t number) {
+    for (; number >= 0x80; number >>= 7) *at++ = static_cast<char>(0x80U | (number & 0x7FU));
+    *at++ = static_cast<char>(number);
+  }
+  // Numbers near 0 are small whatever their sign.
+  void PutSigned(std::int64_t number) {
+    const auto bits = static_cast<std::uint64_t>(number);
+    PutNumber(number < 0 ? ~(bits << 1) : bits << 1);
+  }
+  void PutText(std::string_view text) { at = std::copy(text.begin(), text.end(), at); }
+
+  [[nodiscard]] const char* End() const { return at; }
+
+ private:
+  char* at;
+};
 
 class Reader {
  public:
@@ -106,28 +119,34 @@ class LineReader {
 };
 
 std::string Pack(const TCLyricSheet& sheet) {
-  std::string block;
-  block.reserve(sheet.text.size() + 8 * sheet.lines.size() + 128);
-  PutNumber(block, sheet.lines.size());
-  std::string value;
-  for (const HeaderField field : kHeaderFields) {
-    value.clear();
-    EncodeLyricText(value, sheet.headers.*field);
-    PutNumber(block, value.size());
-    block += value;
+  std::array<std::string, kHeaderCount> headers;
+  std::size_t most = sheet.text.size() + kMostNumberBytes * (1 + kHeaderCount + 3 * sheet.lines.size());
+  for (std::size_t header = 0; header < kHeaderCount; ++header) {
+    EncodeLyricText(headers[header], sheet.headers.*kHeaderFields[header]);
+    most += headers[header].size();
   }
+
+  std::string block(most, '\0');
+  Writer writer(block.data());
+  writer.PutNumber(sheet.lines.size());
+  for (const std::string& header : headers) {
+    writer.PutNumber(header.size());
+    writer.PutText(header);
+  }
+  const std::string_view texts = sheet.text;
   std::size_t textBegin = 0;
   std::int64_t previousEnd = 0;
   for (const TCLyricSheet::Line& line : sheet.lines) {
     const bool known = line.singer >= 0 && line.singer <= 3;
     const std::size_t length = line.textEnd - textBegin;
-    PutSigned(block, line.start - previousEnd);
-    PutSigned(block, std::int64_t{line.end} - line.start);
-    PutNumber(block, std::uint64_t{length} << 2 | (known ? static_cast<std::uint64_t>(line.singer) : 0));
-    block.append(sheet.text, textBegin, length);
+    writer.PutSigned(line.start - previousEnd);
+    writer.PutSigned(std::int64_t{line.end} - line.start);
+    writer.PutNumber(std::uint64_t{length} << 2 | (known ? static_cast<std::uint64_t>(line.singer) : 0));
+    writer.PutText(texts.substr(textBegin, length));
     textBegin = line.textEnd;
     previousEnd = line.end;
   }
+  block.resize(static_cast<std::size_t>(writer.End() - block.data()));
   return block;
 }
 

@@ -1,6 +1,8 @@
 #include "model/document_file.h"
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 #include <unordered_map>
 
 #include "lyrics/lyric_file.h"
@@ -68,6 +70,29 @@ class NameIndex {
   std::u16string lastPlaylistName;
 };
 
+// Status and lyrics of every song. Folder by folder, however the playlists mix them: each is looked into
+// once.
+void ReadSongFiles(TCFileSystem& files, TCSetListStore& store) {
+  std::vector<TCPlayListItem*> songs;
+  for (TCPlayGroups& group : store.groups) {
+    for (TCPlayList& playlist : group.playlists) {
+      for (TCPlayListItem& song : playlist.items) songs.push_back(&song);
+    }
+  }
+  // Equal folders are one text here, so its place in memory tells them apart.
+  const auto folderOf = [](const TCPlayListItem* song) { return &song->folder.str(); };
+  std::stable_sort(songs.begin(), songs.end(), [&](const TCPlayListItem* a, const TCPlayListItem* b) {
+    return std::less<>()(folderOf(a), folderOf(b));
+  });
+
+  const TCManyFiles many(files);
+  for (TCPlayListItem* song : songs) {
+    const std::u16string path = song->FullPath();
+    song->status = SongFileStatus(files, path);
+    LoadLyrics(files, path, song->lyrics);
+  }
+}
+
 }  // namespace
 
 TCDocumentFile::TCDocumentFile(TCFileSystem& fileSystem, TCSetListStore& setLists,
@@ -116,18 +141,17 @@ bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
 bool TCDocumentFile::LoadFlatDocument(std::string_view bytes) {
   store.groups.clear();
   NameIndex names(store);
-  TCSharedTexts texts;
+  TCSongTexts texts;
   VisitUtf16Lines(bytes, [&](std::u16string_view text) {
     const TCFlatLine line = ParseFlatLine(text);
     TCPlayListItem& song = names.PlaylistFor(line).items.emplace_back();
     song.SetPath(line.path, texts);
     song.time = line.time;
-    song.status = SongFileStatus(files, line.path);
-    LoadLyrics(files, line.path, song.lyrics);
   });
   for (TCPlayGroups& group : store.groups) {
     for (TCPlayList& playlist : group.playlists) playlist.items.shrink_to_fit();
   }
+  ReadSongFiles(files, store);
   return true;
 }
 

@@ -10,7 +10,7 @@ namespace brevant {
 namespace {
 
 void SetSongFromLine(TCFileSystem& files, TCPlayListItem& song, std::u16string_view line,
-                     TCSharedTexts& texts) {
+                     TCSongTexts& texts) {
   std::u16string_view path = line;
   // A star in the first place is part of the name: there would be no path before it.
   if (const std::size_t star = line.find(u'*'); star != std::u16string_view::npos && star > 0) {
@@ -30,7 +30,7 @@ bool LoadPlaylistFile(TCFileSystem& files, const TCSetListStore& store, TCPlayLi
   if (lines.empty()) return true;
 
   playlist.items.resize(lines.size());
-  TCSharedTexts texts;
+  TCSongTexts texts;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     SetSongFromLine(files, playlist.items[i], lines[i], texts);
   }

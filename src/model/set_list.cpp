@@ -41,10 +41,10 @@ void TCPlayListItem::SetPath(std::u16string_view path) {
   extension = ExtensionPart(path);
 }
 
-void TCPlayListItem::SetPath(std::u16string_view path, TCSharedTexts& texts) {
+void TCPlayListItem::SetPath(std::u16string_view path, TCSongTexts& texts) {
   fileName = FileNamePart(path);
-  folder = texts.Share(FolderPart(path));
-  extension = texts.Share(ExtensionPart(path));
+  folder = texts.folders.Share(FolderPart(path));
+  extension = texts.extensions.Share(ExtensionPart(path));
 }
 
 }  // namespace brevant

@@ -28,6 +28,12 @@ enum class TCPlayMark : std::uint8_t { Ordinary = 0, Next = 1, Current = 2, Prev
 [[nodiscard]] const TCSharedText& DefaultOption1();  // "30"
 [[nodiscard]] const TCSharedText& DefaultOption2();  // "Yes"
 
+// What the songs of a document or playlist share while it is loaded.
+struct TCSongTexts {
+  TCSharedTexts folders;
+  TCSharedTexts extensions;
+};
+
 // There can be a hundred thousand of these, so the texts that most of them have alike are shared.
 struct TCPlayListItem {
   std::u16string fileName;  // with its type
@@ -47,7 +53,7 @@ struct TCPlayListItem {
   // Takes file name, folder and type from `path`.
   void SetPath(std::u16string_view path);
   // The same; folder and type are shared with the other songs that were given `texts`.
-  void SetPath(std::u16string_view path, TCSharedTexts& texts);
+  void SetPath(std::u16string_view path, TCSongTexts& texts);
 };
 
 struct TCPlayList {

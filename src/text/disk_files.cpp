@@ -20,6 +20,11 @@ namespace brevant {
 
 namespace {
 
+// Also behind a drive, which alone may lead anywhere.
+bool EndsFolder(char16_t unit) {
+  return unit == u'\\' || unit == u'/' || unit == u':';
+}
+
 bool IsThere(const std::string& native) {
   struct stat status {};
   return lstat(native.c_str(), &status) == 0;
@@ -42,11 +47,11 @@ TCDiskFiles::TCDiskFiles(TCNativePaths nativePaths, TCOtherCase::Clock clock)
     : paths(std::move(nativePaths)), otherCase(std::move(clock)) {}
 
 bool TCDiskFiles::FileExists(std::u16string_view path) {
-  return OpenForReading(path).file.IsOpen();
+  return OpenForReading(path, Expect::Found).file.IsOpen();
 }
 
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
-  const OpenedFile opened = OpenForReading(path);
+  const OpenedFile opened = OpenForReading(path, Expect::Missing);
   if (!opened.file.IsOpen() || opened.size > maxBytes) return std::nullopt;
 
   // A file can grow or shrink while it is read, and some files of the system's say 0 and hold something. One
@@ -71,16 +76,21 @@ bool TCDiskFiles::ReplaceFile(std::u16string_view path, std::string_view bytes) 
   const std::string native = paths.ToNative(path);
   if (native.empty()) return false;
   const bool replaced = ReplaceFileSafely(Locate(native), bytes);
-  otherCase.Forget();
+  ForgetFolders();
   return replaced;
 }
 
 bool TCDiskFiles::CopyFile(std::u16string_view from, std::u16string_view to) {
+  const std::string source = Locate(paths.ToNative(from));
+  const std::string target = Locate(paths.ToNative(to));
+  ForgetFolders();
+  // A second name for the file takes no space and is there at once. It stays as it is because ReplaceFile
+  // never writes into the old file.
+  unlink(target.c_str());
+  if (linkat(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
   std::error_code failure;
-  const bool copied = std::filesystem::copy_file(Locate(paths.ToNative(from)), Locate(paths.ToNative(to)),
-                                                 std::filesystem::copy_options::overwrite_existing, failure);
-  otherCase.Forget();
-  return copied && !failure;
+  const auto replacing = std::filesystem::copy_options::overwrite_existing;
+  return std::filesystem::copy_file(source, target, replacing, failure) && !failure;
 }
 
 bool TCDiskFiles::MakeFolder(std::u16string_view path) {
@@ -97,7 +107,7 @@ bool TCDiskFiles::MakeFolder(std::u16string_view path) {
     }
     at = end + 1;
   }
-  otherCase.Forget();
+  ForgetFolders();
   return true;
 }
 
@@ -105,14 +115,25 @@ bool TCDiskFiles::DeleteFile(std::u16string_view path) {
   const std::string native = Locate(paths.ToNative(path));
   if (native.empty()) return true;
   unlink(native.c_str());
-  otherCase.Forget();
+  ForgetFolders();
   return !IsThere(native);
+}
+
+void TCDiskFiles::EndManyFiles() {
+  --manyFiles;
+  if (manyFiles == 0) ForgetFolders();
+}
+
+void TCDiskFiles::ForgetFolders() {
+  atHand = {};
+  otherCase.Forget();
 }
 
 // Regular files only. What else stands there is closed at once, and O_NONBLOCK keeps a FIFO without a writer
 // from holding us up.
-TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(const std::string& native) {
-  OpenedFile opened{TCFileHandle(open(native.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY))};
+TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(int folder, const std::string& native) {
+  constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+  OpenedFile opened{TCFileHandle(openat(folder, native.c_str(), kFlags))};
   if (!opened.file.IsOpen()) {
     opened.nothingThere = errno == ENOENT || errno == ENOTDIR;
     return opened;
@@ -123,21 +144,50 @@ TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(const std::string& native) 
   return opened;
 }
 
-TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path) {
+TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path, Expect expect) {
+  if (manyFiles > 0) {
+    if (std::optional<OpenedFile> opened = OpenAtHand(path, expect)) return *std::move(opened);
+  }
   const std::string native = paths.ToNative(path);
-  OpenedFile opened = OpenRegularFile(native);
+  OpenedFile opened = OpenRegularFile(AT_FDCWD, native);
   if (!opened.nothingThere) return opened;
 
   for (const std::string& found : otherCase.Find(native)) {
-    opened = OpenRegularFile(found);
+    opened = OpenRegularFile(AT_FDCWD, found);
     if (opened.file.IsOpen()) break;
   }
   return opened;
 }
 
+std::optional<TCDiskFiles::OpenedFile> TCDiskFiles::OpenAtHand(std::u16string_view path, Expect expect) {
+  std::size_t nameStart = path.size();
+  while (nameStart > 0 && !EndsFolder(path[nameStart - 1])) --nameStart;
+  if (nameStart < 2 || path[nameStart - 1] == u':') return std::nullopt;
+  const std::u16string_view folder = path.substr(0, nameStart);
+  if (!std::equal(folder.begin(), folder.end(), atHand.path.begin(), atHand.path.end())) TakeFolder(folder);
+  const std::string name = paths.ToNative(path.substr(nameStart));
+  if (atHand.names == nullptr || name.empty()) return std::nullopt;
+
+  OpenedFile opened{{}, 0, true};
+  if (expect == Expect::Missing && atHand.names->IsMissing(name)) return opened;
+  opened = OpenRegularFile(atHand.folder.Get(), name);
+  if (!opened.nothingThere || atHand.names->IsMissing(name)) return opened;
+  return std::nullopt;  // it stands there in other case
+}
+
+void TCDiskFiles::TakeFolder(std::u16string_view folder) {
+  atHand = {};
+  atHand.path = folder;
+  std::string native = paths.ToNative(folder);
+  while (native.size() > 1 && native.back() == '/') native.pop_back();
+  if (native.empty()) return;
+  atHand.folder = TCFileHandle(open(native.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  if (atHand.folder.IsOpen()) atHand.names = otherCase.SoleNames(native);
+}
+
 std::string TCDiskFiles::Locate(const std::string& native) {
   if (native.empty() || IsThere(native)) return native;
-  otherCase.Forget();
+  ForgetFolders();
   const std::vector<std::string> found = otherCase.Find(native);
   if (!found.empty()) return found.front();
 

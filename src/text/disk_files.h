@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "text/file_handle.h"
 #include "text/file_system.h"
 #include "text/native_path.h"
 #include "text/other_case.h"
@@ -33,17 +34,37 @@ class TCDiskFiles final : public TCFileSystem {
   [[nodiscard]] bool MakeFolder(std::u16string_view path) override;
   bool DeleteFile(std::u16string_view path) override;
 
+  void BeginManyFiles() override { ++manyFiles; }
+  void EndManyFiles() override;
+
  private:
   struct OpenedFile;
 
-  [[nodiscard]] static OpenedFile OpenRegularFile(const std::string& native);
-  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path);
+  // While many files are asked for, the folder of the last one stays open.
+  struct FolderAtHand {
+    std::u16string path;  // with the backslash behind it
+    TCFileHandle folder;
+    const TCFolderNames* names = nullptr;
+  };
+
+  void ForgetFolders();
+  // Relative to `folder`, which can be AT_FDCWD.
+  [[nodiscard]] static OpenedFile OpenRegularFile(int folder, const std::string& native);
+  // Decides what is asked first, the disk or the names that are known.
+  enum class Expect { Found, Missing };
+
+  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path, Expect expect);
+  // Empty when the folder at hand cannot tell.
+  [[nodiscard]] std::optional<OpenedFile> OpenAtHand(std::u16string_view path, Expect expect);
+  void TakeFolder(std::u16string_view folder);
   // The name under which something stands there: `native`, or its like in other case, or else `native` within
   // the folder that answers to its folder's name.
   [[nodiscard]] std::string Locate(const std::string& native);
 
   TCNativePaths paths;
   TCOtherCase otherCase;
+  int manyFiles = 0;  // BeginManyFiles that were not ended
+  FolderAtHand atHand;
 };
 
 }  // namespace brevant

@@ -27,7 +27,8 @@ class TCFileSystem {
   // The folder must exist. False when anything failed; the old file is then untouched.
   [[nodiscard]] virtual bool ReplaceFile(std::u16string_view path, std::string_view bytes) = 0;
 
-  // Puts a copy of the file `from` under `to`, replacing what stands there. False when that failed.
+  // Keeps the file `from` under `to` as well, replacing what stands there; a later ReplaceFile of `from`
+  // leaves that copy as it is. False when it failed.
   [[nodiscard]] virtual bool CopyFile(std::u16string_view from, std::u16string_view to) = 0;
 
   // Makes the folder and every missing one above it. True when it stands there afterwards.
@@ -35,6 +36,24 @@ class TCFileSystem {
 
   // False when the file is still there afterwards.
   virtual bool DeleteFile(std::u16string_view path) = 0;
+
+  // From the first to the second many files are asked for at once: see TCManyFiles.
+  virtual void BeginManyFiles() {}
+  virtual void EndManyFiles() {}
+};
+
+// While one lives, questions about one folder that come one after the other may be answered from one look
+// into it: opening a document asks for two lyric files of every song, most of them in vain. A file that
+// appears in that moment may not be seen. What the file system remembers for it is dropped at the end.
+class TCManyFiles {
+ public:
+  explicit TCManyFiles(TCFileSystem& fileSystem) : files(fileSystem) { files.BeginManyFiles(); }
+  TCManyFiles(const TCManyFiles&) = delete;
+  TCManyFiles& operator=(const TCManyFiles&) = delete;
+  ~TCManyFiles() { files.EndManyFiles(); }
+
+ private:
+  TCFileSystem& files;
 };
 
 }  // namespace brevant

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 #include <memory>
 
@@ -36,7 +37,8 @@ std::optional<std::uint32_t> FoldedHash(std::string_view name) {
   constexpr std::uint32_t kSeed = 2166136261U;
   std::uint32_t hash = kSeed;
   const bool ascii = std::all_of(name.begin(), name.end(), [&hash](char byte) {
-    hash = AddToHash(hash, ToLower(static_cast<unsigned char>(byte)));
+    hash = AddToHash(hash, byte >= 'A' && byte <= 'Z' ? static_cast<char16_t>(byte - 'A' + 'a')
+                                                      : static_cast<unsigned char>(byte));
     return static_cast<unsigned char>(byte) < 0x80;
   });
   if (ascii) return hash;
@@ -49,6 +51,7 @@ std::optional<std::uint32_t> FoldedHash(std::string_view name) {
 }
 
 bool SameFolded(std::string_view a, std::string_view b) {
+  if (a == b) return true;
   const std::optional<std::u16string> left = DecodeUtf8(a);
   const std::optional<std::u16string> right = DecodeUtf8(b);
   return left && right && EqualIgnoringCase(*left, *right);
@@ -64,7 +67,9 @@ TCFolderNames TCFolderNames::Read(const std::string& folder) {
   if (!handle) return result;
 
   result.settled = std::time(nullptr) - result.stamp->seconds > kStampGrainSeconds;
+  errno = 0;
   while (const dirent* entry = readdir(handle.get())) result.Add(entry->d_name);
+  result.complete = errno == 0;
   std::sort(result.entries.begin(), result.entries.end(),
             [](const Entry& a, const Entry& b) { return a.hash < b.hash; });
   result.names.shrink_to_fit();
@@ -75,6 +80,12 @@ TCFolderNames TCFolderNames::Read(const std::string& folder) {
 bool TCFolderNames::StillHolds(const std::string& folder) const {
   const std::optional<Stamp> now = StampOf(folder);
   return stamp == now && (settled || !now);
+}
+
+bool TCFolderNames::IsMissing(std::string_view name) const {
+  const bool ascii = std::all_of(name.begin(), name.end(),
+                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+  return ascii && complete && Matches(name).empty();
 }
 
 std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {

@@ -24,6 +24,13 @@ class TCFolderNames {
   // The names equal to `name` without regard to case: `name` itself first, the others in byte order.
   [[nodiscard]] std::vector<std::string> Matches(std::string_view name) const;
 
+  // True when Matches would give nothing, and no other spelling of `name` can stand for it either: a disk may
+  // hold letters outside ASCII in several forms for the same.
+  [[nodiscard]] bool IsMissing(std::string_view name) const;
+
+  // False when the folder could not be read to its end: then there may be names that are not in here.
+  [[nodiscard]] bool Complete() const { return complete; }
+
   [[nodiscard]] std::size_t Count() const { return entries.size(); }
 
  private:
@@ -49,6 +56,7 @@ class TCFolderNames {
   std::vector<Entry> entries;
   std::optional<Stamp> stamp;
   bool settled = false;
+  bool complete = false;
 };
 
 }  // namespace brevant

@@ -46,9 +46,7 @@ TCOtherCase::TCOtherCase(Clock clockToUse) : clock(std::move(clockToUse)) {}
 std::vector<std::string> TCOtherCase::Find(std::string_view native) {
   const auto [folder, name] = Split(native);
   if (native.size() >= PATH_MAX || NamesNoEntry(name)) return {};
-  // Only here, where nothing points into the maps.
-  const bool full = nameCount > kMaxNames || meanings.size() > kMaxFolders;
-  if (full && meanings.find(folder) == meanings.end()) Forget();
+  MakeRoomFor(folder);
 
   const Moment now = clock();
   std::vector<std::string> found;
@@ -58,6 +56,23 @@ std::vector<std::string> TCOtherCase::Find(std::string_view native) {
       found.push_back(Join(candidate->path, match));
   }
   return found;
+}
+
+const TCFolderNames* TCOtherCase::SoleNames(std::string_view folder) {
+  if (folder.size() >= PATH_MAX) return nullptr;
+  MakeRoomFor(folder);
+  const Moment now = clock();
+  const std::vector<Folder*>& candidates = MeaningOf(folder, now).folders;
+  if (candidates.size() != 1 || candidates.front()->path != folder) return nullptr;
+  Folder& sole = *candidates.front();
+  Check(sole, now);
+  return sole.names.Complete() ? &sole.names : nullptr;
+}
+
+// Not where something points into the maps.
+void TCOtherCase::MakeRoomFor(std::string_view folder) {
+  const bool full = nameCount > kMaxNames || meanings.size() > kMaxFolders;
+  if (full && meanings.find(folder) == meanings.end()) Forget();
 }
 
 void TCOtherCase::Forget() {
@@ -116,7 +131,9 @@ std::vector<std::string> TCOtherCase::ReadMeaning(std::string_view written, Mome
     add(Join(parent->path, name));
     if (NamesNoEntry(name)) continue;
     Check(*parent, now);
-    for (const std::string& match : parent->names.Matches(name)) add(Join(parent->path, match));
+    for (const std::string& match : parent->names.Matches(name)) {
+      if (match != name) add(Join(parent->path, match));
+    }
   }
   return found;
 }

@@ -28,6 +28,11 @@ class TCOtherCase {
   // it is there; the nearest first. Usually none.
   [[nodiscard]] std::vector<std::string> Find(std::string_view native);
 
+  // The names in `folder` (no trailing slash) when it stands there as written, no other folder answers to its
+  // name in other case, and all names in it could be read; null in every other case. What the names say holds
+  // for this moment; the pointer for as long as no other folder is asked about and nothing is forgotten.
+  [[nodiscard]] const TCFolderNames* SoleNames(std::string_view folder);
+
   // For after a change that this program made itself.
   void Forget();
 
@@ -52,6 +57,7 @@ class TCOtherCase {
     Moment checked;
   };
 
+  void MakeRoomFor(std::string_view folder);
   Folder& Remember(std::string path, Moment now);
   void Check(Folder& folder, Moment now);
   const Meaning& MeaningOf(std::string_view written, Moment now);

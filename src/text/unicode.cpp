@@ -161,10 +161,11 @@ std::u16string DecodeAnsi(std::string_view bytes) {
 
 std::u16string DecodeUtf16(std::string_view bytes) {
   std::u16string text(bytes.size() / 2, u'\0');
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const auto low = static_cast<std::uint8_t>(bytes[2 * at]);
-    const auto high = static_cast<std::uint8_t>(bytes[2 * at + 1]);
-    text[at] = static_cast<char16_t>(low | high << 8);
+  const char* from = bytes.data();
+  for (char16_t& unit : text) {
+    const auto low = static_cast<std::uint8_t>(*from++);
+    const auto high = static_cast<std::uint8_t>(*from++);
+    unit = static_cast<char16_t>(low | high << 8);
   }
   return text;
 }

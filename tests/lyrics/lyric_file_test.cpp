@@ -200,6 +200,18 @@ TEST_F(LyricFile, EveryLineEndsWhereTheNextBegins) {
   EXPECT_EQ(lyrics.Title(), u"Song");
 }
 
+TEST_F(LyricFile, TagsOfEveryShapeAreReadAlike) {
+  for (const char* tag :
+       {"[1:2.3]", "[0001:0002.0003]", "[00001:2.3]", "[+1:2.3]", "[1:2.3", "[1:2]", "[:.]", "[1.2:3]",
+        "[1:2:3.4]", "[1:2.3.4]", "[1:2.3x]", "[ 1:2.3]", "[9999:9999.9999]", "1:2.3]", "["}) {
+    TCLyricSheet sheet;
+    const std::string line = std::string(tag) + "M: [x] y";
+    ParseLyricLine(std::u16string(line.begin(), line.end()), sheet);
+    const TCSongLyrics loaded = Load(line + "\r\n");
+    EXPECT_EQ(loaded, TCSongLyrics(sheet)) << line;
+  }
+}
+
 TEST_F(LyricFile, TheOffsetMovesEveryLineButTheLast) {
   const TCSongLyrics lyrics = Load("[00:10.00]a\r\n[00:20.00]b\r\n[00:30.00]c\r\n[offset:500]\r\n");
   ASSERT_EQ(lyrics.LineCount(), 3U);

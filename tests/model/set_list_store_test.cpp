@@ -42,6 +42,10 @@ TEST(SetListTest, NewPlaylistsAndGroupsCarryTheirFileTypes) {
   EXPECT_EQ(TCPlayList{}.extension, u"brvpl");
   EXPECT_EQ(TCPlayGroups{}.extension, u"brvgl");
   EXPECT_EQ(TCPlayList{}.totalTime, u"");
+  EXPECT_EQ(TCPlayList{}.folder.str(), u"");
+  EXPECT_EQ(TCPlayList{}.state1, 0);
+  EXPECT_EQ(TCPlayList{}.state2, 0);
+  EXPECT_EQ(TCPlayList{}.state3, 0);
 }
 
 TEST(SetListTest, StatusTextsAreTheStringTables) {
@@ -79,7 +83,7 @@ TEST(SetListTest, APathIsCutIntoFolderNameAndType) {
 }
 
 TEST(SetListTest, SongsOfOneFolderShareItsText) {
-  TCSharedTexts texts;
+  TCSongTexts texts;
   TCPlayListItem first;
   first.SetPath(u"C:\\Music\\a.mp3", texts);
   TCPlayListItem elsewhere;

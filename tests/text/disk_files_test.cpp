@@ -152,6 +152,55 @@ TEST_F(DiskFiles, AFileThatAppearsInOtherCaseIsSeenAfterAMoment) {
   EXPECT_TRUE(files.FileExists(folder.Model("a.mp3")));
 }
 
+TEST_F(DiskFiles, AmongManyFilesTheAnswersAreTheSame) {
+  folder.Write("Music/Song.mp3", "song");
+  folder.Write("Music/SONG.LRC", "other case");
+  folder.Write("Music/Caf\xC3\xA9.lrc", "accent");
+  folder.Write("Twin/a.lrc", "a");
+  folder.Write("TWIN/b.lrc", "b");
+  folder.MakeFolder("Music/Folder.mp3");
+  const auto answers = [this] {
+    std::vector<std::optional<std::string>> all;
+    for (const char* name :
+         {"Music/Song.mp3", "Music/Song.lrc", "Music/Song.lrcx", "MUSIC/song.mp3", "Music/Caf\xC3\xA9.lrc",
+          "Music/CAF\xC3\x89.lrc", "Music/Folder.mp3", "Music/..", "Music/", "None/a.lrc", "Twin/a.lrc",
+          "Twin/b.lrc", "twin/b.lrc", "Twin/c.lrc", "Music//Song.mp3"}) {
+      all.push_back(files.ReadFile(folder.Model(name), kAnySize));
+      EXPECT_EQ(files.FileExists(folder.Model(name)), all.back().has_value()) << name;
+    }
+    all.push_back(files.ReadFile(u"Song.mp3", kAnySize));
+    all.push_back(files.ReadFile(u"C:Song.mp3", kAnySize));
+    all.push_back(files.ReadFile(u"", kAnySize));
+    return all;
+  };
+  const auto one = answers();
+  EXPECT_EQ(one[0], "song");
+  EXPECT_EQ(one[11], "b");
+  const TCManyFiles many(files);
+  EXPECT_EQ(answers(), one);
+}
+
+TEST_F(DiskFiles, AmongManyFilesAFolderIsLookedIntoOnce) {
+  folder.Write("Song.mp3");
+  folder.Write("Other/Song.mp3");
+  {
+    const TCManyFiles many(files);
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrc"), kAnySize), std::nullopt);
+    folder.Write("Song.lrc", "new");
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrc"), kAnySize), std::nullopt);
+
+    now += TCOtherCase::kTrust;
+    EXPECT_TRUE(files.FileExists(folder.Model("Other/Song.mp3")));
+    EXPECT_EQ(files.ReadFile(folder.Model("Song.lrc"), kAnySize), "new");
+
+    EXPECT_TRUE(files.ReplaceFile(folder.Model("Other/Song.lrc"), "our own"));
+    EXPECT_EQ(files.ReadFile(folder.Model("Other/Song.lrc"), kAnySize), "our own");
+    EXPECT_EQ(files.ReadFile(folder.Model("Late.lrc"), kAnySize), std::nullopt);
+    folder.Write("Late.lrc", "new");
+  }
+  EXPECT_EQ(files.ReadFile(folder.Model("Late.lrc"), kAnySize), "new");
+}
+
 TEST_F(DiskFiles, AFileOfOurOwnIsSeenInAnyCaseAtOnce) {
   EXPECT_FALSE(files.FileExists(folder.Model("show.brv")));
   EXPECT_TRUE(files.ReplaceFile(folder.Model("Show.brv"), "abc"));

@@ -110,6 +110,38 @@ TEST_F(OtherCase, AFolderThatWasChangedJustBeforeIsReadAgainWhateverItsStamp) {
   EXPECT_THAT(otherCase.Find(folder.Native("Music/SONG.mp3")), ElementsAre(folder.Native("Music/song.mp3")));
 }
 
+TEST_F(OtherCase, TheNamesOfAFolderThatStandsAloneAreKnown) {
+  folder.Write("Music/Song.lrc");
+  const TCFolderNames* names = otherCase.SoleNames(folder.Native("Music"));
+  ASSERT_NE(names, nullptr);
+  EXPECT_TRUE(names->IsMissing("Other.lrc"));
+  EXPECT_FALSE(names->IsMissing("Song.lrc"));
+  EXPECT_FALSE(names->IsMissing("SONG.lrc"));
+  EXPECT_FALSE(names->IsMissing("Caf\xC3\xA9.lrc"));  // another spelling may stand there
+  EXPECT_FALSE(names->IsMissing(".."));
+}
+
+TEST_F(OtherCase, TheNamesOfAFolderThatIsNotAloneOrNotThereAreNotEnough) {
+  folder.Write("Music/Song.lrc");
+  EXPECT_EQ(otherCase.SoleNames(folder.Native("None")), nullptr);
+  EXPECT_EQ(otherCase.SoleNames(folder.Native("music")), nullptr);
+  EXPECT_EQ(otherCase.SoleNames(folder.Native("Music/Song.lrc")), nullptr);
+  folder.MakeFolder("MUSIC");
+  otherCase.Forget();
+  EXPECT_EQ(otherCase.SoleNames(folder.Native("Music")), nullptr);
+}
+
+TEST_F(OtherCase, TheNamesOfAFolderThatCannotBeReadAreNotKnown) {
+  folder.Write("Music/Song.lrc");
+  ASSERT_EQ(chmod(folder.Native("").c_str(), 0755), 0);
+  ASSERT_EQ(chmod(folder.Native("Music").c_str(), 0311), 0);
+  {
+    const TCOrdinaryUser user;
+    EXPECT_EQ(otherCase.SoleNames(folder.Native("Music")), nullptr);
+  }
+  ASSERT_EQ(chmod(folder.Native("Music").c_str(), 0755), 0);
+}
+
 TEST_F(OtherCase, AFolderThatAppearsIsSeen) {
   EXPECT_THAT(otherCase.Find(folder.Native("MUSIC/SONG.mp3")), IsEmpty());
   folder.Write("Music/song.mp3");

@@ -12,6 +12,25 @@ TEST(SharedText, CopiesHoldTheSameText) {
   EXPECT_EQ(&copy.str(), &folder.str());
 }
 
+TEST(SharedText, OutlivesTheCopiesAndTheOriginal) {
+  TCSharedText kept;
+  {
+    TCSharedText folder = u"C:\\A folder with a long name\\";
+    kept = folder;
+    folder = TCSharedText(u"D:\\");
+    const TCSharedText moved = std::move(kept);
+    kept = moved;
+    kept = *&kept;
+  }
+  EXPECT_EQ(kept.str(), u"C:\\A folder with a long name\\");
+  kept = {};
+  EXPECT_TRUE(kept.empty());
+}
+
+TEST(SharedText, IsOnePointer) {
+  EXPECT_EQ(sizeof(TCSharedText), sizeof(void*));
+}
+
 TEST(SharedText, IsEmptyByDefaultAndFromAnEmptyText) {
   EXPECT_TRUE(TCSharedText().empty());
   EXPECT_TRUE(TCSharedText(u"").empty());

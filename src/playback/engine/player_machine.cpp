@@ -7,8 +7,9 @@ namespace brevant {
 
 namespace {
 
-// How often the position is read while something moves.
+// How often the position is read while something moves, and while its first move is awaited.
 constexpr double kTick = 0.04;
+constexpr double kStartTick = 0.01;
 // After a pause the position settles within this time.
 constexpr double kPauseSettles = 0.3;
 // A stuck worker is asked about this often.
@@ -94,11 +95,11 @@ void TCPlayerMachine::Pause(double now, Actions& actions) {
   }
   // A pipeline that waits in PAUSED before it ever sounded starts late by all the time it waited, so one that
   // has not begun is built again on Play.
-  DiscardPipeline(actions);
+  DropSound(actions);
 }
 
 void TCPlayerMachine::Stop(Actions& actions) {
-  DiscardPipeline(actions);
+  DropSound(actions);
   Rest();
   if (file == File::Failed) return;
   notice = TCPlayerNotice::None;
@@ -197,7 +198,7 @@ std::optional<double> TCPlayerMachine::TickDueIn(double now) const {
   if (file == File::Opening || file == File::Probing || (file == File::Ready && lengthPending))
     at(loadDeadline);
   if (sound == Sound::Lost) at(std::max(retryAt, now + kStuckTick / 2));
-  if (HasPipeline() && want == Want::Playing) at(now + kTick);
+  if (HasPipeline() && want == Want::Playing) at(now + (sound == Sound::Running ? kTick : kStartTick));
   if (HasPipeline() && want == Want::Paused && now < pausedAt + kPauseSettles) at(now + kTick);
   return due;
 }
@@ -244,6 +245,10 @@ void TCPlayerMachine::DiscardPipeline(Actions& actions) {
   seekAgain = false;
   resumeWhenThere = false;
   endReached = false;
+}
+
+void TCPlayerMachine::DropSound(Actions& actions) {
+  if (sound != Sound::None) DiscardPipeline(actions);
 }
 
 void TCPlayerMachine::Rest() {

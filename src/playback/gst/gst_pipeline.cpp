@@ -29,7 +29,8 @@ std::pair<TCGstRef<GstElement>, TCGstRef<GstElement>> MakeSoundBin(GstElement* s
   TCGstRef<GstElement> volume = OwnElement(gst_element_factory_make("volume", nullptr));
   if (!bin || !volume) return {};
   gst_bin_add_many(GST_BIN(bin.get()), volume.get(), sink, nullptr);
-  if (!gst_element_link(volume.get(), sink)) return {};
+  // Without the usual look at what the sink can take: that would ask the sound server, which may not answer.
+  if (!gst_element_link_pads_full(volume.get(), "src", sink, "sink", GST_PAD_LINK_CHECK_NOTHING)) return {};
   const TCGstRef<GstPad> pad(gst_element_get_static_pad(volume.get(), "sink"));
   gst_element_add_pad(bin.get(), gst_ghost_pad_new("sink", pad.get()));
   return {std::move(bin), std::move(volume)};
@@ -129,7 +130,11 @@ bool TCGstPipeline::Assemble(Setup setup) {
   } else {
     soundBin = OwnElement(gst_element_factory_make("fakesink", nullptr));
   }
-  if (!soundBin) return false;
+  if (!soundBin) {
+    // It came opened, and nobody else is going to close it.
+    if (setup.sink) gst_element_set_state(setup.sink.get(), GST_STATE_NULL);
+    return false;
+  }
   const bool isMidi = setup.song->midi != nullptr;
   const std::string uri = isMidi ? kMidiSourceUri : FileUri(setup.song->nativePath);
   g_object_set(pipeline.get(), "flags", kAudioOnly, "uri", uri.c_str(), "audio-sink", soundBin.get(),

@@ -6,7 +6,7 @@
 
 namespace brevant {
 
-TCGstPlayer::TCGstPlayer(TCNativePaths paths, TCGstPlayerOptions options)
+TCGstPlayer::TCGstPlayer(TCNativePaths paths, const TCGstPlayerOptions& options)
     : shared(std::make_shared<TCGstShared>(std::move(paths), options)) {
   waitingWork = {shared->desk.FirstTicket(), TCPlayerMachine(options.limits)};
   StartWorker();

@@ -17,7 +17,7 @@ struct TCGstShared;
 
 class TCGstPlayer final : public TCPlayer, public TCPlayerMonitor {
  public:
-  explicit TCGstPlayer(TCNativePaths paths, TCGstPlayerOptions options = {});
+  explicit TCGstPlayer(TCNativePaths paths, const TCGstPlayerOptions& options = {});
   // Returns within the options' close limit, with or without its threads.
   ~TCGstPlayer() override;
 

@@ -78,7 +78,6 @@ bool TCMidiRenderer::RungOut(fluid_synth_t& fluid) const {
 }
 
 void TCMidiRenderer::RenderPiece(fluid_synth_t& fluid, float* samples, std::size_t frames) {
-  // Short enough that an ear-splitting end of the tail is noticed soon, and that the count fits an int.
   fluid_synth_write_float(&fluid, static_cast<int>(frames), samples, 0, 2, samples, 1, 2);
   frame += static_cast<std::int64_t>(frames);
 }

@@ -15,7 +15,7 @@ class TCMidiRenderer {
  public:
   static constexpr std::size_t kChannels = 2;
   // How long the last notes may ring on after the song's end.
-  static constexpr std::int64_t kTailFrames = 2 * TCMidiSynth::kRate;
+  static constexpr std::int64_t kTailFrames = std::int64_t{2} * TCMidiSynth::kRate;
 
   TCMidiRenderer(std::shared_ptr<TCMidiSynth> synth, std::shared_ptr<const TCMidiSong> song);
 

@@ -16,7 +16,7 @@ std::shared_ptr<TCMidiSynth> TCMidiSynth::Load(const std::vector<std::string>& s
   for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG}) {
     fluid_set_log_function(level, nullptr, nullptr);
   }
-  const std::shared_ptr<TCMidiSynth> made(new TCMidiSynth);
+  std::shared_ptr<TCMidiSynth> made(new TCMidiSynth);
   made->settings = new_fluid_settings();
   if (made->settings == nullptr) return nullptr;
   fluid_settings_setnum(made->settings, "synth.sample-rate", kRate);
