@@ -13,6 +13,9 @@ std::u16string TwoDigits(std::int32_t value) {
 
 // Two characters hold no number past 99, so the sums below stay far inside 32 bits.
 std::int32_t NumberAt(std::u16string_view text, std::size_t position) {
+  const int tens = text[position] - u'0';
+  const int ones = text[position + 1] - u'0';
+  if (tens >= 0 && tens <= 9 && ones >= 0 && ones <= 9) return 10 * tens + ones;  // nearly always, and often
   return ReadDecimal(text.substr(position, 2)).value_or(0);
 }
 
