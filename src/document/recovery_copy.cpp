@@ -27,7 +27,7 @@ std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder
   if (!files.MakeFolder(folder)) return {};
   int failures = 0;
   for (int copy = 1; copy <= kMostCopies && failures < kMostFailures; ++copy) {
-    const std::u16string path = CopyPath(folder, fileName, copy);
+    std::u16string path = CopyPath(folder, fileName, copy);
     if (files.FileExists(path)) continue;
     // Something that is no file may have the name; another name may still do.
     if (WriteTextLines(files, path, lines)) return path;
