@@ -49,7 +49,7 @@ class Stage {
   TCMessageLog messages;
   TCFakePlaylistView view;
   TCPlaylistPresenter presenter{record, view};
-  TCTransport transport{record, files, &player, presenter, messages};
+  TCTransport transport{{record, files, presenter, messages, &player}};
 };
 
 // Nearly all ticks are like this one.

@@ -31,8 +31,16 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       record(LoadRecord(settingsFile)),
       frame(record.settings, parts.player, parts.monitor),
       prompts(frame, record.setLists, parts.paths),
-      document({record, parts.files, &parts.player, frame.PlaylistView(), frame.MessageDisplay(), frame,
-                prompts, parts.folders}),
+      document({.record = record,
+                .files = parts.files,
+                .player = &parts.player,
+                .playlistView = frame.PlaylistView(),
+                .messages = frame.MessageDisplay(),
+                .frame = frame,
+                .prompts = prompts,
+                .folders = parts.folders,
+                .lengthProbe = parts.lengthProbe,
+                .repeatFields = &frame.PlayControls()}),
       router(frame, document, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
@@ -40,6 +48,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)) {
   if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
+  frame.PlayControls().Fill(actions);
   ConnectParts();
   document.OnNewDocument();
 }

@@ -19,6 +19,7 @@
 #include "model/app_record.h"
 #include "model/program_folders.h"
 #include "model/settings_file.h"
+#include "playback/length_probe.h"
 #include "playback/player.h"
 #include "playback/player_monitor.h"
 #include "text/file_system.h"
@@ -33,8 +34,9 @@ struct TCAppParts {
   const TCPlayerMonitor& monitor;
   TCNativePaths paths;
   TCProgramFolders folders;
-  QString layoutFile;     // native; what the user arranged by hand is kept there
-  QStringList libraries;  // for the About box, one "Name version" each
+  QString layoutFile;                    // native; what the user arranged by hand is kept there
+  QStringList libraries;                 // for the About box, one "Name version" each
+  TCLengthProbe* lengthProbe = nullptr;  // null: song times are measured with the player itself
 };
 
 // The file named on the command line.

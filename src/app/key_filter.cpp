@@ -7,8 +7,18 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <utility>
 
 namespace brevant {
+namespace {
+
+// The toolkit's own question stops at the border of a window.
+bool IsPartOf(const QWidget& root, const QWidget* widget) {
+  while (widget != nullptr && widget != &root) widget = widget->parentWidget();
+  return widget != nullptr;
+}
+
+}  // namespace
 
 TCKeyFocus FocusKind(const QWidget* focus) {
   if (qobject_cast<const QMenuBar*>(focus) != nullptr) return TCKeyFocus::Menu;
@@ -50,10 +60,16 @@ TCKeyVerdict TCKeyFilter::VerdictOn(const QKeyEvent& event, const QWidget* focus
   return DecideKey(press);
 }
 
-bool TCKeyFilter::IsOurs(const QWidget& widget) const {
+TCKeyFilter::TCKeyPlace TCKeyFilter::PlaceOf(const QWidget& widget) const {
   const QWidget* window = widget.window();
-  // A pane that floats is a tool window of the main window. Menus and dialogs are windows of other kinds.
-  return window == &mainWindow || (window->windowType() == Qt::Tool && mainWindow.isAncestorOf(window));
+  const bool belongsToMain = IsPartOf(mainWindow, window);
+  if (belongsToMain && window->windowType() == Qt::Dialog) return TCKeyPlace::Dialog;
+  // A pane that floats is a tool window of the main window. A menu is a window of another kind.
+  if (window != &mainWindow && !(belongsToMain && window->windowType() == Qt::Tool)) {
+    return TCKeyPlace::Elsewhere;
+  }
+  // A dialog that has just been opened gets the keyboard only after a moment.
+  return QApplication::activeModalWidget() == nullptr ? TCKeyPlace::MainWindow : TCKeyPlace::BehindDialog;
 }
 
 bool TCKeyFilter::WidgetKeeps(const QWidget* widget, const QKeyEvent& event) const {
@@ -71,12 +87,27 @@ bool TCKeyFilter::eventFilter(QObject* receiver, QEvent* event) {
   }
   if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) return false;
   const auto* widget = qobject_cast<const QWidget*>(receiver);
-  if (widget == nullptr || !IsOurs(*widget)) return false;
+  if (widget == nullptr) return false;
 
   auto& key = *static_cast<QKeyEvent*>(event);
-  if (event->type() == QEvent::ShortcutOverride) return FilterOverride(*widget, key);
-  if (key.key() != swallowedKey) return false;
-  swallowedKey = 0;
+  const int swallowed = std::exchange(swallowedKey, 0);
+  if (event->type() == QEvent::KeyPress) return key.key() == swallowed;
+  switch (PlaceOf(*widget)) {
+    case TCKeyPlace::Elsewhere:
+      return false;
+    case TCKeyPlace::MainWindow:
+      return FilterOverride(*widget, key);
+    case TCKeyPlace::BehindDialog:
+      return Swallow(key);
+    case TCKeyPlace::Dialog:
+      return FilterInDialog(*widget, key);
+  }
+  return false;
+}
+
+bool TCKeyFilter::Swallow(QKeyEvent& event) {
+  swallowedKey = event.key();
+  event.accept();
   return true;
 }
 
@@ -85,7 +116,6 @@ bool TCKeyFilter::eventFilter(QObject* receiver, QEvent* event) {
 bool TCKeyFilter::FilterOverride(const QWidget& receiver, QKeyEvent& event) {
   const QWidget* focus = receiver.window()->focusWidget();
   const TCKeyVerdict verdict = VerdictOn(event, focus != nullptr ? focus : &receiver);
-  swallowedKey = verdict == TCKeyVerdict::Swallow ? event.key() : 0;
   switch (verdict) {
     case TCKeyVerdict::Untouched:
       return false;
@@ -93,9 +123,30 @@ bool TCKeyFilter::FilterOverride(const QWidget& receiver, QKeyEvent& event) {
       event.ignore();
       return true;
     case TCKeyVerdict::Widget:
-    case TCKeyVerdict::Swallow:
       event.accept();
       return true;
+    case TCKeyVerdict::Swallow:
+      return Swallow(event);
+  }
+  return false;
+}
+
+// The main window's shortcuts do not act in front of it, so what is the table's is fired from here.
+bool TCKeyFilter::FilterInDialog(const QWidget& receiver, QKeyEvent& event) {
+  const QWidget* focus = receiver.window()->focusWidget();
+  if (FocusKind(focus) != TCKeyFocus::Typing) return false;
+  switch (VerdictOn(event, focus)) {
+    case TCKeyVerdict::Untouched:
+    case TCKeyVerdict::Widget:
+      return false;
+    case TCKeyVerdict::Table: {
+      QAction* action = actions.ActionOf(actions.CommandOfKey(event.key(), event.modifiers()).command);
+      if (action == nullptr) return false;
+      action->trigger();
+      return Swallow(event);
+    }
+    case TCKeyVerdict::Swallow:
+      return Swallow(event);
   }
   return false;
 }

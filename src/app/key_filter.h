@@ -1,5 +1,6 @@
-// Sees every key before it becomes a shortcut and says who has it: see TCKeyRules. One for the application,
-// for the main window and its floating panes; dialogs keep their keys to themselves.
+// Sees every key before it becomes a shortcut and says who has it: see key_rules.h. One for the application,
+// for the main window and its floating panes. A dialog keeps its keys to itself, but where text is typed into
+// one the function and media keys still perform the show; the window behind it has none at all.
 #pragma once
 
 #include <QKeyEvent>
@@ -30,15 +31,18 @@ class TCKeyFilter : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  [[nodiscard]] bool IsOurs(const QWidget& widget) const;
+  enum class TCKeyPlace { Elsewhere, MainWindow, BehindDialog, Dialog };
+  [[nodiscard]] TCKeyPlace PlaceOf(const QWidget& widget) const;
   [[nodiscard]] bool WidgetKeeps(const QWidget* widget, const QKeyEvent& event) const;
   bool FilterOverride(const QWidget& receiver, QKeyEvent& event);
+  bool FilterInDialog(const QWidget& receiver, QKeyEvent& event);
+  bool Swallow(QKeyEvent& event);
 
   const TCCommandActions& actions;
   QWidget& mainWindow;
   std::vector<std::pair<QPointer<QWidget>, TCKeepsKey>> keepers;
   TCHeldKeys heldKeys;
-  int swallowedKey = 0;  // its press, which follows the swallowed shortcut, goes the same way
+  int swallowedKey = 0;  // its press, if one follows the swallowed shortcut, goes the same way
 };
 
 // What the keyboard is used for while `focus` has it; null is ordinary.

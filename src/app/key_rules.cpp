@@ -32,7 +32,7 @@ TCKeyVerdict DecideOwner(const TCKeyPress& press) {
       break;
   }
   if (press.widgetKeepsIt) return TCKeyVerdict::Widget;
-  // What is no command's goes its usual way: Alt alone to the menu bar, Page Down to the list.
+  // What is no command's goes its usual way: Alt with a letter to the menu bar, Page Down to the list.
   return press.bound ? TCKeyVerdict::Table : TCKeyVerdict::Untouched;
 }
 

@@ -11,6 +11,7 @@
 #include "app/picture_icon.h"
 #include "app/stage_style.h"
 #include "app/termination_signals.h"
+#include "playback/gst/gst_length_probe.h"
 #include "playback/gst/gst_player.h"
 #include "playback/gst/library_versions.h"
 #include "text/disk_files.h"
@@ -63,9 +64,10 @@ int main(int argc, char** argv) {
   const TCNativePaths paths(ReadDriveFolders(ownFiles, folders.settings));
   TCDiskFiles files(paths);
   TCGstPlayer player(paths);
+  TCGstLengthProbe lengthProbe(paths);
 
   const QString layoutFile = QFile::decodeName(paths.ToNative(folders.settings + u"Layout.ini").c_str());
-  TCBrevantApp program({files, player, player, paths, folders, layoutFile, LibraryNames()});
+  TCBrevantApp program({files, player, player, paths, folders, layoutFile, LibraryNames(), &lengthProbe});
   TCTerminationSignals terminationSignals;
   QObject::connect(&terminationSignals, &TCTerminationSignals::endWanted, &program,
                    &TCBrevantApp::EndSession);

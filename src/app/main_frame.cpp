@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusTipEvent>
+#include <algorithm>
 
 #include "app/picture_icon.h"
 #include "app/stage_palette.h"
@@ -18,6 +19,8 @@ constexpr QSize kDefaultSize(1600, 1000);
 // Kept free for the title bar and borders that a window manager adds.
 constexpr QSize kWindowBorders(16, 48);
 constexpr QSize kPaneSize(400, 200);
+// The panes below the playlist have a third of a tall window: three lyric lines of the usual size.
+constexpr int kPaneShare = 3;
 constexpr std::int32_t kMessageLines = 1024;
 constexpr int kFullVolume = 100;
 
@@ -29,10 +32,12 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
       view(new TCBrevantView(inner)),
       playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
       messageDisplay(new TCGeneralReportsTab(inner)),
+      playControls(new TCPlayControlsBar(this)),
       statusLine(new TCStatusLine(this)) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
   menuBar()->setAccessibleName(ToQString(TextOf(TCTextId::MainToolbar)));
+  addToolBar(Qt::TopToolBarArea, playControls);
   setStatusBar(statusLine);
   // By itself a main window is always a window of its own, whatever its parent.
   inner->setWindowFlags(Qt::Widget);
@@ -43,15 +48,16 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
 
   playerDock = AddPane(TCCommandId::PlayerPane, TCTextId::PlayerPaneTitle, *playerPane);
   messageDock = AddPane(TCCommandId::MessagePane, TCTextId::MessagePaneTitle, *messageDisplay);
+  PlaceOnScreen();
   ArrangePanes();
 
+  connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
   view->SetRowPicture(PictureIcon(kRowIcon));
   player.SetVolume(kFullVolume);
   messageDisplay->Enable(kMessageLines);
   ShowTitle({}, TCModifiedMark::Clean);
   ShowOptions();
   messageDisplay->AppendMessage(TCTextId::Banner);
-  PlaceOnScreen();
 }
 
 TCMainFrame::~TCMainFrame() {
@@ -81,7 +87,7 @@ void TCMainFrame::ArrangePanes() {
   inner->addDockWidget(Qt::BottomDockWidgetArea, playerDock);
   inner->splitDockWidget(playerDock, messageDock, Qt::Horizontal);
   inner->resizeDocks({playerDock, messageDock}, {kPaneSize.width(), kPaneSize.width()}, Qt::Horizontal);
-  inner->resizeDocks({playerDock}, {kPaneSize.height()}, Qt::Vertical);
+  inner->resizeDocks({playerDock}, {std::max(kPaneSize.height(), height() / kPaneShare)}, Qt::Vertical);
 }
 
 void TCMainFrame::PlaceOnScreen() {

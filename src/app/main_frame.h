@@ -1,6 +1,6 @@
 // The main window: the playlist in the middle, the player and the message display in panes below it, the menu
-// bar and the status bar around them. It shows and decides nothing about songs; commands come and go through
-// TCCommandRouter. User-interface thread only.
+// bar, the play controls and the status bar around them. It shows and decides nothing about songs; commands
+// come and go through TCCommandRouter. User-interface thread only.
 #pragma once
 
 #include <QDockWidget>
@@ -8,6 +8,7 @@
 #include <QSettings>
 
 #include "app/general_reports_tab.h"
+#include "app/play_controls_bar.h"
 #include "app/status_line.h"
 #include "document/frame_display.h"
 #include "model/settings.h"
@@ -32,6 +33,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   [[nodiscard]] TCBrevantView& PlaylistView() { return *view; }
   [[nodiscard]] TCGeneralReportsTab& MessageDisplay() { return *messageDisplay; }
   [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }
+  [[nodiscard]] TCPlayControlsBar& PlayControls() { return *playControls; }
   [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
 
   // The frame's own commands: its panes, the status bar and Exit.
@@ -72,6 +74,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   TCGeneralReportsTab* messageDisplay = nullptr;
   QDockWidget* playerDock = nullptr;
   QDockWidget* messageDock = nullptr;
+  TCPlayControlsBar* playControls = nullptr;
   TCStatusLine* statusLine = nullptr;
 };
 

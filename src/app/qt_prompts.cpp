@@ -4,21 +4,36 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <utility>
 
+#include "app/dialog_enter_user_text.h"
 #include "app/refused_name.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
+
 TCQtPrompts::TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore,
                          TCNativePaths nativePaths)
     : frame(mainFrame), setLists(setListStore), paths(std::move(nativePaths)) {}
 
+int TCQtPrompts::Run(QDialog& dialog) {
+  if (asking) return QDialog::Rejected;
+  const QScopedValueRollback<bool> now(asking, true);
+  dialog.setWindowModality(Qt::WindowModal);
+  return dialog.exec();
+}
+
+std::optional<std::u16string> TCQtPrompts::EnterText(const TCTextPrompt& prompt) {
+  TCDialogEnterUserText dialog(prompt, &frame);
+  if (Run(dialog) != QDialog::Accepted) return {};
+  return dialog.Text();
+}
+
 TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
   QMessageBox box(&frame);
   box.setObjectName(QStringLiteral("SaveChanges"));
-  box.setWindowModality(Qt::WindowModal);
   box.setWindowTitle(ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle)));
   box.setIcon(QMessageBox::Question);
   box.setTextFormat(Qt::PlainText);
@@ -27,7 +42,7 @@ TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
   box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
   box.setDefaultButton(QMessageBox::Save);
   box.setEscapeButton(QMessageBox::Cancel);
-  switch (box.exec()) {
+  switch (Run(box)) {
     case QMessageBox::Save:
       return TCSaveAnswer::Save;
     case QMessageBox::Discard:
@@ -38,7 +53,6 @@ TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
 }
 
 void TCQtPrompts::SetUp(QFileDialog& dialog) const {
-  dialog.setWindowModality(Qt::WindowModal);
   dialog.setNameFilter(ToQString(DocumentTemplateText(TCDocumentTemplateField::FilterName)));
   dialog.setDefaultSuffix(ToQString(TextOf(TCTextId::DocumentExtension)));
   const QString folder = QFile::decodeName(paths.ToNative(setLists.documentFolder).c_str());
@@ -61,7 +75,7 @@ std::optional<std::u16string> TCQtPrompts::ChooseDocumentToSave(std::u16string_v
 }
 
 std::optional<std::u16string> TCQtPrompts::Choose(QFileDialog& dialog) {
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  if (Run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   const std::string native = QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
   std::optional<std::u16string> path = TCNativePaths::FromNative(native);
   if (!path) frame.ShowStatus(RefusedNameText(native));

@@ -34,8 +34,10 @@ TCStatusLine::TCStatusLine(QWidget* parent, std::chrono::milliseconds messageTim
 }
 
 void TCStatusLine::ShowMessage(const QString& text) {
-  message = text;
   messageEnd.start();
+  // A long wait says the same at every poll; a screen reader is to hear it once.
+  if (text == message) return;
+  message = text;
   Refresh();
 }
 

@@ -3,7 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "document/option_prompts.h"
 #include "document/recovery_copy.h"
+#include "text/numbers.h"
 #include "text/path_parts.h"
 
 namespace brevant {
@@ -45,6 +47,14 @@ constexpr std::array kTransportCommands = {TCCommandId::Play,          TCCommand
 constexpr std::array kFileCommands = {TCCommandId::FileNew, TCCommandId::FileOpen, TCCommandId::FileSave,
                                       TCCommandId::FileSaveAs};
 
+constexpr std::array kPlayerCommands = {TCCommandId::VolumeUp,       TCCommandId::VolumeDown,
+                                        TCCommandId::MediaVolumeUp,  TCCommandId::MediaVolumeDown,
+                                        TCCommandId::SeekForward,    TCCommandId::SeekBack,
+                                        TCCommandId::SetRepeatBegin, TCCommandId::SetRepeatEnd};
+
+constexpr std::array kTimeCommands = {TCCommandId::RefreshSongTime, TCCommandId::RefreshAllTimes,
+                                      TCCommandId::RefreshPlaylistTimes};
+
 template <typename List>
 bool Contains(const List& list, TCCommandId command) {
   for (const TCCommandId entry : list) {
@@ -59,7 +69,9 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
     : parts(std::move(documentParts)),
       documentFile(parts.files, parts.record.setLists, parts.messages),
       presenter(parts.record, parts.playlistView),
-      transport(parts.record, parts.files, parts.player, presenter, parts.messages) {}
+      transport({parts.record, parts.files, presenter, parts.messages, parts.player, parts.lengthProbe,
+                 parts.repeatFields}),
+      volumeAndSeek(parts.record.settings, parts.player, parts.repeatFields) {}
 
 bool TCBrevantDoc::OnNewDocument() {
   pathName.clear();
@@ -149,6 +161,7 @@ bool TCBrevantDoc::SaveAs() {
 
 bool TCBrevantDoc::Handles(TCCommandId command) {
   return Contains(kTransportCommands, command) || Contains(kFileCommands, command) ||
+         Contains(kPlayerCommands, command) || Contains(kTimeCommands, command) || IsOptionPrompt(command) ||
          OptionOf(command) != nullptr;
 }
 
@@ -164,6 +177,12 @@ bool TCBrevantDoc::OnCommand(TCCommandId command) {
     RunTransportCommand(command);
   } else if (Contains(kFileCommands, command)) {
     RunFileCommand(command);
+  } else if (Contains(kPlayerCommands, command)) {
+    RunPlayerCommand(command);
+  } else if (Contains(kTimeCommands, command)) {
+    RunTimeCommand(command);
+  } else if (IsOptionPrompt(command)) {
+    ChangeOption(command);
   } else {
     return false;
   }
@@ -178,6 +197,72 @@ void TCBrevantDoc::ToggleOption(TCCommandId command) {
   parts.frame.ShowOptions();
   if (command == TCCommandId::WhiteOnBlack || command == TCCommandId::DynamicPlayColours)
     presenter.ShowColours();
+}
+
+void TCBrevantDoc::ChangeOption(TCCommandId command) {
+  if (!AskForOption(command, parts.record, parts.prompts)) return;
+  parts.frame.ShowOptions();
+  TCSetListStore& setLists = parts.record.setLists;
+  switch (command) {
+    case TCCommandId::SongLatency:
+      setLists.RecalcAllTotalTimes();
+      presenter.ShowPlaylist(setLists.currentGroup, setLists.currentPlaylist);
+      return;
+    case TCCommandId::LyricsFontSize:
+    case TCCommandId::LyricLines:
+      transport.RedrawLyrics();
+      return;
+    default:
+      return;
+  }
+}
+
+void TCBrevantDoc::RunPlayerCommand(TCCommandId command) {
+  switch (command) {
+    case TCCommandId::VolumeUp:
+    case TCCommandId::MediaVolumeUp:
+      return volumeAndSeek.VolumeUp();
+    case TCCommandId::VolumeDown:
+    case TCCommandId::MediaVolumeDown:
+      return volumeAndSeek.VolumeDown();
+    case TCCommandId::SeekForward:
+      return volumeAndSeek.SeekForward();
+    case TCCommandId::SeekBack:
+      return volumeAndSeek.SeekBack();
+    case TCCommandId::SetRepeatBegin:
+      return volumeAndSeek.SetRepeatBegin();
+    case TCCommandId::SetRepeatEnd:
+      return volumeAndSeek.SetRepeatEnd();
+    default:
+      return;
+  }
+}
+
+void TCBrevantDoc::RunTimeCommand(TCCommandId command) {
+  switch (command) {
+    case TCCommandId::RefreshSongTime:
+      return transport.RefreshCurrentSongTime();
+    case TCCommandId::RefreshAllTimes:
+      return transport.StartTimeRun(TCTimeScope::AllSongs);
+    case TCCommandId::RefreshPlaylistTimes:
+      return transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+    default:
+      return;
+  }
+}
+
+void TCBrevantDoc::OnPlayTimerTick() {
+  const bool measuring = transport.TimeRun().Pending();
+  const bool timesChanged = transport.OnPlayTimerTick();
+  if (measuring) ShowTimeRun();
+  if (timesChanged) SetModified();
+}
+
+void TCBrevantDoc::ShowTimeRun() {
+  const TCTimeRun& run = transport.TimeRun();
+  if (!run.Pending()) return parts.frame.ShowStatus({});
+  parts.frame.ShowStatus(FormatDecimal(static_cast<std::int64_t>(run.Measured())) + u" of " +
+                         FormatDecimal(static_cast<std::int64_t>(run.Count())));
 }
 
 void TCBrevantDoc::RunTransportCommand(TCCommandId command) {
@@ -230,6 +315,7 @@ void TCBrevantDoc::RunFileCommand(TCCommandId command) {
 void TCBrevantDoc::Cancel() {
   parts.playlistView.ResetMouseState();
   transport.CancelPending();
+  parts.frame.ShowStatus({});
   parts.messages.AppendMessage(TCTextId::CommandCanceled);
 }
 

@@ -14,6 +14,7 @@
 #include "model/message_display.h"
 #include "model/program_folders.h"
 #include "playback/transport.h"
+#include "playback/volume_and_seek.h"
 #include "resources/command_id.h"
 
 namespace brevant {
@@ -28,6 +29,8 @@ struct TCDocumentParts {
   TCFrameDisplay& frame;
   TCPrompts& prompts;
   TCProgramFolders folders;
+  TCLengthProbe* lengthProbe = nullptr;    // null: song times are measured with the player itself
+  TCRepeatFields* repeatFields = nullptr;  // null: there is no repeat range
 };
 
 class TCBrevantDoc {
@@ -64,7 +67,7 @@ class TCBrevantDoc {
   // A row of the playlist was double-clicked (-1: none): it becomes current and may start.
   void PickRow(std::int32_t row);
   // Every 300 ms.
-  void OnPlayTimerTick() { transport.OnPlayTimerTick(); }
+  void OnPlayTimerTick();
 
   [[nodiscard]] const TCTransport& Transport() const { return transport; }
   [[nodiscard]] TCPlaylistPresenter& Presenter() { return presenter; }
@@ -76,7 +79,11 @@ class TCBrevantDoc {
   void KeepRecoveryCopy(std::u16string_view path);
   void RunTransportCommand(TCCommandId command);
   void RunFileCommand(TCCommandId command);
+  void RunPlayerCommand(TCCommandId command);
+  void RunTimeCommand(TCCommandId command);
   void ToggleOption(TCCommandId command);
+  void ChangeOption(TCCommandId command);
+  void ShowTimeRun();
   void Cancel();
   // False when the user cancelled.
   bool Save();
@@ -86,6 +93,7 @@ class TCBrevantDoc {
   TCDocumentFile documentFile;
   TCPlaylistPresenter presenter;
   TCTransport transport;
+  TCVolumeAndSeek volumeAndSeek;
   std::u16string pathName;
   bool modified = false;
 };

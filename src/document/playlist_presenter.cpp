@@ -44,7 +44,8 @@ void TCPlaylistPresenter::Recolour() {
 }
 
 void TCPlaylistPresenter::ShowColours() {
-  const TCPlayList* playlist = record.setLists.CurrentPlaylist();
+  // Of what stands on the screen: while an empty playlist is current that is the one before.
+  const TCPlayList* playlist = record.setLists.PlaylistAt(shownGroup, shownPlaylist);
   if (playlist == nullptr) return;
   std::vector<TCRowColours> colours;
   colours.reserve(playlist->items.size());
@@ -80,6 +81,7 @@ void TCPlaylistPresenter::Clear() {
   shownPlaylist = -1;
   rowToMove = -1;
   view.ClearRows();
+  view.SetPlaylistHeader(TextOf(TCTextId::PlayListColumn));
 }
 
 TCRowColours TCPlaylistPresenter::ColoursOf(const TCPlayListItem& song) const {

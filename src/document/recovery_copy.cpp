@@ -7,7 +7,8 @@ namespace brevant {
 
 namespace {
 
-constexpr int kMostCopies = 1000;  // of one name; a disk that fails this often needs no further copies
+constexpr int kMostCopies = 1000;  // of one name
+constexpr int kMostFailures = 3;   // a full disk fails under any name
 
 std::u16string CopyPath(std::u16string_view folder, std::u16string_view fileName, int copy) {
   std::u16string path(folder);
@@ -24,10 +25,13 @@ std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder
                                  std::u16string_view fileName, const TextLines& lines) {
   if (fileName.empty()) fileName = u"Brevant.brv";
   if (!files.MakeFolder(folder)) return {};
-  for (int copy = 1; copy <= kMostCopies; ++copy) {
+  int failures = 0;
+  for (int copy = 1; copy <= kMostCopies && failures < kMostFailures; ++copy) {
     const std::u16string path = CopyPath(folder, fileName, copy);
     if (files.FileExists(path)) continue;
-    return WriteTextLines(files, path, lines) ? path : std::u16string();
+    // Something that is no file may have the name; another name may still do.
+    if (WriteTextLines(files, path, lines)) return path;
+    ++failures;
   }
   return {};
 }

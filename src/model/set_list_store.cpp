@@ -1,5 +1,7 @@
 #include "model/set_list_store.h"
 
+#include <algorithm>
+
 #include "text/case_folding.h"
 #include "text/path_parts.h"
 #include "text/time_text.h"
@@ -19,6 +21,26 @@ std::int32_t FindByName(const List& list, std::u16string_view name) {
     if (EqualIgnoringCase(list[i].name, name)) return static_cast<std::int32_t>(i);
   }
   return -1;
+}
+
+bool HasPath(const TCPlayListItem& song, std::u16string_view path) {
+  if (song.fileName.size() > path.size()) return false;
+  const std::size_t folderLength = path.size() - song.fileName.size();
+  return std::equal(song.fileName.begin(), song.fileName.end(), path.substr(folderLength).begin()) &&
+         path.substr(0, folderLength) == std::u16string_view(song.folder);
+}
+
+// In model order; null when none passes.
+template <typename Test>
+const TCPlayListItem* FirstSong(const std::vector<TCPlayGroups>& groups, const Test& test) {
+  for (const TCPlayGroups& group : groups) {
+    for (const TCPlayList& playlist : group.playlists) {
+      for (const TCPlayListItem& song : playlist.items) {
+        if (test(song)) return &song;
+      }
+    }
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -64,6 +86,18 @@ TCPlayList* TCSetListStore::CurrentPlaylist() {
 TCPlayListItem* TCSetListStore::SongAt(std::int32_t song) {
   if (!IsValidSongIndex(song)) return nullptr;
   return &CurrentPlaylist()->items[static_cast<std::size_t>(song)];
+}
+
+const TCPlayListItem* TCSetListStore::FindSongByPath(std::u16string_view path) const {
+  // Asked at every poll, perhaps of a hundred thousand songs. The length of a name stands in the song itself,
+  // its letters and the folder far away in memory, and the length alone rules nearly every song out.
+  const std::size_t nameLength = FileNamePart(path).size();
+  const TCPlayListItem* found = FirstSong(groups, [path, nameLength](const TCPlayListItem& song) {
+    return song.fileName.size() == nameLength && HasPath(song, path);
+  });
+  if (found != nullptr) return found;
+  // Folder and name as they were typed by hand may meet anywhere in the path.
+  return FirstSong(groups, [path](const TCPlayListItem& song) { return HasPath(song, path); });
 }
 
 TCTreeNode TCSetListStore::GetSongTreeNode(std::int32_t song) const {

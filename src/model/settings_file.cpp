@@ -23,7 +23,6 @@ enum class Rule {
   Text,            // an empty value leaves it as it is
   Number,          // missing or empty leaves it as it is
   LyricsFontSize,  // a number; missing or empty takes the playlist's font size
-  BooleanNumber,   // a number, kept as one
   LastLoadedFile,  // written from the open document; read by LastLoadedFileName alone
 };
 
@@ -85,7 +84,7 @@ constexpr std::array kRows = {
     Number(u"SongLatencySeconds", BREVANT_FIELD(setLists.songLatencySeconds)),
     Number(u"FastFowardFastReverseTimeStep", BREVANT_FIELD(settings.seekStepSeconds)),
     Number(u"VolumeStep", BREVANT_FIELD(settings.volumeStep)),
-    Number(u"Disable Editing", BREVANT_FIELD(settings.disableEditing), Rule::BooleanNumber),
+    Number(u"Disable Editing", BREVANT_FIELD(settings.disableEditing)),
     Number(u"PlayListFontSize", BREVANT_FIELD(settings.playListFontSize)),
     Number(u"LyricsFontSize", BREVANT_FIELD(settings.lyricsFontSize), Rule::LyricsFontSize),
     Number(u"NumberLyricLines", BREVANT_FIELD(settings.numberLyricLines)),
@@ -121,7 +120,6 @@ void ReadRow(const TCIniText& ini, const Row& row, TCAppRecord& record) {
       }
       break;
     case Rule::Number:
-    case Rule::BooleanNumber:
       row.number(record) = ini.GetInt(kSection, row.key, row.number(record));
       break;
     case Rule::LyricsFontSize:
@@ -151,7 +149,6 @@ std::u16string WrittenValue(const Row& row, TCAppRecord& record) {
     case Rule::Text:
       return ProtectedText(row.text(record));
     case Rule::Number:
-    case Rule::BooleanNumber:
     case Rule::LyricsFontSize:
       return FormatDecimal(row.number(record));
     case Rule::LastLoadedFile:
@@ -180,7 +177,9 @@ bool TCSettingsFile::SaveSettings(const TCAppRecord& record) const {
     files.DeleteFile(path);
     return false;
   }
-  TCIniText ini = TCIniText::Parse(files.ReadFile(path, kMaxFileBytes).value_or(std::string()));
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxFileBytes);
+  if (!bytes && files.FileExists(path)) return true;  // what else stands in it could not be kept
+  TCIniText ini = TCIniText::Parse(bytes.value_or(std::string()));
   TCAppRecord written = record;
   for (const Row& row : kRows) ini.SetString(kSection, row.key, WrittenValue(row, written));
   if (files.MakeFolder(folder)) (void)files.ReplaceFile(path, ini.Serialize());

@@ -1,18 +1,32 @@
 #include "playback/transport.h"
 
 #include "model/media_check.h"
+#include "playback/player_length_probe.h"
 #include "text/time_text.h"
 
 namespace brevant {
 
-TCTransport::TCTransport(TCAppRecord& appRecord, TCFileSystem& fileSystem, TCPlayer* soundPlayer,
-                         TCSetListDisplay& setListDisplay, TCMessageDisplay& messageDisplay)
-    : record(appRecord),
-      store(appRecord.setLists),
-      files(fileSystem),
-      player(soundPlayer),
-      display(setListDisplay),
-      messages(messageDisplay) {}
+namespace {
+
+// Null when there is a silent probe, or nothing to measure with.
+std::unique_ptr<TCLengthProbe> MakePlayerProbe(const TCTransportParts& parts) {
+  if (parts.lengthProbe != nullptr || parts.player == nullptr) return nullptr;
+  return std::make_unique<TCPlayerLengthProbe>(*parts.player);
+}
+
+}  // namespace
+
+TCTransport::TCTransport(const TCTransportParts& parts)
+    : record(parts.record),
+      store(parts.record.setLists),
+      files(parts.files),
+      display(parts.display),
+      messages(parts.messages),
+      player(parts.player),
+      repeatFields(parts.repeatFields),
+      playerProbe(MakePlayerProbe(parts)),
+      timeRun(record, files, playerProbe ? playerProbe.get() : parts.lengthProbe, messages),
+      lyricDisplay(record, messages) {}
 
 void TCTransport::Play() {
   if (player == nullptr) return;
@@ -110,25 +124,49 @@ void TCTransport::SelectSong(std::int32_t index, TCSelect select) {
 
 void TCTransport::CancelPending() {
   state.refreshSongTime = false;
-  state.timesPending = false;
+  timeRun.Cancel();
 }
 
 void TCTransport::ForgetSong() {
   state.playing = false;
   state.started = false;
   state.refreshSongTime = false;
-  state.timesPending = false;
+  timeRun.Cancel();
 }
 
-void TCTransport::OnPlayTimerTick() {
+void TCTransport::StartTimeRun(TCTimeScope scope) {
+  // A song that the player gives up for the measuring has not ended by that.
+  if (playerProbe) state.playing = false;
+  timeRun.Start(scope);
+}
+
+bool TCTransport::StepTimeRun() {
+  const TCTimeRunStep step = timeRun.Step();
+  if (step == TCTimeRunStep::Measuring) return false;
+  display.ShowPlaylist(store.currentGroup, store.currentPlaylist);
+  return step == TCTimeRunStep::FinishedWithChanges;
+}
+
+bool TCTransport::OnPlayTimerTick() {
+  const bool timesChanged = timeRun.Pending() && StepTimeRun();
   if (state.refreshSongTime) RefreshSongTimeAfterPlay();
-  if (!state.playing) return;
+  if (state.playing) FollowSong();
+  return timesChanged;
+}
+
+void TCTransport::FollowSong() {
   const double position = player->GetPosition().value_or(0.0);
-  switch (DecideTick(state.started, position)) {
+  state.lastLyricIndex =
+      lyricDisplay.ShowLyricsAt(static_cast<std::int32_t>(position), player->GetUrl(), state.lastLyricIndex);
+  const std::int32_t repeatEnd = repeatFields == nullptr ? 0 : repeatFields->RepeatEnd();
+  switch (DecideTick({state.started, position, record.settings.autoPlayPlayList, repeatEnd})) {
     case TCTickAction::Wait:
       break;
     case TCTickAction::MarkStarted:
       state.started = true;
+      break;
+    case TCTickAction::JumpToRepeatBegin:
+      player->SetPosition(repeatFields->RepeatBegin());
       break;
     case TCTickAction::EndSong:
       state.playing = false;

@@ -3,12 +3,17 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "model/app_record.h"
 #include "model/message_display.h"
+#include "playback/length_probe.h"
+#include "playback/lyric_display.h"
 #include "playback/player.h"
+#include "playback/repeat_range.h"
 #include "playback/set_list_display.h"
+#include "playback/time_run.h"
 #include "playback/transport_rules.h"
 #include "text/file_system.h"
 
@@ -20,17 +25,25 @@ struct TCTransportState {
   bool paused = false;               // Pause/Continue last paused; no other command changes it
   std::int32_t lastLyricIndex = -1;  // the lyric line last shown
   bool refreshSongTime = false;      // the current song's time is to be taken from the player
-  bool timesPending = false;         // a run that measures song times is in progress
 };
 
 // Whether making a song current may start it at once; the "ImmediatePlay" option has the last word.
 enum class TCSelect { MayPlay, Silently };
 
+// What the transport works with. All of it outlives the transport.
+struct TCTransportParts {
+  TCAppRecord& record;
+  TCFileSystem& files;
+  TCSetListDisplay& display;
+  TCMessageDisplay& messages;
+  TCPlayer* player = nullptr;              // null: what needs it is without effect and without error
+  TCLengthProbe* lengthProbe = nullptr;    // null: song times are measured with the player itself
+  TCRepeatFields* repeatFields = nullptr;  // null: there is no repeat range
+};
+
 class TCTransport {
  public:
-  // `soundPlayer` may be null: the commands that need it are then without effect and without error.
-  TCTransport(TCAppRecord& appRecord, TCFileSystem& fileSystem, TCPlayer* soundPlayer,
-              TCSetListDisplay& setListDisplay, TCMessageDisplay& messageDisplay);
+  explicit TCTransport(const TCTransportParts& transportParts);
 
   void Play();
   void Stop();
@@ -47,20 +60,29 @@ class TCTransport {
   // Takes the current song's time from the player; what it does not know is stored as "00:00".
   void RefreshCurrentSongTime();
 
+  // Measures the songs' times, one a poll, until the run is done or cancelled.
+  void StartTimeRun(TCTimeScope scope);
+  [[nodiscard]] const TCTimeRun& TimeRun() const { return timeRun; }
+
+  // The lyric lines are drawn anew at the next poll.
+  void RedrawLyrics() { state.lastLyricIndex = -1; }
+
   // The transport's half of "Cancel current command action"; no sound is touched.
   void CancelPending();
 
   // The set lists were cleared: what sounds on belongs to them no more, and its end starts nothing.
   void ForgetSong();
 
-  // The poll, every 300 ms.
-  void OnPlayTimerTick();
+  // The poll, every 300 ms. True when a time run ended with it and changed a song's time.
+  bool OnPlayTimerTick();
 
   [[nodiscard]] const TCTransportState& State() const { return state; }
 
  private:
   void StartSong(TCPlayListItem& song, std::u16string_view path);
   bool AdvanceAfterSong();
+  bool StepTimeRun();
+  void FollowSong();
   void RefreshSongTimeAfterPlay();
   // The text as stored; empty when there is no current song to store it in.
   std::u16string SetCurrentSongTime(std::int32_t seconds);
@@ -71,9 +93,13 @@ class TCTransport {
   TCAppRecord& record;
   TCSetListStore& store;
   TCFileSystem& files;
-  TCPlayer* player = nullptr;
   TCSetListDisplay& display;
   TCMessageDisplay& messages;
+  TCPlayer* player = nullptr;
+  TCRepeatFields* repeatFields = nullptr;
+  std::unique_ptr<TCLengthProbe> playerProbe;  // where there is no silent one
+  TCTimeRun timeRun;
+  TCLyricDisplay lyricDisplay;
   TCTransportState state;
 };
 

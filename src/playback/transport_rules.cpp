@@ -2,9 +2,11 @@
 
 namespace brevant {
 
-TCTickAction DecideTick(bool started, double position) {
-  const bool sounding = position != 0.0;
-  if (!started) return sounding ? TCTickAction::MarkStarted : TCTickAction::Wait;
+TCTickAction DecideTick(const TCTickInput& input) {
+  const bool sounding = input.position != 0.0;
+  if (!input.started) return sounding ? TCTickAction::MarkStarted : TCTickAction::Wait;
+  const bool rangeSet = input.autoPlayPlayList && input.repeatEnd != 0;
+  if (rangeSet && input.position > input.repeatEnd) return TCTickAction::JumpToRepeatBegin;
   return sounding ? TCTickAction::Wait : TCTickAction::EndSong;
 }
 

@@ -9,14 +9,21 @@
 namespace brevant {
 
 enum class TCTickAction {
-  Wait,         // nothing to do until the next poll
-  MarkStarted,  // the sound has begun
-  EndSong,      // the song ended, or the player itself stopped it
+  Wait,               // nothing to do until the next poll
+  MarkStarted,        // the sound has begun
+  JumpToRepeatBegin,  // the song ran past the end of the repeat range
+  EndSong,            // the song ended, or the player itself stopped it
 };
 
-// Asked on every poll while a song is playing. `started`: the position has been seen to move since the last
-// Play. `position`: seconds, exactly 0.0 when nothing sounds.
-[[nodiscard]] TCTickAction DecideTick(bool started, double position);
+struct TCTickInput {
+  bool started = false;           // the position has been seen to move since the last Play
+  double position = 0.0;          // seconds, exactly 0.0 when nothing sounds
+  bool autoPlayPlayList = false;  // the repeat range is held only while this is on
+  std::int32_t repeatEnd = 0;     // seconds; 0: no range is set
+};
+
+// Asked on every poll while a song is playing.
+[[nodiscard]] TCTickAction DecideTick(const TCTickInput& input);
 
 enum class TCAdvance {
   Rest,          // the set has ended, or the musician goes on by hand

@@ -81,11 +81,16 @@ bool TCDiskFiles::ReplaceFile(std::u16string_view path, std::string_view bytes) 
 }
 
 bool TCDiskFiles::CopyFile(std::u16string_view from, std::u16string_view to) {
-  std::error_code failure;
-  const bool copied = std::filesystem::copy_file(Locate(paths.ToNative(from)), Locate(paths.ToNative(to)),
-                                                 std::filesystem::copy_options::overwrite_existing, failure);
+  const std::string source = Locate(paths.ToNative(from));
+  const std::string target = Locate(paths.ToNative(to));
   ForgetFolders();
-  return copied && !failure;
+  // A second name for the file takes no space and is there at once. It stays as it is because ReplaceFile
+  // never writes into the old file.
+  unlink(target.c_str());
+  if (linkat(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
+  std::error_code failure;
+  const auto replacing = std::filesystem::copy_options::overwrite_existing;
+  return std::filesystem::copy_file(source, target, replacing, failure) && !failure;
 }
 
 bool TCDiskFiles::MakeFolder(std::u16string_view path) {

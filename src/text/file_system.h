@@ -27,7 +27,8 @@ class TCFileSystem {
   // The folder must exist. False when anything failed; the old file is then untouched.
   [[nodiscard]] virtual bool ReplaceFile(std::u16string_view path, std::string_view bytes) = 0;
 
-  // Puts a copy of the file `from` under `to`, replacing what stands there. False when that failed.
+  // Keeps the file `from` under `to` as well, replacing what stands there; a later ReplaceFile of `from`
+  // leaves that copy as it is. False when it failed.
   [[nodiscard]] virtual bool CopyFile(std::u16string_view from, std::u16string_view to) = 0;
 
   // Makes the folder and every missing one above it. True when it stands there afterwards.

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSignalSpy>
@@ -327,6 +328,202 @@ TEST_F(BrevantApp, ResetIsCheckedWhileItIsPending) {
   action->trigger();
   QCoreApplication::sendPostedEvents();
   EXPECT_FALSE(action->isChecked());
+}
+
+TEST_F(BrevantApp, AHeldKeyRepeatsOnlyWhatTheTableSays) {
+  Start(kShow);
+  TCBrevantView& view = Frame().PlaylistView();
+  unsigned long time = 1000;
+  for (const TCKeyBinding& binding : EffectiveBindings()) {
+    const QAction* action = app->Actions().ActionOf(binding.command);
+    if (action == nullptr) continue;
+    const bool repeats = CommandById(binding.command)->trait == TCCommandTrait::Repeats;
+    const QKeyCombination key = ToQtKeys(binding.key).constFirst()[0];
+    const QSignalSpy fired(action, &QAction::triggered);
+    for (int press = 0; press < 3; ++press) {
+      qt_sendShortcutOverrideEvent(&view, time, key.key(), key.keyboardModifiers(), {}, press > 0);
+      time += 30;
+    }
+    EXPECT_EQ(fired.count(), repeats ? 3 : 1) << action->text().toStdString();
+    QCoreApplication::removePostedEvents(const_cast<TCCommandActions*>(&app->Actions()));
+  }
+}
+
+TEST_F(BrevantApp, TheMenusOfferWhatAnEarlierOneMissed) {
+  Start();
+  const auto entriesOf = [this](const char* title) {
+    QStringList entries;
+    for (const QAction* menu : Frame().menuBar()->actions()) {
+      if (menu->text() != QLatin1String(title)) continue;
+      for (const QAction* entry : menu->menu()->actions()) entries.append(entry->text());
+    }
+    return entries;
+  };
+  for (const char* entry :
+       {"Fast &Foward\tCtrl+Right Arrow", "Fast &Reverse\tCtrl+Left Arrow", "Increase Volume\tF9",
+        "Reduce Volume \tF8", "Set Repeat Start Time\tZ", "Set Repeat Stop Time\tX"}) {
+    EXPECT_TRUE(entriesOf("&Play").contains(QLatin1String(entry))) << entry;
+  }
+  for (const char* entry :
+       {"Refresh &Playlist Song Times\tT", "Refresh All Song &Times\tAlt-R", "Set Playlist Font Size\tF",
+        "Set &Lyrics Font Size\tL", "Set Number Lyric Lines\tN"}) {
+    EXPECT_TRUE(entriesOf("&Commands").contains(QLatin1String(entry))) << entry;
+  }
+  for (const char* entry :
+       {"Song Latency Time...\tN", "FF FR Time Step...\tO", "Volume Step\tV", "Media File Types...\tY"}) {
+    EXPECT_TRUE(entriesOf("&Options").contains(QLatin1String(entry))) << entry;
+  }
+}
+
+TEST_F(BrevantApp, TheContextMenuRefreshesTimes) {
+  Start(kShow);
+  Q_EMIT Frame().PlaylistView().contextMenuWanted(QPoint(20, 20));
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QStringList entries;
+  for (const QAction* entry : menu->actions()) entries.append(entry->text());
+  menu->close();
+  for (const char* entry :
+       {"Refresh &Playlist Song Times\tT", "Refresh All Song &Times\tAlt-R", "Refresh &Song Time"}) {
+    EXPECT_TRUE(entries.contains(QLatin1String(entry))) << entry;
+  }
+}
+
+// Song times, volume, seeking and the repeat range.
+
+TEST_F(BrevantApp, AltRMeasuresAllSongsAndOpensNoMenu) {
+  Start(kShow);
+  Press(Qt::Key_R, Qt::AltModifier);
+  EXPECT_TRUE(app->Document().Transport().TimeRun().Pending());
+  EXPECT_EQ(app->Document().Transport().TimeRun().Count(), 3U);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(BrevantApp, TheStatusBarSaysHowFarARunHasComeUntilItEnds) {
+  Start(kShow);
+  player.SetDefaultSong({.opensAfter = 0.0});
+  Press(Qt::Key_T);
+  app->Document().OnPlayTimerTick();
+  EXPECT_EQ(Frame().StatusLine().ShownMessage(), QStringLiteral("1 of 2"));
+  app->Document().OnPlayTimerTick();
+  EXPECT_EQ(Frame().StatusLine().ShownMessage(), QString());
+  EXPECT_TRUE(Frame().MessageDisplay().toPlainText().contains(
+      QStringLiteral("Calculating times for song \"two.mp3\": 03:00")));
+}
+
+TEST_F(BrevantApp, KeysChangeTheVolumeAndThePosition) {
+  Start(kShow);
+  Press(Qt::Key_F8);
+  Press(Qt::Key_VolumeDown);
+  EXPECT_EQ(player.GetVolume(), 90);
+  Press(Qt::Key_F9);
+  EXPECT_EQ(player.GetVolume(), 95);
+  Press(Qt::Key_P);
+  player.Advance(10.0);
+  Press(Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(player.Calls().back().substr(0, 13), "SetPosition 1");
+  EXPECT_NEAR(player.GetPosition().value_or(0.0), 12.0, 0.1);
+  Press(Qt::Key_Left, Qt::ControlModifier);
+  EXPECT_NEAR(player.GetPosition().value_or(0.0), 10.0, 0.1);
+}
+
+TEST_F(BrevantApp, KeysSetARangeThatTheSongRepeats) {
+  Start(kShow);
+  Settings().autoPlayPlayList = true;
+  Press(Qt::Key_P);
+  player.Advance(10.5);
+  Press(Qt::Key_Z);
+  player.Advance(10.0);
+  Press(Qt::Key_X);
+  EXPECT_EQ(Frame().PlayControls().FieldOf(TCCommandId::RepeatBeginField).text(), QStringLiteral("00:10"));
+  EXPECT_EQ(Frame().PlayControls().FieldOf(TCCommandId::RepeatEndField).text(), QStringLiteral("00:20"));
+  app->Document().OnPlayTimerTick();  // sees that the song has begun
+  app->Document().OnPlayTimerTick();
+  EXPECT_EQ(player.Calls().back(), "SetPosition 10");
+}
+
+TEST_F(BrevantApp, ATimeIsTypedWithoutAKeyOfTheTableAndGivesTheKeyboardBack) {
+  Start(kShow);
+  TCRepeatTimeField& field = Frame().PlayControls().FieldOf(TCCommandId::RepeatEndField);
+  Frame().resize(1200, 700);
+  ASSERT_TRUE(QTest::qWaitFor([&field] { return field.isVisible(); }));
+  for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+    field.SetSeconds(0);
+    player.ForgetCalls();
+    QTest::mouseClick(field.findChild<QLineEdit*>(), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(QApplication::focusWidget(), &field);
+    for (const Qt::Key key : {Qt::Key_0, Qt::Key_2, Qt::Key_3, Qt::Key_0, Qt::Key_P, Qt::Key_Space})
+      Press(key);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(player.Calls(), std::vector<std::string>()) << "no command acts";
+    EXPECT_EQ(app->Record().setLists.currentSong, 0);
+    EXPECT_EQ(field.text(), QStringLiteral("02:29")) << "the arrow stepped the seconds";
+    Press(Qt::Key_F8);
+    EXPECT_EQ(player.Calls(), std::vector<std::string>{"SetVolume " + std::to_string(player.GetVolume())});
+
+    Press(end);
+    EXPECT_EQ(field.text(), end == Qt::Key_Escape ? QStringLiteral("00:00") : QStringLiteral("02:29"));
+    EXPECT_EQ(QApplication::focusWidget(), &Frame().PlaylistView());
+    EXPECT_EQ(app->Record().setLists.currentSong, 0) << "Enter and Esc were the field's";
+  }
+  Press(Qt::Key_Down);
+  EXPECT_EQ(app->Record().setLists.currentSong, 1);
+}
+
+TEST_F(BrevantApp, APromptAsksWithoutHoldingTheShowUp) {
+  Start(kShow);
+  Press(Qt::Key_P);
+  player.Advance(1.0);
+  const TCDialogAnswer<QDialog> answer([this](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Enter property"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().Transport().State().started; }))
+        << "the poll stands still";
+    auto* field = dialog.findChild<QLineEdit*>();
+    QTest::keyClick(field, Qt::Key_F6);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(player.Calls().back(), "Stop") << "a function key acts all the same";
+    QTest::keyClicks(field, QStringLiteral("12"));
+    QTest::keyClick(field, Qt::Key_Return);
+  });
+  Press(Qt::Key_O);
+  EXPECT_EQ(Settings().seekStepSeconds, 12);
+}
+
+TEST_F(BrevantApp, AKeyPressedTwiceAsksOnce) {
+  Start(kShow);
+  int asked = 0;
+  const TCDialogAnswer<QDialog> answer([this, &asked](QDialog& dialog) {
+    ++asked;
+    QTest::keyClick(&Frame().PlaylistView(), Qt::Key_V);
+    app->Actions().ActionOf(TCCommandId::VolumeStep)->trigger();  // as a screen reader may
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+    dialog.reject();
+  });
+  Press(Qt::Key_V);
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(Settings().volumeStep, 5);
+}
+
+TEST_F(BrevantApp, AFontSizeThatWasEnteredShows) {
+  Start(kShow);
+  const auto enter = [](const char* text) {
+    return [text](QDialog& dialog) {
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), QLatin1String(text));
+      dialog.accept();
+    };
+  };
+  {
+    const TCDialogAnswer<QDialog> answer(enter("24"));
+    Press(Qt::Key_F);
+  }
+  EXPECT_EQ(Frame().PlaylistView().font().pointSize(), 24);
+  const TCDialogAnswer<QDialog> answer(enter("30"));
+  app->Actions().ActionOf(TCCommandId::LyricsFontSize)->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(Frame().MessageDisplay().font().pointSize(), 30);
 }
 
 // The views' wishes.

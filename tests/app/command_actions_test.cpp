@@ -40,12 +40,20 @@ TEST_F(CommandActions, SayWhatTheTableSays) {
   }
 }
 
-TEST_F(CommandActions, TheToolTipIsTheStatusTextsSecondLine) {
+TEST_F(CommandActions, TheToolTipIsTheStatusTextsSecondLineWithTheKeys) {
   target.handled = {TCCommandId::FileNew, TCCommandId::Stop};
   const TCCommandActions actions(target, window);
-  EXPECT_EQ(actions.ActionOf(TCCommandId::FileNew)->toolTip(), QStringLiteral("New"));
+  EXPECT_EQ(actions.ActionOf(TCCommandId::FileNew)->toolTip(), QStringLiteral("New (Ctrl+N)"));
   EXPECT_EQ(actions.ActionOf(TCCommandId::FileNew)->statusTip(), QStringLiteral("Create a new document"));
   EXPECT_EQ(actions.ActionOf(TCCommandId::Stop)->toolTip(), QStringLiteral("Stop S, F6, 6"));
+}
+
+TEST_F(CommandActions, AToolButtonIsCalledByTheMenusName) {
+  target.handled = {TCCommandId::SeekForward, TCCommandId::PauseContinue, TCCommandId::NextSong};
+  const TCCommandActions actions(target, window);
+  EXPECT_EQ(actions.ActionOf(TCCommandId::SeekForward)->iconText(), QStringLiteral("Fast Foward"));
+  EXPECT_EQ(actions.ActionOf(TCCommandId::PauseContinue)->iconText(), QStringLiteral("Pause - Continue"));
+  EXPECT_EQ(actions.ActionOf(TCCommandId::NextSong)->iconText(), QStringLiteral("Next Song"));
 }
 
 TEST_F(CommandActions, EnterIsBoundOnBothKeyboards) {

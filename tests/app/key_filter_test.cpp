@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "app/stage_style.h"
 #include "fake_target.h"
 
 namespace brevant {
@@ -30,7 +31,8 @@ class KeyFilter : public testing::Test {
                       TCCommandId::Cancel,
                       TCCommandId::NextPlaylist,
                       TCCommandId::AutoSongAdvance,
-                      TCCommandId::SelectAll};
+                      TCCommandId::SelectAll,
+                      TCCommandId::MediaVolumeUp};
     actions.emplace(target, window);
     filter.emplace(*actions, window);
     auto* middle = new QWidget;
@@ -121,22 +123,63 @@ TEST_F(KeyFilter, ADialogKeepsItsKeys) {
   dialog.open();
   Activate(dialog);
   Focus(field);
-  EXPECT_EQ(Type(field, Qt::Key_F5), Ran{});
   EXPECT_EQ(Type(field, Qt::Key_P), Ran{});
+  EXPECT_EQ(Type(field, Qt::Key_K, Qt::ControlModifier), Ran{});
   EXPECT_EQ(field->text(), QStringLiteral("p"));
+  EXPECT_EQ(Type(field, Qt::Key_Return), Ran{});
+  EXPECT_EQ(dialog.result(), QDialog::Rejected) << "there is no button to press";
+  EXPECT_EQ(Type(field, Qt::Key_Escape), Ran{});
+  EXPECT_FALSE(dialog.isVisible()) << "Esc is the dialog's";
+}
+
+TEST_F(KeyFilter, WhileADialogIsTypedIntoTheFunctionAndMediaKeysPerform) {
+  QDialog dialog(&window);
+  auto* field = new QLineEdit(&dialog);
+  auto* dialogButton = new QPushButton(&dialog);
+  dialog.open();
+  Activate(dialog);
+  Focus(field);
+  EXPECT_EQ(Type(field, Qt::Key_F5), Ran{TCCommandId::Play});
+  EXPECT_EQ(Type(field, Qt::Key_VolumeUp), Ran{TCCommandId::MediaVolumeUp});
+  EXPECT_EQ(Type(field, Qt::Key_F12), Ran{}) << "no command has this key";
+  EXPECT_EQ(field->text(), QString());
+  EXPECT_TRUE(dialog.isVisible());
+  Focus(dialogButton);
+  EXPECT_EQ(Type(dialogButton, Qt::Key_F5), Ran{}) << "nothing is typed there";
+}
+
+TEST_F(KeyFilter, TheWindowBehindADialogHasNoKeys) {
+  Focus(line);
+  QDialog dialog(&window);
+  dialog.open();
+  for (QWidget* widget : {static_cast<QWidget*>(line), static_cast<QWidget*>(list)}) {
+    EXPECT_EQ(Type(widget, Qt::Key_P), Ran{});
+    EXPECT_EQ(Type(widget, Qt::Key_F5), Ran{});
+    EXPECT_EQ(Type(widget, Qt::Key_Down), Ran{});
+  }
+  EXPECT_EQ(line->text(), QString());
+  EXPECT_EQ(list->currentRow(), 0);
+  dialog.reject();
+  Activate(window);
+  Focus(list);
+  EXPECT_EQ(Type(list, Qt::Key_P), Ran{TCCommandId::Play});
 }
 
 TEST_F(KeyFilter, AFloatingPaneIsPartOfTheWindow) {
   QDockWidget pane(&window);
-  auto* inside = new QListWidget;
+  auto* panel = new QWidget;
+  auto* inside = new QListWidget(panel);
+  auto* field = new QLineEdit(panel);
   inside->addItems({QStringLiteral("one"), QStringLiteral("two")});
-  pane.setWidget(inside);
+  pane.setWidget(panel);
   window.addDockWidget(Qt::BottomDockWidgetArea, &pane);
   pane.setFloating(true);
   pane.show();
   Activate(pane);
   Focus(inside);
   EXPECT_EQ(Type(inside, Qt::Key_Down), Ran{TCCommandId::NextSong});
+  Focus(field);
+  EXPECT_EQ(Type(field, Qt::Key_K, Qt::ControlModifier), Ran{}) << "text is typed there";
 }
 
 TEST_F(KeyFilter, TheMenuBarIsWalkedWithTheArrows) {
@@ -145,10 +188,14 @@ TEST_F(KeyFilter, TheMenuBarIsWalkedWithTheArrows) {
   EXPECT_EQ(Type(window.menuBar(), Qt::Key_Right), Ran{});
 }
 
-TEST_F(KeyFilter, AltAloneLeadsIntoTheMenuBar) {
+TEST_F(KeyFilter, AltAloneLeavesTheStageKeysWhereTheyAre) {
+  TCStageStyle style;
+  window.menuBar()->setStyle(&style);
   Focus(list);
   QTest::keyClick(list, Qt::Key_Alt, Qt::AltModifier);
-  EXPECT_EQ(QApplication::focusWidget(), window.menuBar());
+  EXPECT_EQ(QApplication::focusWidget(), list);
+  EXPECT_EQ(Type(list, Qt::Key_P), Ran{TCCommandId::Play});
+  window.menuBar()->setStyle(nullptr);
 }
 
 TEST_F(KeyFilter, AWidgetKeepsTheKeysItHasClaimed) {

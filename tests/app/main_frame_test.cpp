@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTemporaryDir>
+#include <QTextBlock>
+#include <limits>
 
 #include "app/stage_palette.h"
 #include "support/fake_player.h"
@@ -119,6 +121,59 @@ TEST_F(MainFrame, FontsFollowTheSettings) {
   frame.ShowOptions();
   EXPECT_EQ(frame.PlaylistView().font().pointSize(), 31);
   EXPECT_EQ(frame.MessageDisplay().font().pointSize(), 27);
+}
+
+TEST_F(MainFrame, AFontOfAnySizeLeavesTheDisplaysUsable) {
+  frame.show();
+  const int screenHeight = frame.screen()->availableGeometry().height();
+  for (const std::int32_t points : {0, -5, 1, 100000, std::numeric_limits<std::int32_t>::min(),
+                                    std::numeric_limits<std::int32_t>::max()}) {
+    settings.playListFontSize = points;
+    settings.lyricsFontSize = points;
+    frame.ShowOptions();
+    frame.MessageDisplay().Append(u"\tA line of lyrics");
+    for (const QWidget* display :
+         {static_cast<QWidget*>(&frame.PlaylistView()), static_cast<QWidget*>(&frame.MessageDisplay())}) {
+      EXPECT_GE(display->font().pointSize(), 1) << points;
+      EXPECT_LE(display->fontMetrics().lineSpacing(), screenHeight) << points;
+    }
+    EXPECT_EQ(settings.lyricsFontSize, points) << "the setting keeps what was entered";
+  }
+}
+
+// What stands in a pane, from the first visible line on.
+QStringList VisibleLines(const TCGeneralReportsTab& pane) {
+  QStringList lines;
+  QTextBlock block = pane.cursorForPosition(QPoint(0, 0)).block();
+  // A line counts when it is seen whole.
+  for (; block.isValid(); block = block.next()) {
+    const QRect place = pane.cursorRect(QTextCursor(block));
+    if (place.top() >= 0 && place.bottom() <= pane.viewport()->height()) lines.append(block.text());
+  }
+  return lines;
+}
+
+TEST_F(MainFrame, ThreeLyricLinesOfTheUsualSizeAreSeenAtOnce) {
+  frame.resize(1600, 1000);
+  frame.show();
+  frame.MessageDisplay().Clear();
+  for (const std::u16string_view line : {u"First line,", u"second line", u"and third."}) {
+    frame.MessageDisplay().Append(u"\r\n");
+    frame.MessageDisplay().Append(std::u16string(u"\t").append(line));
+  }
+  const QStringList seen = VisibleLines(frame.MessageDisplay());
+  for (const char* line : {"\tFirst line,", "\tsecond line", "\tand third."}) {
+    EXPECT_TRUE(seen.contains(QLatin1String(line))) << line;
+  }
+}
+
+TEST_F(MainFrame, TheBottomPanesHaveAThirdOfATallWindow) {
+  frame.show();
+  EXPECT_NEAR(frame.PlayerPane().parentWidget()->height(), frame.height() / 3, 2);
+}
+
+TEST_F(MainFrame, ThePlayControlsStandAtTheTop) {
+  EXPECT_EQ(frame.toolBarArea(&frame.PlayControls()), Qt::TopToolBarArea);
 }
 
 TEST_F(MainFrame, APointedAtMenuEntryIsExplainedInTheStatusBar) {

@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
+#include "app/dialog_enter_user_text.h"
 #include "dialog_answer.h"
 #include "support/fake_player.h"
 #include "views/text_conversion.h"
@@ -39,6 +42,43 @@ class QtPrompts : public testing::Test {
   TCQtPrompts prompts{frame, setLists, TCNativePaths()};
   QTemporaryDir folder;
 };
+
+QLineEdit& FieldOf(QDialog& dialog) {
+  return *dialog.findChild<QLineEdit*>(QStringLiteral("Text"));
+}
+
+TEST_F(QtPrompts, TheTextComesBackAsItWasTyped) {
+  const TCDialogAnswer<QDialog> answer([](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+    EXPECT_EQ(FieldOf(dialog).text(), QStringLiteral("5"));
+    FieldOf(dialog).setText(QStringLiteral("  12 abc \t"));
+    dialog.accept();
+  });
+  EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"How many", u"", u"5"}), u"  12 abc \t");
+}
+
+TEST_F(QtPrompts, AnEmptyTextIsAnAnswerTooAndACancelledPromptIsNone) {
+  {
+    const TCDialogAnswer<QDialog> answer([](QDialog& dialog) {
+      FieldOf(dialog).clear();
+      dialog.accept();
+    });
+    EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"How many", u"", u"5"}), u"");
+  }
+  const TCDialogAnswer<QDialog> answer([](QDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"How many", u"", u"5"}), std::nullopt);
+}
+
+TEST_F(QtPrompts, NoQuestionOpensOverAnother) {
+  const TCDialogAnswer<QDialog> answer([this](QDialog& dialog) {
+    EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"Another", u"", u""}), std::nullopt);
+    EXPECT_EQ(prompts.AskSaveChanges(u"show.brv"), TCSaveAnswer::Cancel);
+    EXPECT_EQ(prompts.ChooseDocumentToOpen(), std::nullopt);
+    EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+    dialog.accept();
+  });
+  EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"The first", u"", u"kept"}), u"kept");
+}
 
 TEST_F(QtPrompts, TheSaveQuestionNamesTheDocument) {
   QString text;

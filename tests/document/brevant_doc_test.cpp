@@ -278,6 +278,60 @@ TEST_F(BrevantDocTest, ClearInformationEmptiesTheMessages) {
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
+TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::RefreshAllTimes);
+  player.Advance(0.3);
+  document.OnPlayTimerTick();
+  EXPECT_EQ(frame.status, u"1 of 3");
+  EXPECT_FALSE(document.IsModified());
+  for (int poll = 0; poll < 5; ++poll) {
+    player.Advance(0.3);
+    document.OnPlayTimerTick();
+  }
+  EXPECT_EQ(frame.status, u"");
+  EXPECT_TRUE(document.IsModified());
+  EXPECT_EQ(view.header, u"One - Total Playlist Time: 02:25");
+  EXPECT_EQ(view.rows[1].texts.time, u"01:05");
+}
+
+TEST_F(BrevantDocTest, ARunOverThePlaylistLeavesTheOthersAlone) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::RefreshPlaylistTimes);
+  for (int poll = 0; poll < 5; ++poll) document.OnPlayTimerTick();
+  EXPECT_EQ(record.setLists.groups[0].playlists[1].items[0].time, u"01:00");
+  EXPECT_EQ(record.setLists.groups[0].playlists[0].items[0].time, u"01:05");
+}
+
+TEST_F(BrevantDocTest, ANewLatencyMovesEveryTotal) {
+  document.OnOpenDocument(kShow);
+  prompts.texts = {u"0"};
+  document.OnCommand(TCCommandId::SongLatency);
+  EXPECT_EQ(view.header, u"One - Total Playlist Time: 07:00");
+  EXPECT_FALSE(document.IsModified());
+}
+
+TEST_F(BrevantDocTest, ATypedOptionIsShownAtOnceAndACancelledPromptShowsNothing) {
+  prompts.texts = {u"44", std::nullopt};
+  document.OnCommand(TCCommandId::PlaylistFontSize);
+  EXPECT_EQ(frame.optionShows, 1);
+  document.OnCommand(TCCommandId::PlaylistFontSize);
+  EXPECT_EQ(frame.optionShows, 1);
+  EXPECT_EQ(record.settings.playListFontSize, 44);
+}
+
+TEST_F(BrevantDocTest, VolumeKeysReachThePlayer) {
+  player.SetVolume(50);
+  document.OnCommand(TCCommandId::VolumeUp);
+  document.OnCommand(TCCommandId::MediaVolumeUp);
+  EXPECT_EQ(player.GetVolume(), 60);
+  document.OnCommand(TCCommandId::VolumeDown);
+  document.OnCommand(TCCommandId::MediaVolumeDown);
+  EXPECT_EQ(player.GetVolume(), 50);
+}
+
 TEST_F(BrevantDocTest, ACommandOfSomebodyElseIsNotTaken) {
   EXPECT_FALSE(TCBrevantDoc::Handles(TCCommandId::About));
   EXPECT_FALSE(document.OnCommand(TCCommandId::About));

@@ -136,6 +136,23 @@ TEST_F(PlaylistPresenterTest, AnOptionRecoloursAlsoWhenNoSongIsCurrent) {
   EXPECT_EQ(view.rows[2].colours.text, kBlack);
 }
 
+TEST_F(PlaylistPresenterTest, AnOptionRecoloursTheRowsThatAnEmptyPlaylistLeft) {
+  presenter.ShowPlaylist(0, 0);
+  store.currentPlaylist = 2;
+  presenter.ShowPlaylist(0, 2);
+  record.settings.SetWhiteOnBlack(false);
+  presenter.ShowColours();
+  EXPECT_EQ(view.rows[0].colours.background, kWhite);
+  EXPECT_EQ(view.rows[2].colours.text, kBlack);
+}
+
+TEST_F(PlaylistPresenterTest, AClearedViewNamesNoPlaylist) {
+  presenter.ShowPlaylist(0, 0);
+  presenter.Clear();
+  EXPECT_TRUE(view.rows.empty());
+  EXPECT_EQ(view.header, u"Play List");
+}
+
 TEST_F(PlaylistPresenterTest, AnEmptySongTimeIsIgnored) {
   presenter.ShowPlaylist(0, 0);
   presenter.SetSongTime(1, u"");

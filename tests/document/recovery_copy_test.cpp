@@ -30,6 +30,12 @@ TEST(RecoveryCopyTest, ADocumentWithoutANameGetsOne) {
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"", {u"one"}), u"\\home\\me\\recovery\\Brevant.brv");
 }
 
+TEST(RecoveryCopyTest, ANameThatCannotBeWrittenIsPassedOver) {
+  TCMemoryFiles files;
+  files.MakeUnwritable(u"\\home\\me\\recovery\\show.brv");  // a folder of that name, say
+  EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"show.brv", {u"one"}), u"\\home\\me\\recovery\\show (2).brv");
+}
+
 TEST(RecoveryCopyTest, WhenNothingCanBeWrittenTheAnswerIsEmpty) {
   TCMemoryFiles files;
   files.failWrites = true;

@@ -2,15 +2,20 @@
 it, and finds it again at the next start.
 """
 
-from rig import accessibility as tree
 from rig import flow, screen, songs
+from rig.stage import Stage
 from rig.waiting import holds_for, wait_for
 
-BLACK, WHITE = (0, 0, 0), (255, 255, 255)
+WHITE = (255, 255, 255)
 RED, GREEN, AMBER = (255, 0, 0), (0, 255, 0), (255, 191, 0)  # played, playing, next
+
+LYRICS = ["M: The harbour hums,", "F: the evening comes."]
 
 FIRST_HEADER = "First Set - Total Playlist Time: 01:12"  # 9 + 2 + 8 + 8 seconds and three gaps of 15
 SECOND_HEADER = "Second Set - Total Playlist Time: 00:31"  # 8 + 8 seconds and one gap
+
+KEY_HELP = ("Play=ENTER, P, F5| Stop=S, F6, 6 | Pause Cont.=Spacebar | Playlist Prior=<- | Playlist Next=-> | "
+            "Song Prior=^ | Song Next=v | Select=RETURN | Properties=Q | Focus Manager=F2/2 | Focus Playlist=F3/3")
 
 
 class Evening:
@@ -22,7 +27,7 @@ class Evening:
         self.missing = folder / "Lost Song.mp3"
         first = folder / "Harbour Tone.wav"
         songs.write_wave(first, 440, 9.2)
-        songs.write_lyrics(first, [(0, "M: The harbour hums,"), (5000, "F: the evening comes.")])
+        songs.write_lyrics(first, [(0, LYRICS[0]), (5000, LYRICS[1])])
         songs.write_wave(folder / "Short Tone.wav", 660, 2.4)
         songs.write_mp3(folder / "Third Tone.mp3", 550, 8.2)
         songs.write_midi(folder / "Organ.mid", 69, 8.2)
@@ -37,62 +42,6 @@ class Evening:
         ])
 
 
-class Stage:
-    """The program's window as the operator sees it."""
-
-    def __init__(self, program, listener):
-        self.program = program
-        self.listener = listener
-
-    def dismiss_the_about_box(self):
-        box = self.program.wait_for("dialog", "About Brevant")
-        assert tree.find(box, "label"), "the About box says nothing"
-        wait_for("the About box to have the keys", lambda: screen.active_window_title() == "About Brevant")
-        screen.press("Return")
-        wait_for("the About box to close", lambda: self.program.find("dialog", "About Brevant") is None)
-        wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))
-
-    def table(self):
-        return self.program.wait_for("table", "Playlist")
-
-    def rows(self):
-        return [row[1:] for row in tree.rows(self.table())]
-
-    def header(self):
-        return tree.headers(self.table())[4]
-
-    def message(self):
-        return tree.text_of(self.program.wait_for("text", "Brevant Information & Lyrics"))
-
-    def colours(self):
-        """The text colour of each row's song name; every row must stand on black."""
-        table, picture = self.table(), screen.Picture()
-        seen = [picture.text_and_background(tree.cell_area(table, row, 4)) for row in range(len(tree.rows(table)))]
-        assert all(background == BLACK for _, background in seen), seen
-        return [text for text, _ in seen]
-
-    def wait_for_colours(self, *expected):
-        seen = []
-
-        def shown():
-            seen[:] = self.colours()
-            return seen == list(expected)
-
-        try:
-            wait_for(f"rows in the colours {expected}", shown, 5)
-        except AssertionError as failure:
-            raise AssertionError(f"{failure}; the rows are {seen}") from None
-
-    def wait_for_message(self, text, seconds=5):
-        wait_for(f"the message display to show {text!r}", lambda: text in self.message(), seconds)
-
-    def wait_to_hear(self, pitch, share=0.5, seconds=5):
-        wait_for(f"a tone of {pitch} Hz", lambda: self.listener.sounds(pitch, share), seconds)
-
-    def wait_for_silence(self, seconds=5):
-        wait_for("silence", self.listener.silent, seconds)
-
-
 def opens_the_document(stage, evening):
     stage.dismiss_the_about_box()
     wait_for("the title", lambda: screen.active_window_title() == "Evening.brv - Brevant")
@@ -104,7 +53,7 @@ def opens_the_document(stage, evening):
     ], stage.rows()
     assert stage.header() == FIRST_HEADER, stage.header()
     assert stage.message().strip() == "...Brevant...", stage.message()
-    assert stage.program.find("label", None), "the status bar has no label"
+    assert stage.program.find("label", KEY_HELP), "the status bar does not show the key help"
     stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
 
 
@@ -112,7 +61,8 @@ def plays_pauses_and_stops(stage, listener):
     assert listener.silent(), "something sounds before Play"
     screen.press("Return")
     stage.wait_to_hear(440)
-    assert stage.message() == "", f"Play left this in the message display: {stage.message()!r}"
+    stage.program.wait_for("label", "Harbour Tone.wav")  # in the player pane
+    wait_for("the song's words, and nothing else", lambda: stage.message_lines() == LYRICS, 5)
 
     screen.press("space")
     stage.wait_for_silence()
@@ -150,6 +100,18 @@ def a_song_runs_to_its_end(stage, listener):
     stage.wait_to_hear(550)
     screen.press("F6")
     stage.wait_for_silence()
+
+
+def plays_with_the_mouse(stage):
+    stage.click_the_button("Play")
+    stage.wait_to_hear(550)
+    stage.click_the_button("Pause")
+    stage.wait_for_silence()
+    stage.click_the_button("Pause")
+    stage.wait_to_hear(550)
+    stage.click_the_button("Stop")
+    stage.wait_for_silence()
+    stage.wait_for_colours(WHITE, RED, GREEN, AMBER)
 
 
 def a_lost_song_is_reported(stage, listener, evening):
@@ -192,33 +154,34 @@ def closes_and_writes_its_settings(stage, program, evening):
     assert "AutoSongAdvance=Yes" in settings, settings
 
 
-def perform(evening_flow):
-    evening = Evening(evening_flow.scratch / "set lists")
-    listener = evening_flow.listener
-    program = evening_flow.start(evening.document)
+def perform(rig):
+    evening = Evening(rig.scratch / "set lists")
+    listener = rig.listener
+    program = rig.start(evening.document)
     stage = Stage(program, listener)
     steps = (
         (lambda: opens_the_document(stage, evening), "opens the document named on the command line"),
         (lambda: plays_pauses_and_stops(stage, listener), "plays, pauses, continues and stops the first song"),
         (lambda: steps_through_the_songs(stage), "steps down and up"),
         (lambda: a_song_runs_to_its_end(stage, listener), "hears a song to its end, and the next becomes current"),
+        (lambda: plays_with_the_mouse(stage), "plays with the mouse in the player pane"),
         (lambda: a_lost_song_is_reported(stage, listener, evening), "is told of a lost song"),
         (lambda: goes_to_the_next_playlist(stage), "goes to the next playlist and back"),
         (lambda: closes_and_writes_its_settings(stage, program, evening), "closes"),
     )
     for action, sentence in steps:
-        evening_flow.step(sentence)
+        rig.step(sentence)
         action()
-        evening_flow.picture(sentence.split(",")[0].replace(" ", "-"))
+        rig.picture(sentence.split(",")[0].replace(" ", "-"))
 
-    evening_flow.step("starts again and finds the last document")
-    again = evening_flow.start()
+    rig.step("starts again and finds the last document")
+    again = rig.start()
     second = Stage(again, listener)
     second.dismiss_the_about_box()
     wait_for("the title", lambda: screen.active_window_title() == "Evening.brv - Brevant")
     assert second.header() == FIRST_HEADER, second.header()
     second.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
-    evening_flow.picture("the-second-start")
+    rig.picture("the-second-start")
     screen.press("alt+f")
     screen.press("x")
     status = again.exit_status()

@@ -120,6 +120,15 @@ TEST_F(DocumentFileTest, GroupListNamesAreResolvedAgainstTheDocumentsFolder) {
   EXPECT_EQ(store.groups[1].playlists.size(), 1u);
 }
 
+TEST_F(DocumentFileTest, AnotherRelativeFolderIsUsedAsWrittenAndTheTypeCountsInAnyCase) {
+  files.PutUtf16(u"Sub\\X.BRVGL", u"p.brvpl\r\n");
+  files.PutUtf16(u"Sub\\p.brvpl", u"a.mp3\r\n");
+  ASSERT_TRUE(Open(u"Sub\\X.BRVGL\r\n"));
+  ASSERT_EQ(store.groups.size(), 1u);
+  EXPECT_EQ(store.groups[0].name, u"X");
+  EXPECT_EQ(store.groups[0].playlists.size(), 1u);
+}
+
 TEST_F(DocumentFileTest, AMissingGroupListIsReportedAndStaysEmptyWhileTheRestLoads) {
   files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
   ASSERT_TRUE(Open(u"Gone.brvgl\r\nThere.brvgl\r\n"));

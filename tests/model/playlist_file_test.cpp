@@ -69,12 +69,16 @@ TEST_F(PlaylistFileTest, SongsAlreadyThereKeepTheirPlacesAndWhatTheFileDoesNotSa
   playlist.items.resize(5);
   playlist.items[0].time = u"09:09";
   playlist.items[0].option1 = u"kept";
+  for (TCPlayListItem& song : playlist.items) song.SetPath(u"E:\\old\\old.wma");
   ASSERT_TRUE(Load(u"a.mp3\r\nb.mp3*02:00\r\nc.mp3\r\n"));
   ASSERT_EQ(playlist.items.size(), 3u);
   EXPECT_EQ(playlist.items[0].fileName, u"a.mp3");
   EXPECT_EQ(playlist.items[0].time, u"09:09");
   EXPECT_EQ(playlist.items[0].option1, u"kept");
   EXPECT_EQ(playlist.items[1].time, u"02:00");
+  EXPECT_EQ(playlist.items[1].FullPath(), u"b.mp3");
+  EXPECT_EQ(playlist.items[2].FullPath(), u"c.mp3");
+  EXPECT_EQ(playlist.items[2].extension.str(), u"mp3");
 }
 
 TEST_F(PlaylistFileTest, SongsAreFoundOrNotByTheirFilesAlone) {

@@ -42,6 +42,10 @@ TEST(SetListTest, NewPlaylistsAndGroupsCarryTheirFileTypes) {
   EXPECT_EQ(TCPlayList{}.extension, u"brvpl");
   EXPECT_EQ(TCPlayGroups{}.extension, u"brvgl");
   EXPECT_EQ(TCPlayList{}.totalTime, u"");
+  EXPECT_EQ(TCPlayList{}.folder.str(), u"");
+  EXPECT_EQ(TCPlayList{}.state1, 0);
+  EXPECT_EQ(TCPlayList{}.state2, 0);
+  EXPECT_EQ(TCPlayList{}.state3, 0);
 }
 
 TEST(SetListTest, StatusTextsAreTheStringTables) {
@@ -249,6 +253,36 @@ TEST(SetListStoreTest, TheListOfNamesIsASnapshot) {
   ASSERT_EQ(names.size(), 1u);
   EXPECT_EQ(names[0].groupName, u"Sets");
   EXPECT_EQ(names[0].playlistNames, std::vector<std::u16string>{u"P1"});
+}
+
+TEST(SetListStoreTest, ASongIsFoundByExactlyItsPath) {
+  TCSetListStore store = StoreWithTwoSongs();
+  std::vector<TCPlayListItem>& songs = store.groups[0].playlists[0].items;
+  songs[0].SetPath(u"C:\\Music\\a.mp3");
+  songs[1].SetPath(u"C:\\Live\\a.mp3");
+  EXPECT_EQ(store.FindSongByPath(u"C:\\Live\\a.mp3"), &songs[1]);
+  EXPECT_EQ(store.FindSongByPath(u"C:\\live\\a.mp3"), nullptr);
+  EXPECT_EQ(store.FindSongByPath(u"C:\\Live\\a.mp"), nullptr);
+  EXPECT_EQ(store.FindSongByPath(u"a.mp3"), nullptr);
+  EXPECT_EQ(store.FindSongByPath(u""), nullptr);
+}
+
+TEST(SetListStoreTest, OfSongsWithTheSamePathTheFirstInModelOrderIsFound) {
+  TCSetListStore store = StoreWithTwoSongs();
+  store.groups.push_back(store.groups[0]);
+  TCPlayListItem& first = store.groups[0].playlists[0].items[1];
+  EXPECT_EQ(store.FindSongByPath(u"b.mp3"), &first);
+}
+
+TEST(SetListStoreTest, ASongIsFoundWhereverItsFolderAndNameMeet) {
+  TCSetListStore store = StoreWithTwoSongs();
+  TCPlayListItem& song = store.groups[0].playlists[0].items[1];
+  for (const std::size_t meet : {std::size_t{0}, std::size_t{2}, std::size_t{8}, std::size_t{11}}) {
+    const std::u16string path = u"C:\\Music\\b.mp3";
+    song.folder = path.substr(0, meet);
+    song.fileName = path.substr(meet);
+    EXPECT_EQ(store.FindSongByPath(path), &song) << meet;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+#include <vector>
+
 #include "support/memory_files.h"
 
 namespace brevant {
@@ -58,13 +62,20 @@ TEST_F(SettingsFileTest, WithoutAFileEveryOptionKeepsItsDefault) {
 }
 
 TEST_F(SettingsFileTest, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
-  record.settings.autoRecycle = false;
-  record.settings.playlistManagerImmediatePlay = true;
-  record.settings.autoPlayPlayList = true;
-  const TCSettings settings = Load("PlayListFontSize=33\r\n");
+  TCSettings& before = record.settings;
+  constexpr std::array kOnWhenMissing = {
+      &TCSettings::loadLastWindowState, &TCSettings::loadLastFileOnProgramRun,
+      &TCSettings::whiteOnBlack,        &TCSettings::dynamicPlayColours,
+      &TCSettings::confirmFileRemove,   &TCSettings::foldersSaveFormat,
+      &TCSettings::autoSongAdvance,     &TCSettings::autoRecycle,
+      &TCSettings::immediatePlay};
+  for (const auto option : kOnWhenMissing) before.*option = false;
+  before.playlistManagerImmediatePlay = true;
+  before.autoPlayPlayList = true;
+  before.playListFontSize = 33;
+  const TCSettings settings = Load("");
   EXPECT_TRUE(settings.settingsFileFound);
-  EXPECT_TRUE(settings.autoRecycle);
-  EXPECT_TRUE(settings.loadLastWindowState);
+  for (const auto option : kOnWhenMissing) EXPECT_TRUE(settings.*option);
   EXPECT_FALSE(settings.playlistManagerImmediatePlay);
   EXPECT_TRUE(settings.autoPlayPlayList);  // a missing key leaves it
   EXPECT_FALSE(settings.liveViewMode);
@@ -185,6 +196,62 @@ TEST_F(SettingsFileTest, WhatElseStandsInTheFileIsKept) {
   EXPECT_NE(bytes.find("; mine"), std::string::npos);
   EXPECT_NE(bytes.find("[Other]\r\na=1"), std::string::npos);
   EXPECT_NE(bytes.find("Unknown=7"), std::string::npos);
+}
+
+TEST_F(SettingsFileTest, EveryKeyBelongsToItsOwnOption) {
+  struct BoolKey {
+    const char* key;
+    bool TCSettings::*option;
+  };
+  const std::vector<BoolKey> keys = {
+      {"LoadLastWindowState", &TCSettings::loadLastWindowState},
+      {"LoadLastFileOnProgramRun", &TCSettings::loadLastFileOnProgramRun},
+      {"WhiteOnBlack", &TCSettings::whiteOnBlack},
+      {"DynamicPlayColours", &TCSettings::dynamicPlayColours},
+      {"ConfirmFileRemove", &TCSettings::confirmFileRemove},
+      {"FoldersSaveFormat", &TCSettings::foldersSaveFormat},
+      {"ImmediatePlay", &TCSettings::immediatePlay},
+      {"PlaylistManagerImmediatePlay", &TCSettings::playlistManagerImmediatePlay},
+      {"AutoSongAdvance", &TCSettings::autoSongAdvance},
+      {"AutoRecycle", &TCSettings::autoRecycle},
+      {"AutoPlayPlayList", &TCSettings::autoPlayPlayList},
+      {"LiveViewMode", &TCSettings::liveViewMode},
+  };
+  for (const BoolKey& on : keys) {
+    std::string text;
+    for (const BoolKey& key : keys) text += std::string(key.key) + (&key == &on ? "=Yes\r\n" : "=No\r\n");
+    const TCSettings settings = Load(text);
+    for (const BoolKey& key : keys) EXPECT_EQ(settings.*key.option, &key == &on) << on.key << " " << key.key;
+    ASSERT_TRUE(settingsFile.SaveSettings(record));
+    EXPECT_NE(files.BytesOf(kPath)->find(text.substr(text.find(on.key), std::string(on.key).size() + 4)),
+              std::string::npos);
+  }
+  Load(
+      "LastMediaFileName=a\r\nLastMediaFileExtSpec=b\r\nLastGroupListName=c\r\nLastPlayListName=d\r\n"
+      "LastSongName=e\r\nPlayListFontTypeName=f\r\nLyricsFontTypeName=g\r\nValidMediaFileExtensions=h\r\n"
+      "SongLatencySeconds=1\r\nFastFowardFastReverseTimeStep=2\r\nVolumeStep=3\r\nDisable Editing=4\r\n"
+      "PlayListFontSize=5\r\nLyricsFontSize=6\r\nNumberLyricLines=7\r\n");
+  EXPECT_EQ(record.settings.lastMediaFileName, u"a");
+  EXPECT_EQ(record.settings.lastMediaFileExtSpec, u"b");
+  EXPECT_EQ(record.setLists.lastGroupListName, u"c");
+  EXPECT_EQ(record.setLists.lastPlayListName, u"d");
+  EXPECT_EQ(record.setLists.lastSongName, u"e");
+  EXPECT_EQ(record.settings.playListFontTypeName, u"f");
+  EXPECT_EQ(record.settings.lyricsFontTypeName, u"g");
+  EXPECT_EQ(record.setLists.validMediaExtensions, u"h");
+  EXPECT_EQ(record.setLists.songLatencySeconds, 1);
+  EXPECT_EQ(record.settings.seekStepSeconds, 2);
+  EXPECT_EQ(record.settings.volumeStep, 3);
+  EXPECT_EQ(record.settings.disableEditing, 4);
+  EXPECT_EQ(record.settings.playListFontSize, 5);
+  EXPECT_EQ(record.settings.lyricsFontSize, 6);
+  EXPECT_EQ(record.settings.numberLyricLines, 7);
+}
+
+TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
+  files.Put(kPath, std::string((std::size_t{1} << 20) + 1, ';'));
+  EXPECT_TRUE(settingsFile.SaveSettings(record));
+  EXPECT_TRUE(files.writes.empty());
 }
 
 TEST_F(SettingsFileTest, APendingResetDeletesTheFileInsteadOfWritingIt) {

@@ -19,7 +19,29 @@ TEST(TransportRulesTest, APollActsOnlyOnTheFirstSoundAndOnTheEnd) {
            Case{true, 200.0, TCTickAction::Wait},
            Case{true, 0.0, TCTickAction::EndSong},
        }) {
-    EXPECT_EQ(DecideTick(c.started, c.position), c.expected) << c.started << " " << c.position;
+    EXPECT_EQ(DecideTick({c.started, c.position}), c.expected) << c.started << " " << c.position;
+  }
+}
+
+TEST(TransportRulesTest, ARepeatRangeIsHeldOnlyWhileItIsSetAndAutoPlayIsOn) {
+  struct Case {
+    bool started;
+    double position;
+    bool autoPlay;
+    std::int32_t repeatEnd;
+    TCTickAction expected;
+  };
+  for (const Case& c : {
+           Case{true, 60.3, true, 60, TCTickAction::JumpToRepeatBegin},
+           Case{true, 60.0, true, 60, TCTickAction::Wait},  // only past the end
+           Case{true, 59.9, true, 60, TCTickAction::Wait},
+           Case{true, 60.3, false, 60, TCTickAction::Wait},
+           Case{true, 60.3, true, 0, TCTickAction::Wait},
+           Case{true, 0.0, true, 60, TCTickAction::EndSong},
+           Case{false, 60.3, true, 60, TCTickAction::MarkStarted},
+       }) {
+    EXPECT_EQ(DecideTick({c.started, c.position, c.autoPlay, c.repeatEnd}), c.expected)
+        << c.started << " " << c.position << " " << c.autoPlay << " " << c.repeatEnd;
   }
 }
 

@@ -6,6 +6,7 @@
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
+#include "support/repeat_fields.h"
 #include "support/set_list_display_log.h"
 
 namespace brevant {
@@ -55,7 +56,8 @@ class TransportTest : public testing::Test {
   TCFakePlayer player;
   TCSetListDisplayLog display;
   TCMessageLog messages;
-  TCTransport transport{record, files, &player, display, messages};
+  TCFakeRepeatFields repeatFields;
+  TCTransport transport{{record, files, display, messages, &player, nullptr, &repeatFields}};
 };
 
 TEST_F(TransportTest, PlayLoadsTheCurrentSongAndStartsIt) {
@@ -387,7 +389,7 @@ TEST_F(TransportTest, CancelDropsPendingTimesAndTouchesNoSound) {
   player.ForgetCalls();
   transport.CancelPending();
   EXPECT_FALSE(transport.State().refreshSongTime);
-  EXPECT_FALSE(transport.State().timesPending);
+  EXPECT_FALSE(transport.TimeRun().Pending());
   EXPECT_TRUE(transport.State().playing);
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
@@ -421,11 +423,85 @@ TEST_F(TransportTest, WithoutControlsAPlayingSongIsLeftAlone) {
   EXPECT_FALSE(transport.State().started);
 }
 
+TEST_F(TransportTest, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
+  settings.autoPlayPlayList = true;
+  repeatFields.begin = 2;
+  repeatFields.end = 4;
+  transport.Play();
+  Run(4.5);
+  EXPECT_THAT(player.Calls(), Contains("SetPosition 2"));
+  Run(60.0);
+  EXPECT_EQ(store.currentSong, 0);
+  repeatFields.end = 0;  // read afresh on every poll
+  Run(11.4);
+  EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, WithoutAutoPlayTheSongRunsPastTheRepeatRange) {
+  repeatFields.begin = 2;
+  repeatFields.end = 4;
+  transport.Play();
+  Run(11.4);
+  EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, LyricsFollowThePlayingSong) {
+  TCLyricSheet sheet;
+  sheet.Add({u"one", 1000, 3000, 0});
+  sheet.Add({u"two", 3000, kEndOfLyrics, 0});
+  Song(0).lyrics = TCSongLyrics(sheet);
+  settings.numberLyricLines = 1;
+  transport.Play();
+  Run(0.8);
+  EXPECT_THAT(messages.lines, IsEmpty());
+  Run(0.6);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone"));
+  EXPECT_EQ(transport.State().lastLyricIndex, 0);
+  messages.Clear();
+  transport.RedrawLyrics();
+  Run(0.3);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone"));
+  Run(2.1);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\ttwo"));
+}
+
+TEST_F(TransportTest, ATimeRunWithThePlayerItselfIsNeverTakenForTheEndOfASong) {
+  settings.autoPlayPlayList = true;
+  transport.Play();
+  Run(2.0);
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  EXPECT_FALSE(transport.State().playing);
+  Run(6.0);
+  EXPECT_FALSE(transport.TimeRun().Pending());
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_EQ(Song(2).time, u"00:10");
+  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
+}
+
+TEST_F(TransportTest, CancelEndsATimeRun) {
+  transport.StartTimeRun(TCTimeScope::AllSongs);
+  Run(0.6);
+  transport.CancelPending();
+  EXPECT_FALSE(transport.TimeRun().Pending());
+  EXPECT_EQ(Song(0).time, u"00:00");
+}
+
+TEST_F(TransportTest, ThePollSaysWhenATimeRunChangedSomething) {
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  int changes = 0;
+  for (int poll = 0; poll < 20; ++poll) {
+    player.Advance(0.3);
+    if (transport.OnPlayTimerTick()) ++changes;
+  }
+  EXPECT_EQ(changes, 1);
+}
+
 TEST_F(TransportTest, WithoutAPlayerEveryCommandRunsWithoutEffectAndWithoutError) {
-  TCTransport mute(record, files, nullptr, display, messages);
+  TCTransport mute({record, files, display, messages});
   mute.Play();
   mute.Stop();
   mute.PauseContinue();
+  mute.StartTimeRun(TCTimeScope::AllSongs);
   mute.OnPlayTimerTick();
   mute.SelectSong(1, TCSelect::MayPlay);
   EXPECT_FALSE(mute.State().playing);

@@ -18,6 +18,19 @@ class TCFakePrompts final : public TCPrompts {
   std::deque<std::optional<std::u16string>> saveAsAnswers;
   std::u16string lastName;
 
+  std::deque<std::optional<std::u16string>> texts;
+  std::u16string lastPrompt;
+  std::u16string lastExample;
+  std::u16string lastText;
+  TCTextPromptMode lastMode = TCTextPromptMode::Property;
+
+  std::optional<std::u16string> EnterText(const TCTextPrompt& prompt) override {
+    lastMode = prompt.mode;
+    lastPrompt = prompt.prompt;
+    lastExample = prompt.example;
+    lastText = prompt.text;
+    return Next(texts, std::optional<std::u16string>());
+  }
   TCSaveAnswer AskSaveChanges(std::u16string_view name) override {
     lastName = name;
     return Next(saveAnswers, TCSaveAnswer::Cancel);

@@ -124,6 +124,9 @@ std::optional<TCPlayerDesk::Handover> TCPlayerDesk::ReplaceWorkerIfStuck(double 
   if (closed || !busySince || clock() - *busySince < patience) return std::nullopt;
   busySince.reset();
   ++stuckWorkers;
+  // What the old worker took and did not get to is the new one's first item.
+  if (inHand) queue.push_front(std::move(*inHand));
+  inHand.reset();
   return Handover{++worker, checkpoint};
 }
 
@@ -154,12 +157,14 @@ TCPlayerDesk::Wake TCPlayerDesk::WaitForItem(Ticket ticket, std::optional<double
   if (queue.empty()) return Wake::Tick;
   item = std::move(queue.front());
   queue.pop_front();
+  inHand = item;
   return Wake::Item;
 }
 
 bool TCPlayerDesk::Publish(Ticket ticket, const TCPlayerMachine& machine) {
   const std::lock_guard lock(mutex);
   if (closed || ticket != worker) return false;
+  inHand.reset();
   checkpoint = machine;
   if (machine.Barrier() >= barrier) {
     Show(machine);

@@ -103,6 +103,7 @@ class TCPlayerDesk {
   int stuckWorkers = 0;
   int slowWorkers = 0;
   std::optional<double> busySince;
+  std::optional<Item> inHand;  // taken by the worker, its decision not published yet
   TCPlayerMachine checkpoint;
 };
 

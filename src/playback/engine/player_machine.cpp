@@ -95,11 +95,11 @@ void TCPlayerMachine::Pause(double now, Actions& actions) {
   }
   // A pipeline that waits in PAUSED before it ever sounded starts late by all the time it waited, so one that
   // has not begun is built again on Play.
-  DiscardPipeline(actions);
+  DropSound(actions);
 }
 
 void TCPlayerMachine::Stop(Actions& actions) {
-  DiscardPipeline(actions);
+  DropSound(actions);
   Rest();
   if (file == File::Failed) return;
   notice = TCPlayerNotice::None;
@@ -245,6 +245,10 @@ void TCPlayerMachine::DiscardPipeline(Actions& actions) {
   seekAgain = false;
   resumeWhenThere = false;
   endReached = false;
+}
+
+void TCPlayerMachine::DropSound(Actions& actions) {
+  if (sound != Sound::None) DiscardPipeline(actions);
 }
 
 void TCPlayerMachine::Rest() {

@@ -88,6 +88,8 @@ class TCPlayerMachine {
   void Build(double now, Actions& actions);
   void IssueSeek(double now, Actions& actions);
   void DiscardPipeline(Actions& actions);
+  // The same for a song's sound alone: a file that is still being probed is probed on.
+  void DropSound(Actions& actions);
   void Fail(TCPlayerNotice why, const std::string& words, Actions& actions);
   void End(Actions& actions);
   void Rest();

@@ -47,9 +47,10 @@ TCPlayerMachine::Actions TCPlayerMachine::OnNote(const TCPlayerNote& note, doubl
 
 void TCPlayerMachine::OnFileNote(const TCPlayerNote& note, double now, Actions& actions) {
   if (note.kind == TCPlayerNote::Kind::LengthMeasured) {
-    if (!lengthPending) return;
+    // Better late than a guess: the exact length replaces it even after the load time.
+    if (file == File::Ready && (note.length || lengthPending))
+      length = note.length ? note.length : roughLength;
     lengthPending = false;
-    length = note.length ? note.length : roughLength;
     return;
   }
   // A second answer comes when a new worker had to ask again.

@@ -9,7 +9,13 @@
 
 namespace brevant {
 
+enum class TCGstUse {
+  Playing,
+  Measuring,  // only lengths are asked for: a MIDI file has one without a soundfont, and nothing is warmed up
+};
+
 struct TCGstPlayerOptions {
+  TCGstUse use = TCGstUse::Playing;
   // Empty: the sound server, else the sound card. Otherwise a sink as on gst-launch's command line, such as
   // "fakesink sync=true" or "pulsesink server=...".
   std::string audioSink{};

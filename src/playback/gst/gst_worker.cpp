@@ -24,7 +24,7 @@ void TCGstWorker::Run() {
   const bool takesOver = ticket != shared->desk.FirstTicket();
   Initialise();
   bool wanted = !takesOver || Carry(machine.OnTakeover(shared->desk.Now()));
-  warm = takesOver;
+  warm = takesOver || shared->options.use == TCGstUse::Measuring;
   while (wanted) {
     TCPlayerDesk::Item item;
     std::optional<double> wait = machine.TickDueIn(shared->desk.Now());
@@ -117,7 +117,8 @@ void TCGstWorker::Perform(const TCPlayerAction& action) {
 void TCGstWorker::OpenFile(std::uint64_t load) {
   if (!initError.empty()) return Tell(TCPlayerNote::Kind::FileUnreadable, load, initError);
   const bool started = shared->jobs.Start([common = shared, load, url = machine.Url()] {
-    TCPlayerNote note = OpenMedia(url, common->paths, common->synths);
+    TCSynthStore* synths = common->options.use == TCGstUse::Playing ? &common->synths : nullptr;
+    TCPlayerNote note = OpenMedia(url, common->paths, synths);
     note.number = load;
     common->desk.Post(std::move(note));
   });

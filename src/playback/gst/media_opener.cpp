@@ -60,11 +60,11 @@ TCPlayerNote Refuse(const std::string& why) {
   return note;
 }
 
-TCPlayerNote OpenMidi(TCPlayable playable, const std::string& bytes, TCSynthStore& synths) {
+TCPlayerNote OpenMidi(TCPlayable playable, const std::string& bytes, TCSynthStore* synths) {
   std::optional<TCMidiSong> song = ReadMidi(bytes);
   if (!song) return Refuse("The MIDI file is damaged.");
   TCPlayerNote note;
-  if (!synths.Get()) {
+  if (synths != nullptr && !synths->Get()) {
     note.kind = TCPlayerNote::Kind::NoSoundfont;
     note.detail = "No soundfont was found.";
     return note;
@@ -77,7 +77,7 @@ TCPlayerNote OpenMidi(TCPlayable playable, const std::string& bytes, TCSynthStor
 
 }  // namespace
 
-TCPlayerNote OpenMedia(const std::u16string& url, const TCNativePaths& paths, TCSynthStore& synths) {
+TCPlayerNote OpenMedia(const std::u16string& url, const TCNativePaths& paths, TCSynthStore* synths) {
   std::error_code error;
   TCPlayable playable;
   playable.nativePath = std::filesystem::absolute(paths.FindOnDisk(url), error).string();

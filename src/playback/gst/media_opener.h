@@ -11,8 +11,9 @@
 
 namespace brevant {
 
-// The note says what became of it: FileOpened, FileUnreadable or NoSoundfont.
+// The note says what became of it: FileOpened, FileUnreadable or NoSoundfont. `synths` gets the synth ready
+// that a MIDI song sounds through; null when it is not to sound.
 [[nodiscard]] TCPlayerNote OpenMedia(const std::u16string& url, const TCNativePaths& paths,
-                                     TCSynthStore& synths);
+                                     TCSynthStore* synths);
 
 }  // namespace brevant

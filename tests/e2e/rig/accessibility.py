@@ -34,11 +34,14 @@ def elements(root):
             yield from elements(child)
 
 
-def find(root, role, name=None):
-    """The first shown element of a role (as getRoleName tells it) and, when given, an accessible name."""
+def find(root, role, name=None, description=None):
+    """The first shown element of a role (as getRoleName tells it) and, when given, an accessible name or
+    description.
+    """
     for element in elements(root):
         try:
             if (element.getRoleName() == role and name in (None, element.name) and
+                    description in (None, element.description) and
                     element.getState().contains(pyatspi.STATE_SHOWING)):
                 return element
         except VANISHED:

@@ -31,13 +31,13 @@ class Program:
             self.process.kill()
         self.process.wait()
 
-    def find(self, role, name=None):
+    def find(self, role, name=None, description=None):
         application = accessibility.application_of(self.process.pid)
-        return accessibility.find(application, role, name) if application else None
+        return accessibility.find(application, role, name, description) if application else None
 
-    def wait_for(self, role, name=None, seconds=15.0):
+    def wait_for(self, role, name=None, description=None, seconds=15.0):
         def look():
             assert self.running(), f"the program ended with status {self.process.returncode}"
-            return self.find(role, name)
+            return self.find(role, name, description)
 
-        return wait_for(f"a {role} named {name!r}", look, seconds)
+        return wait_for(f"a {role} named {name or description!r}", look, seconds)

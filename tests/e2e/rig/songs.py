@@ -10,8 +10,23 @@ import wave
 RATE = 44100
 
 
+def tone(pitch, seconds):
+    return array.array("h", (round(9000 * math.sin(2 * math.pi * pitch * i / RATE)) for i in range(int(seconds * RATE))))
+
+
 def write_wave(path, pitch, seconds):
-    frames = array.array("h", (round(9000 * math.sin(2 * math.pi * pitch * i / RATE)) for i in range(int(seconds * RATE))))
+    write_frames(path, tone(pitch, seconds))
+
+
+def write_ladder(path, pitches, seconds_each):
+    """One tone after the other, so that the place in the song can be heard."""
+    frames = array.array("h")
+    for pitch in pitches:
+        frames.extend(tone(pitch, seconds_each))
+    write_frames(path, frames)
+
+
+def write_frames(path, frames):
     with wave.open(str(path), "wb") as file:
         file.setnchannels(1)
         file.setsampwidth(2)

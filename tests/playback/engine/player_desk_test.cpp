@@ -262,8 +262,21 @@ TEST_F(PlayerDesk, CommandsGivenWhileAWorkerIsStuckReachTheNext) {
   now += 2.0;
   const auto handover = desk.ReplaceWorkerIfStuck(1.0);
   ASSERT_TRUE(handover);
-  ASSERT_EQ(desk.WaitForItem(handover->ticket, {}, item), TCPlayerDesk::Wake::Item);
-  EXPECT_EQ(std::get<TCPlayerCommand>(item).url, u"\\b.wav");
+  for (const std::u16string_view url : {u"\\a.wav", u"\\b.wav"}) {  // the one in hand first
+    ASSERT_EQ(desk.WaitForItem(handover->ticket, {}, item), TCPlayerDesk::Wake::Item);
+    EXPECT_EQ(std::get<TCPlayerCommand>(item).url, url);
+  }
+}
+
+TEST_F(PlayerDesk, WhatAWorkerHasDecidedIsNotDecidedAgainByTheNext) {
+  TCPlayerDesk::Item item;
+  desk.Load(u"\\a.wav");
+  EXPECT_EQ(desk.WaitForItem(ticket, {}, item), TCPlayerDesk::Wake::Item);
+  EXPECT_TRUE(desk.Publish(ticket, machine));
+  now += 2.0;  // stuck in carrying it out
+  const auto handover = desk.ReplaceWorkerIfStuck(1.0);
+  ASSERT_TRUE(handover);
+  EXPECT_EQ(desk.WaitForItem(handover->ticket, 0.0, item), TCPlayerDesk::Wake::Tick);
 }
 
 TEST_F(PlayerDesk, ClosingWakesTheWorkerAndRefusesTheRest) {

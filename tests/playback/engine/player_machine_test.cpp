@@ -57,7 +57,7 @@ TEST_F(PlayerMachine, ABareMp3IsMeasuredWhileItMayAlreadyPlay) {
   EXPECT_EQ(machine.DurationSeconds(), 30);
 }
 
-TEST_F(PlayerMachine, AMeasureThatFailsOrComesTooLateLeavesThePipelinesGuess) {
+TEST_F(PlayerMachine, AMeasureThatFailsLeavesThePipelinesGuessAndALateOneReplacesIt) {
   bareMp3 = true;
   Open(99.0);
   Note(Say::LengthMeasured);
@@ -66,8 +66,10 @@ TEST_F(PlayerMachine, AMeasureThatFailsOrComesTooLateLeavesThePipelinesGuess) {
   EXPECT_EQ(machine.DurationSeconds(), 0);
   Tick(4.0);
   EXPECT_EQ(machine.DurationSeconds(), 88);
-  Note(Say::LengthMeasured, 30.0);
+  Note(Say::LengthMeasured);
   EXPECT_EQ(machine.DurationSeconds(), 88);
+  Note(Say::LengthMeasured, 30.0);
+  EXPECT_EQ(machine.DurationSeconds(), 30);
 }
 
 TEST_F(PlayerMachine, AMeasureOfAnOlderSongIsNoNews) {
@@ -231,6 +233,30 @@ TEST_F(PlayerMachine, APauseDuringTheOpeningHoldsThePlayBack) {
   Pause();
   Note(Say::FileOpened);
   EXPECT_THAT(Note(Say::PipelineReady, 100.0), ElementsAre(Is(Act::Discard)));
+  EXPECT_THAT(Play(), ElementsAre(Is(Act::BuildPlaying)));
+}
+
+TEST_F(PlayerMachine, AStopWhileTheFileIsProbedLeavesTheSongPlayable) {
+  Load();
+  Play();
+  Note(Say::FileOpened);
+  EXPECT_THAT(Stop(), IsEmpty());
+  Note(Say::PipelineReady, 100.0);
+  Tick(5.0);
+  EXPECT_EQ(machine.View().phase, TCPlayerPhase::Stopped);
+  EXPECT_EQ(machine.DurationSeconds(), 100);
+  EXPECT_THAT(Play(), ElementsAre(Is(Act::BuildPlaying)));
+}
+
+TEST_F(PlayerMachine, APauseWhileTheFileIsProbedLeavesTheSongPlayable) {
+  Load();
+  Play();
+  Note(Say::FileOpened);
+  EXPECT_THAT(Pause(), IsEmpty());
+  Note(Say::PipelineReady, 100.0);
+  Tick(5.0);
+  EXPECT_EQ(machine.View().phase, TCPlayerPhase::Paused);
+  EXPECT_EQ(machine.DurationSeconds(), 100);
   EXPECT_THAT(Play(), ElementsAre(Is(Act::BuildPlaying)));
 }
 

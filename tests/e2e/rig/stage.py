@@ -1,0 +1,91 @@
+"""The program's window as the operator sees it: what stands where, and waiting until it does."""
+
+from rig import accessibility as tree
+from rig import screen
+from rig.waiting import wait_for
+
+BLACK = (0, 0, 0)
+
+
+class Stage:
+    def __init__(self, program, listener):
+        self.program = program
+        self.listener = listener
+
+    def dismiss_the_about_box(self):
+        box = self.program.wait_for("dialog", "About Brevant")
+        assert tree.find(box, "label"), "the About box says nothing"
+        wait_for("the About box to have the keys", lambda: screen.active_window_title() == "About Brevant")
+        screen.press("Return")
+        wait_for("the About box to close", lambda: self.program.find("dialog", "About Brevant") is None)
+        wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))
+
+    def table(self):
+        return self.program.wait_for("table", "Playlist")
+
+    def rows(self):
+        return [row[1:] for row in tree.rows(self.table())]
+
+    def header(self):
+        return tree.headers(self.table())[4]
+
+    def message(self):
+        return tree.text_of(self.program.wait_for("text", "Brevant Information & Lyrics"))
+
+    def message_lines(self):
+        """The lines of the message display that are not blank, without the blanks around them."""
+        return [line.strip() for line in self.message().split("\n") if line.strip()]
+
+    def label(self, description):
+        """What the player pane's label for something ("Elapsed time", "Volume") shows."""
+        return self.program.wait_for("label", description=description).name
+
+    def elapsed(self):
+        minutes, seconds = self.label("Elapsed time").split(":")
+        return int(minutes) * 60 + int(seconds)
+
+    def wait_for_label(self, description, text, seconds=5):
+        wait_for(f"{description} {text!r}", lambda: self.label(description) == text, seconds)
+
+    def enter_text(self, title, prompt, text):
+        """Answers the text prompt that is about to open; returns what its field held."""
+        dialog = self.program.wait_for("dialog", title)
+        wait_for("the prompt to have the keys", lambda: screen.active_window_title() == title)
+        assert tree.find(dialog, "label", prompt), f"the prompt does not say {prompt!r}"
+        held = tree.text_of(tree.find(dialog, "text", prompt))
+        screen.press(*text, "Return")
+        wait_for("the prompt to close", lambda: self.program.find("dialog", title) is None)
+        wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))
+        return held
+
+    def colours(self):
+        """The text colour of each row's song name; every row must stand on black."""
+        table, picture = self.table(), screen.Picture()
+        seen = [picture.text_and_background(tree.cell_area(table, row, 4)) for row in range(len(tree.rows(table)))]
+        assert all(background == BLACK for _, background in seen), seen
+        return [text for text, _ in seen]
+
+    def wait_for_colours(self, *expected):
+        seen = []
+
+        def shown():
+            seen[:] = self.colours()
+            return seen == list(expected)
+
+        try:
+            wait_for(f"rows in the colours {expected}", shown, 5)
+        except AssertionError as failure:
+            raise AssertionError(f"{failure}; the rows are {seen}") from None
+
+    def click_the_button(self, name):
+        left, top, width, height = tree.area(self.program.wait_for("push button", name))
+        screen.click(left + width // 2, top + height // 2)
+
+    def wait_for_message(self, text, seconds=5):
+        wait_for(f"the message display to show {text!r}", lambda: text in self.message(), seconds)
+
+    def wait_to_hear(self, pitch, share=0.5, seconds=5):
+        wait_for(f"a tone of {pitch} Hz", lambda: self.listener.sounds(pitch, share), seconds)
+
+    def wait_for_silence(self, seconds=5):
+        wait_for("silence", self.listener.silent, seconds)
