@@ -92,9 +92,7 @@ bool TCFolderNames::StillHolds(const std::string& folder) const {
 }
 
 bool TCFolderNames::IsMissing(std::string_view name) const {
-  const bool ascii = std::all_of(name.begin(), name.end(),
-                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-  return ascii && complete && Matches(name).empty();
+  return complete && IsAscii(name) && Matches(name).empty();
 }
 
 std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {
