@@ -72,25 +72,28 @@ void PrintLengths(const TCSetListStore& store, std::size_t kinds) {
 
 void RunAsFastAsKnown(TCTimeRun& run, const TCLengthProbe& probe) {
   std::vector<double> waits;
-  const double total = Milliseconds([&] {
+  const TCSpent total = Spent([&] {
     run.Start(TCTimeScope::AllSongs);
     // The first poll opens the first song; from then on each poll finds the song known that the last one
     // opened.
     while (run.Pending()) {
       (void)run.Step();
       if (!run.Pending()) break;
-      waits.push_back(Milliseconds([&probe] {
+      const TCSpent wait = Spent([&probe] {
         while (probe.GetDurationSeconds() == 0) std::this_thread::sleep_for(std::chrono::microseconds(200));
-      }));
+      });
+      waits.push_back(wait.wall);
     }
   });
   double sum = 0.0;
   for (const double wait : waits) sum += wait;
   const auto late =
       std::count_if(waits.begin(), waits.end(), [](double wait) { return wait > kPollPeriod.count(); });
-  std::printf("%zu songs in %.2f s; until a length was known: mean %.1f, median %.1f, at most %.1f ms\n",
-              run.Count(), total / 1000.0, sum / static_cast<double>(waits.size()), Median(waits),
-              *std::max_element(waits.begin(), waits.end()));
+  std::printf(
+      "%zu songs in %.2f s, %.2f of the processor; until a length was known: mean %.1f, median %.1f, at most "
+      "%.1f ms\n",
+      run.Count(), total.wall / 1000.0, total.processor / 1000.0, sum / static_cast<double>(waits.size()),
+      Median(waits), *std::max_element(waits.begin(), waits.end()));
   std::printf("%td of them not within a poll of %td ms; %zu polls at least, which take %.1f s\n", late,
               static_cast<std::ptrdiff_t>(kPollPeriod.count()), run.Count() + 1,
               static_cast<double>(run.Count() + 1) * static_cast<double>(kPollPeriod.count()) / 1000.0);
@@ -99,7 +102,7 @@ void RunAsFastAsKnown(TCTimeRun& run, const TCLengthProbe& probe) {
 void RunPolled(TCTimeRun& run) {
   std::size_t polls = 0;
   std::size_t late = 0;
-  const double total = Milliseconds([&] {
+  const TCSpent total = Spent([&] {
     run.Start(TCTimeScope::AllSongs);
     auto next = std::chrono::steady_clock::now();
     while (run.Pending()) {
@@ -110,7 +113,7 @@ void RunPolled(TCTimeRun& run) {
     }
   });
   std::printf("%zu songs with real polls in %.1f s: %zu polls, %zu of them in vain\n", run.Count(),
-              total / 1000.0, polls, late);
+              total.wall / 1000.0, polls, late);
 }
 
 int Measure(const std::filesystem::path& originals, int songs, bool polled) {

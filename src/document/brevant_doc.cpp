@@ -38,31 +38,6 @@ const OptionCommand* OptionOf(TCCommandId command) {
   return nullptr;
 }
 
-constexpr std::array kTransportCommands = {TCCommandId::Play,          TCCommandId::Stop,
-                                           TCCommandId::PauseContinue, TCCommandId::LoadSong,
-                                           TCCommandId::NextSong,      TCCommandId::PriorSong,
-                                           TCCommandId::NextPlaylist,  TCCommandId::PriorPlaylist,
-                                           TCCommandId::Cancel,        TCCommandId::ClearInformation};
-
-constexpr std::array kFileCommands = {TCCommandId::FileNew, TCCommandId::FileOpen, TCCommandId::FileSave,
-                                      TCCommandId::FileSaveAs};
-
-constexpr std::array kPlayerCommands = {TCCommandId::VolumeUp,       TCCommandId::VolumeDown,
-                                        TCCommandId::MediaVolumeUp,  TCCommandId::MediaVolumeDown,
-                                        TCCommandId::SeekForward,    TCCommandId::SeekBack,
-                                        TCCommandId::SetRepeatBegin, TCCommandId::SetRepeatEnd};
-
-constexpr std::array kTimeCommands = {TCCommandId::RefreshSongTime, TCCommandId::RefreshAllTimes,
-                                      TCCommandId::RefreshPlaylistTimes};
-
-template <typename List>
-bool Contains(const List& list, TCCommandId command) {
-  for (const TCCommandId entry : list) {
-    if (entry == command) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
@@ -112,6 +87,7 @@ void TCBrevantDoc::KeepUnsavedChanges() {
 }
 
 void TCBrevantDoc::ClearViewsAndStore() {
+  if (transport.TimeRun().Pending()) parts.frame.ShowStatus({});  // how far it had come
   presenter.Clear();
   parts.record.setLists.ClearSetLists();
   transport.ForgetSong();
@@ -159,10 +135,48 @@ bool TCBrevantDoc::SaveAs() {
   return OnSaveDocument(pathName);
 }
 
+const TCBrevantDoc::Handler* TCBrevantDoc::HandlerOf(TCCommandId command) {
+  using Doc = TCBrevantDoc;
+  using Id = TCCommandId;
+  static constexpr std::array kHandlers = {
+      Handler{Id::FileNew, [](Doc& doc) { doc.FileNew(); }},
+      Handler{Id::FileOpen, [](Doc& doc) { doc.FileOpen(); }},
+      Handler{Id::FileSave, [](Doc& doc) { doc.Save(); }},
+      Handler{Id::FileSaveAs, [](Doc& doc) { doc.SaveAs(); }},
+      Handler{Id::Cancel, [](Doc& doc) { doc.Cancel(); }},
+      Handler{Id::ClearInformation, [](Doc& doc) { doc.parts.messages.Clear(); }},
+
+      Handler{Id::Play, [](Doc& doc) { doc.transport.Play(); }},
+      Handler{Id::Stop, [](Doc& doc) { doc.transport.Stop(); }},
+      Handler{Id::PauseContinue, [](Doc& doc) { doc.transport.PauseContinue(); }},
+      Handler{Id::LoadSong, [](Doc& doc) { doc.PickRow(doc.parts.record.setLists.currentSong); }},
+      Handler{Id::NextSong, [](Doc& doc) { doc.transport.NextSong(); }},
+      Handler{Id::PriorSong, [](Doc& doc) { doc.transport.PriorSong(); }},
+      Handler{Id::NextPlaylist, [](Doc& doc) { doc.transport.NextPlaylist(); }},
+      Handler{Id::PriorPlaylist, [](Doc& doc) { doc.transport.PriorPlaylist(); }},
+
+      Handler{Id::VolumeUp, [](Doc& doc) { doc.volumeAndSeek.VolumeUp(); }},
+      Handler{Id::MediaVolumeUp, [](Doc& doc) { doc.volumeAndSeek.VolumeUp(); }},
+      Handler{Id::VolumeDown, [](Doc& doc) { doc.volumeAndSeek.VolumeDown(); }},
+      Handler{Id::MediaVolumeDown, [](Doc& doc) { doc.volumeAndSeek.VolumeDown(); }},
+      Handler{Id::SeekForward, [](Doc& doc) { doc.volumeAndSeek.SeekForward(); }},
+      Handler{Id::SeekBack, [](Doc& doc) { doc.volumeAndSeek.SeekBack(); }},
+      Handler{Id::SetRepeatBegin, [](Doc& doc) { doc.volumeAndSeek.SetRepeatBegin(); }},
+      Handler{Id::SetRepeatEnd, [](Doc& doc) { doc.volumeAndSeek.SetRepeatEnd(); }},
+
+      Handler{Id::RefreshSongTime, [](Doc& doc) { doc.transport.RefreshCurrentSongTime(); }},
+      Handler{Id::RefreshAllTimes, [](Doc& doc) { doc.transport.StartTimeRun(TCTimeScope::AllSongs); }},
+      Handler{Id::RefreshPlaylistTimes,
+              [](Doc& doc) { doc.transport.StartTimeRun(TCTimeScope::CurrentPlaylist); }},
+  };
+  for (const Handler& handler : kHandlers) {
+    if (handler.command == command) return &handler;
+  }
+  return nullptr;
+}
+
 bool TCBrevantDoc::Handles(TCCommandId command) {
-  return Contains(kTransportCommands, command) || Contains(kFileCommands, command) ||
-         Contains(kPlayerCommands, command) || Contains(kTimeCommands, command) || IsOptionPrompt(command) ||
-         OptionOf(command) != nullptr;
+  return HandlerOf(command) != nullptr || OptionOf(command) != nullptr || IsOptionPrompt(command);
 }
 
 bool TCBrevantDoc::IsChecked(TCCommandId command) const {
@@ -171,16 +185,10 @@ bool TCBrevantDoc::IsChecked(TCCommandId command) const {
 }
 
 bool TCBrevantDoc::OnCommand(TCCommandId command) {
-  if (OptionOf(command) != nullptr) {
+  if (const Handler* handler = HandlerOf(command)) {
+    handler->run(*this);
+  } else if (OptionOf(command) != nullptr) {
     ToggleOption(command);
-  } else if (Contains(kTransportCommands, command)) {
-    RunTransportCommand(command);
-  } else if (Contains(kFileCommands, command)) {
-    RunFileCommand(command);
-  } else if (Contains(kPlayerCommands, command)) {
-    RunPlayerCommand(command);
-  } else if (Contains(kTimeCommands, command)) {
-    RunTimeCommand(command);
   } else if (IsOptionPrompt(command)) {
     ChangeOption(command);
   } else {
@@ -217,40 +225,6 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
   }
 }
 
-void TCBrevantDoc::RunPlayerCommand(TCCommandId command) {
-  switch (command) {
-    case TCCommandId::VolumeUp:
-    case TCCommandId::MediaVolumeUp:
-      return volumeAndSeek.VolumeUp();
-    case TCCommandId::VolumeDown:
-    case TCCommandId::MediaVolumeDown:
-      return volumeAndSeek.VolumeDown();
-    case TCCommandId::SeekForward:
-      return volumeAndSeek.SeekForward();
-    case TCCommandId::SeekBack:
-      return volumeAndSeek.SeekBack();
-    case TCCommandId::SetRepeatBegin:
-      return volumeAndSeek.SetRepeatBegin();
-    case TCCommandId::SetRepeatEnd:
-      return volumeAndSeek.SetRepeatEnd();
-    default:
-      return;
-  }
-}
-
-void TCBrevantDoc::RunTimeCommand(TCCommandId command) {
-  switch (command) {
-    case TCCommandId::RefreshSongTime:
-      return transport.RefreshCurrentSongTime();
-    case TCCommandId::RefreshAllTimes:
-      return transport.StartTimeRun(TCTimeScope::AllSongs);
-    case TCCommandId::RefreshPlaylistTimes:
-      return transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
-    default:
-      return;
-  }
-}
-
 void TCBrevantDoc::OnPlayTimerTick() {
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
@@ -265,51 +239,12 @@ void TCBrevantDoc::ShowTimeRun() {
                          FormatDecimal(static_cast<std::int64_t>(run.Count())));
 }
 
-void TCBrevantDoc::RunTransportCommand(TCCommandId command) {
-  switch (command) {
-    case TCCommandId::Play:
-      return transport.Play();
-    case TCCommandId::Stop:
-      return transport.Stop();
-    case TCCommandId::PauseContinue:
-      return transport.PauseContinue();
-    case TCCommandId::LoadSong:
-      return transport.SelectSong(parts.record.setLists.currentSong, TCSelect::MayPlay);
-    case TCCommandId::NextSong:
-      return transport.NextSong();
-    case TCCommandId::PriorSong:
-      return transport.PriorSong();
-    case TCCommandId::NextPlaylist:
-      transport.NextPlaylist();
-      return;
-    case TCCommandId::PriorPlaylist:
-      return transport.PriorPlaylist();
-    case TCCommandId::ClearInformation:
-      return parts.messages.Clear();
-    case TCCommandId::Cancel:
-      return Cancel();
-    default:
-      return;
-  }
+void TCBrevantDoc::FileNew() {
+  if (SaveModified()) OnNewDocument();
 }
 
-void TCBrevantDoc::RunFileCommand(TCCommandId command) {
-  switch (command) {
-    case TCCommandId::FileNew:
-      if (SaveModified()) OnNewDocument();
-      return;
-    case TCCommandId::FileOpen:
-      if (const auto path = parts.prompts.ChooseDocumentToOpen()) OpenDocumentFile(*path);
-      return;
-    case TCCommandId::FileSave:
-      Save();
-      return;
-    case TCCommandId::FileSaveAs:
-      SaveAs();
-      return;
-    default:
-      return;
-  }
+void TCBrevantDoc::FileOpen() {
+  if (const auto path = parts.prompts.ChooseDocumentToOpen()) OpenDocumentFile(*path);
 }
 
 void TCBrevantDoc::Cancel() {

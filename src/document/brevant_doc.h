@@ -73,17 +73,24 @@ class TCBrevantDoc {
   [[nodiscard]] TCPlaylistPresenter& Presenter() { return presenter; }
 
  private:
+  // A command that neither toggles an option nor asks for one.
+  struct Handler {
+    TCCommandId command = TCCommandId::None;
+    void (*run)(TCBrevantDoc&) = nullptr;
+  };
+
+  // Null when there is none.
+  [[nodiscard]] static const Handler* HandlerOf(TCCommandId command);
+
   void ClearViewsAndStore();
   void ShowBanner();
   void ShowTitle();
   void KeepRecoveryCopy(std::u16string_view path);
-  void RunTransportCommand(TCCommandId command);
-  void RunFileCommand(TCCommandId command);
-  void RunPlayerCommand(TCCommandId command);
-  void RunTimeCommand(TCCommandId command);
   void ToggleOption(TCCommandId command);
   void ChangeOption(TCCommandId command);
   void ShowTimeRun();
+  void FileNew();
+  void FileOpen();
   void Cancel();
   // False when the user cancelled.
   bool Save();

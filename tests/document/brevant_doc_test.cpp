@@ -296,6 +296,17 @@ TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) 
   EXPECT_EQ(view.rows[1].texts.time, u"01:05");
 }
 
+TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::RefreshAllTimes);
+  player.Advance(0.3);
+  document.OnPlayTimerTick();
+  document.OnOpenDocument(kShow);
+  EXPECT_FALSE(document.Transport().TimeRun().Pending());
+  EXPECT_EQ(frame.status, u"");
+}
+
 TEST_F(BrevantDocTest, ARunOverThePlaylistLeavesTheOthersAlone) {
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);

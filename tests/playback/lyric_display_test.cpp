@@ -3,7 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+
+#include "lyrics/lyric_file.h"
+#include "support/memory_files.h"
 #include "support/message_log.h"
+#include "text/numbers.h"
+#include "text/time_text.h"
+#include "text/unicode.h"
 
 namespace brevant {
 namespace {
@@ -92,6 +100,47 @@ TEST_F(LyricDisplayTest, TheFirstSongOfAPathInModelOrderSuppliesTheLyrics) {
   record.setLists.groups[0].playlists.emplace_back().items.push_back(again);
   EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
   EXPECT_EQ(messages.lines.at(1), u"\tM: one");
+}
+
+// Several hundred lines, one every two seconds, sung in turn; each with a letter outside ASCII.
+std::u16string LongLyrics() {
+  std::u16string text;
+  for (int i = 0; i < 400; ++i) {
+    const std::u16string_view singer = std::array{u"M: ", u"F: ", u"D: "}[static_cast<std::size_t>(i % 3)];
+    const int seconds = 2 * i;
+    text += u"[" + FormatTime(seconds) + u".000]";
+    text += singer;
+    text += u"Zeile \u00FC " + FormatDecimal(i) + u"\r\n";
+  }
+  return text;
+}
+
+std::string Latin1(std::u16string_view text) {
+  std::string bytes;
+  for (const char16_t unit : text) bytes.push_back(static_cast<char>(unit));
+  return bytes;
+}
+
+TEST_F(LyricDisplayTest, HundredsOfLinesOfEveryEncodingFollowTheSongSecondBySecond) {
+  const std::u16string text = LongLyrics();
+  for (const int encoding : {0, 1, 2}) {
+    TCMemoryFiles files;
+    if (encoding == 0) files.Put(u"C:\\a.lrc", EncodeUtf8(text));
+    if (encoding == 1) files.Put(u"C:\\a.lrc", Latin1(text));
+    if (encoding == 2) files.PutUtf16(u"C:\\a.lrcx", text);
+    TCSongLyrics lyrics;
+    ASSERT_TRUE(LoadLyrics(files, kSong, lyrics));
+    ASSERT_EQ(lyrics.LineCount(), 400u);
+    record.setLists.groups[0].playlists[0].items[0].lyrics = lyrics;
+    std::int32_t shown = -1;
+    for (std::int32_t second = 0; second < 798; ++second) {
+      shown = display.ShowLyricsAt(second, kSong, shown);
+      ASSERT_EQ(shown, second / 2) << encoding << " " << second;
+      ASSERT_EQ(messages.lines.size(), 4u);
+      EXPECT_TRUE(messages.lines[1].ends_with(u"Zeile \u00FC " + FormatDecimal(second / 2)));
+      EXPECT_EQ(messages.roles[1], static_cast<TCLineRole>(second / 2 % 3 + 1));
+    }
+  }
 }
 
 TEST_F(LyricDisplayTest, APositionOfAnySizeIsTaken) {

@@ -82,6 +82,8 @@ TEST_F(TransportTest, PlayOfAMissingFileSaysSoAndChangesNoState) {
   EXPECT_THAT(display.calls, Contains("Row 0"));
   EXPECT_THAT(player.Calls(), Not(Contains("Play")));
   EXPECT_FALSE(transport.State().playing);
+  EXPECT_FALSE(transport.State().started);
+  EXPECT_FALSE(transport.State().refreshSongTime);
 }
 
 TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndAdvances) {
@@ -224,11 +226,13 @@ TEST_F(TransportTest, WithAutoPlaySongsFollowEachOtherWithoutTheLatency) {
   settings.autoPlayPlayList = true;
   store.songLatencySeconds = 600;
   transport.Play();
-  Run(11.4);
+  for (player.Advance(0.3); player.Snapshot().phase != TCPlayerPhase::Stopped; player.Advance(0.3)) {
+    transport.OnPlayTimerTick();
+  }
+  EXPECT_EQ(player.GetUrl(), u"C:\\a1.mp3");
+  transport.OnPlayTimerTick();  // the very poll that sees the end
   EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3");
   EXPECT_TRUE(transport.State().playing);
-  Run(11.4);
-  EXPECT_EQ(player.GetUrl(), u"C:\\a3.mp3");
 }
 
 TEST_F(TransportTest, WithoutAutoAdvanceTheTransportRestsOnTheEndedSong) {
@@ -331,6 +335,11 @@ TEST_F(TransportTest, SteppingWithACurrentGroupOrPlaylistOutOfRangeDoesNothing) 
     store.currentGroup = wrong;
     transport.NextSong();
     transport.PriorSong();
+    store.currentGroup = 0;
+    store.currentPlaylist = wrong;
+    transport.NextSong();
+    transport.PriorSong();
+    store.currentPlaylist = 0;
     EXPECT_EQ(store.currentSong, 0);
   }
   EXPECT_THAT(display.calls, IsEmpty());
@@ -343,8 +352,11 @@ TEST_F(TransportTest, PlaylistStepsShowThePlaylistAndFocusIt) {
   EXPECT_EQ(store.currentSong, 2);  // stays, though it names no song here
   EXPECT_THAT(display.calls, ElementsAre("Focus", "ShowPlaylist 0 1"));
   EXPECT_TRUE(transport.NextPlaylist());
+  display.calls.clear();
   EXPECT_FALSE(transport.NextPlaylist());
   EXPECT_EQ(store.currentGroup, 1);
+  EXPECT_EQ(store.currentPlaylist, 0);
+  EXPECT_THAT(display.calls, ElementsAre("Focus"));
   display.calls.clear();
   transport.PriorPlaylist();
   EXPECT_THAT(display.calls, ElementsAre("Focus", "ShowPlaylist 0 0"));

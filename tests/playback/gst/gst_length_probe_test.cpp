@@ -209,11 +209,7 @@ enum class TCWhere { LookedInto, Decoded, Counted };  // the file's first open, 
 class GstLengthProbeOnAHangingDisk : public GstLengthProbe, public testing::WithParamInterface<TCWhere> {
  protected:
   GstLengthProbeOnAHangingDisk() {
-    TCGstPlayerOptions options;
-    options.limits.load = 0.5;
-    options.workerLimit = 0.2;
-    options.closeLimit = 0.2;
-    Restart(options);
+    Restart({.workerLimit = 0.5, .closeLimit = 0.2});
     folder.Write("song.mp3", BytesOf(SongFile("mark_vbr.mp3")));
   }
   int GoodOpens() {
