@@ -32,6 +32,11 @@ template <class Work>
   return {wall.count(), ProcessorMilliseconds() - processorBefore};
 }
 
+template <class Work>
+[[nodiscard]] double Milliseconds(const Work& work) {
+  return Spent(work).wall;
+}
+
 // Of an odd number of samples the one in the middle; 0 without any.
 [[nodiscard]] inline double Median(std::vector<double> samples) {
   if (samples.empty()) return 0.0;

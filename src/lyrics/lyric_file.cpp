@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "lyrics/lyric_text.h"
 #include "text/numbers.h"
@@ -152,7 +154,8 @@ void ParseByteLine(std::string_view line, TCLyricSheet& sheet) {
                                  [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
   if (!ascii) return ParseLyricLine(DecodeLyricText(line), sheet);  // where units are counted, UTF-16 counts
   if (const HeaderTag* header = FindHeaderTag(tag)) {
-    sheet.headers.*header->value = DecodeLyricText(HeaderValue(tag, *header));
+    const std::string_view value = HeaderValue(tag, *header);
+    (sheet.headers.*header->value).assign(value.begin(), value.end());
     return;
   }
   AddByteLine(line, tagEnd, TimeOf(tag), sheet);
@@ -169,36 +172,41 @@ void SetLineEnds(TCLyricSheet& sheet) {
   }
 }
 
-void ReadSheet(std::string_view bytes, TCLyricSheet& sheet) {
-  sheet.text.reserve(bytes.size());
-  sheet.lines.reserve(bytes.size() / 32);
-  if (VisitUtf8Lines(bytes, [&sheet](std::string_view line) { ParseByteLine(line, sheet); })) return;
-  VisitAnsiLines(bytes, [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); });
+struct LyricFile {
+  std::string bytes;
+  bool wide = false;
+};
+
+std::optional<LyricFile> ReadLyricFile(TCFileSystem& files, std::u16string_view songPath) {
+  std::u16string path = ReplaceExtension(songPath, u"lrc");
+  if (auto bytes = files.ReadFile(path, kMaxLyricFileBytes)) return LyricFile{std::move(*bytes), false};
+  path += u'x';
+  if (auto bytes = files.ReadFile(path, kMaxLyricFileBytes)) return LyricFile{std::move(*bytes), true};
+  return std::nullopt;
 }
 
-bool ReadSheet(TCFileSystem& files, std::u16string_view songPath, TCLyricSheet& sheet) {
-  std::u16string path = ReplaceExtension(songPath, u"lrc");
-  if (const auto bytes = files.ReadFile(path, kMaxLyricFileBytes)) {
-    ReadSheet(*bytes, sheet);
-    return true;
+void FillSheet(const LyricFile& file, TCLyricSheet& sheet) {
+  const LineVisitor parse = [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); };
+  if (file.wide) return VisitUtf16Lines(file.bytes, parse);
+  sheet.text.reserve(file.bytes.size());
+  sheet.lines.reserve(file.bytes.size() / 32);
+  if (!VisitUtf8Lines(file.bytes, [&sheet](std::string_view line) { ParseByteLine(line, sheet); })) {
+    VisitAnsiLines(file.bytes, parse);
   }
-  path += u'x';
-  if (const auto bytes = files.ReadFile(path, kMaxLyricFileBytes)) {
-    VisitUtf16Lines(*bytes, [&sheet](std::u16string_view line) { ParseLyricLine(line, sheet); });
-    return true;
-  }
-  return false;
 }
 
 }  // namespace
 
 bool LoadLyrics(TCFileSystem& files, std::u16string_view songPath, TCSongLyrics& lyrics) {
+  const std::optional<LyricFile> file = ReadLyricFile(files, songPath);
+  if (!file && lyrics.IsVoid()) return false;  // of most songs
+
   TCLyricSheet sheet;
   sheet.headers = lyrics.Headers();
-  const bool read = ReadSheet(files, songPath, sheet);
+  if (file) FillSheet(*file, sheet);
   SetLineEnds(sheet);
   lyrics = TCSongLyrics(sheet);
-  return read;
+  return file.has_value();
 }
 
 void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {

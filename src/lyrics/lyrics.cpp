@@ -37,25 +37,40 @@ constexpr std::array<HeaderField, kHeaderCount> kHeaderFields = {
 // its length. A line says how far its start is from the end of the line before it, nearly always 0, how long
 // it lasts, its text's length and singer in one number, and its text.
 
-constexpr std::size_t kMostNumberBytes = 10;
+std::size_t SizeOfNumber(std::uint64_t number) {
+  std::size_t size = 1;
+  for (; number >= 0x80; number >>= 7) ++size;
+  return size;
+}
 
+// Numbers near 0 are small whatever their sign.
+std::uint64_t Unsigned(std::int64_t number) {
+  const auto bits = static_cast<std::uint64_t>(number);
+  return number < 0 ? ~(bits << 1) : bits << 1;
+}
+
+// Finds out how large a block becomes.
+class Ruler {
+ public:
+  void PutNumber(std::uint64_t number) { size += SizeOfNumber(number); }
+  void PutText(std::string_view text) { size += text.size(); }
+
+  [[nodiscard]] std::size_t Size() const { return size; }
+
+ private:
+  std::size_t size = 0;
+};
+
+// Fills a block of that size.
 class Writer {
  public:
-  // Of a block that can hold all that is to be put.
   explicit Writer(char* block) : at(block) {}
 
   void PutNumber(std::uint64_t number) {
     for (; number >= 0x80; number >>= 7) *at++ = static_cast<char>(0x80U | (number & 0x7FU));
     *at++ = static_cast<char>(number);
   }
-  // Numbers near 0 are small whatever their sign.
-  void PutSigned(std::int64_t number) {
-    const auto bits = static_cast<std::uint64_t>(number);
-    PutNumber(number < 0 ? ~(bits << 1) : bits << 1);
-  }
   void PutText(std::string_view text) { at = std::copy(text.begin(), text.end(), at); }
-
-  [[nodiscard]] const char* End() const { return at; }
 
  private:
   char* at;
@@ -118,20 +133,14 @@ class LineReader {
   std::string_view text;
 };
 
-std::string Pack(const TCLyricSheet& sheet) {
-  std::array<std::string, kHeaderCount> headers;
-  std::size_t most = sheet.text.size() + kMostNumberBytes * (1 + kHeaderCount + 3 * sheet.lines.size());
-  for (std::size_t header = 0; header < kHeaderCount; ++header) {
-    EncodeLyricText(headers[header], sheet.headers.*kHeaderFields[header]);
-    most += headers[header].size();
-  }
+using EncodedHeaders = std::array<std::string, kHeaderCount>;
 
-  std::string block(most, '\0');
-  Writer writer(block.data());
-  writer.PutNumber(sheet.lines.size());
+template <class Target>
+void Pack(const TCLyricSheet& sheet, const EncodedHeaders& headers, Target& target) {
+  target.PutNumber(sheet.lines.size());
   for (const std::string& header : headers) {
-    writer.PutNumber(header.size());
-    writer.PutText(header);
+    target.PutNumber(header.size());
+    target.PutText(header);
   }
   const std::string_view texts = sheet.text;
   std::size_t textBegin = 0;
@@ -139,15 +148,13 @@ std::string Pack(const TCLyricSheet& sheet) {
   for (const TCLyricSheet::Line& line : sheet.lines) {
     const bool known = line.singer >= 0 && line.singer <= 3;
     const std::size_t length = line.textEnd - textBegin;
-    writer.PutSigned(line.start - previousEnd);
-    writer.PutSigned(std::int64_t{line.end} - line.start);
-    writer.PutNumber(std::uint64_t{length} << 2 | (known ? static_cast<std::uint64_t>(line.singer) : 0));
-    writer.PutText(texts.substr(textBegin, length));
+    target.PutNumber(Unsigned(line.start - previousEnd));
+    target.PutNumber(Unsigned(std::int64_t{line.end} - line.start));
+    target.PutNumber(std::uint64_t{length} << 2 | (known ? static_cast<std::uint64_t>(line.singer) : 0));
+    target.PutText(texts.substr(textBegin, length));
     textBegin = line.textEnd;
     previousEnd = line.end;
   }
-  block.resize(static_cast<std::size_t>(writer.End() - block.data()));
-  return block;
 }
 
 }  // namespace
@@ -164,10 +171,16 @@ void TCLyricSheet::Add(std::string_view utf8, std::int32_t start, std::int32_t e
 
 TCSongLyrics::TCSongLyrics(const TCLyricSheet& sheet) {
   if (sheet.lines.empty() && sheet.headers == TCLyricHeaders()) return;
-  const std::string block = Pack(sheet);
-  const std::shared_ptr<char[]> copy = std::make_shared<char[]>(block.size());
-  std::copy(block.begin(), block.end(), copy.get());
-  packed = copy;
+  EncodedHeaders headers;
+  for (std::size_t header = 0; header < kHeaderCount; ++header) {
+    EncodeLyricText(headers[header], sheet.headers.*kHeaderFields[header]);
+  }
+  Ruler ruler;
+  Pack(sheet, headers, ruler);
+  const std::shared_ptr<char[]> block = std::make_shared<char[]>(ruler.Size());
+  Writer writer(block.get());
+  Pack(sheet, headers, writer);
+  packed = block;
 }
 
 std::size_t TCSongLyrics::LineCount() const {
@@ -236,6 +249,7 @@ std::u16string TCSongLyrics::Offset() const {
 
 TCLyricHeaders TCSongLyrics::Headers() const {
   TCLyricHeaders headers;
+  if (!packed) return headers;
   for (std::size_t header = 0; header < kHeaderCount; ++header) {
     headers.*kHeaderFields[header] = HeaderAt(header);
   }

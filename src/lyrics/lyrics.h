@@ -69,6 +69,8 @@ class TCSongLyrics {
 
   // True without lines; header values may still be there.
   [[nodiscard]] bool Empty() const { return LineCount() == 0; }
+  // True without lines and header values.
+  [[nodiscard]] bool IsVoid() const { return packed == nullptr; }
   [[nodiscard]] std::size_t LineCount() const;
 
   // Line `index` in file order; a line without text and times when there is no such line.

@@ -73,23 +73,25 @@ class NameIndex {
 // Status and lyrics of every song. Folder by folder, however the playlists mix them: each is looked into
 // once.
 void ReadSongFiles(TCFileSystem& files, TCSetListStore& store) {
-  std::vector<TCPlayListItem*> songs;
+  struct SongInFolder {
+    const std::u16string* folder = nullptr;  // equal folders are one text here: its place tells them apart
+    TCPlayListItem* song = nullptr;
+  };
+  std::vector<SongInFolder> songs;
   for (TCPlayGroups& group : store.groups) {
     for (TCPlayList& playlist : group.playlists) {
-      for (TCPlayListItem& song : playlist.items) songs.push_back(&song);
+      for (TCPlayListItem& song : playlist.items) songs.push_back({&song.folder.str(), &song});
     }
   }
-  // Equal folders are one text here, so its place in memory tells them apart.
-  const auto folderOf = [](const TCPlayListItem* song) { return &song->folder.str(); };
-  std::stable_sort(songs.begin(), songs.end(), [&](const TCPlayListItem* a, const TCPlayListItem* b) {
-    return std::less<>()(folderOf(a), folderOf(b));
+  std::stable_sort(songs.begin(), songs.end(), [](const SongInFolder& a, const SongInFolder& b) {
+    return std::less<>()(a.folder, b.folder);
   });
 
   const TCManyFiles many(files);
-  for (TCPlayListItem* song : songs) {
-    const std::u16string path = song->FullPath();
-    song->status = SongFileStatus(files, path);
-    LoadLyrics(files, path, song->lyrics);
+  for (const SongInFolder& entry : songs) {
+    const std::u16string path = entry.song->FullPath();
+    entry.song->status = SongFileStatus(files, path);
+    LoadLyrics(files, path, entry.song->lyrics);
   }
 }
 

@@ -125,7 +125,8 @@ void TCDiskFiles::EndManyFiles() {
 }
 
 void TCDiskFiles::ForgetFolders() {
-  atHand = {};
+  pathAtHand.clear();
+  atHand.reset();
   otherCase.Forget();
 }
 
@@ -164,25 +165,23 @@ std::optional<TCDiskFiles::OpenedFile> TCDiskFiles::OpenAtHand(std::u16string_vi
   while (nameStart > 0 && !EndsFolder(path[nameStart - 1])) --nameStart;
   if (nameStart < 2 || path[nameStart - 1] == u':') return std::nullopt;
   const std::u16string_view folder = path.substr(0, nameStart);
-  if (!std::equal(folder.begin(), folder.end(), atHand.path.begin(), atHand.path.end())) TakeFolder(folder);
+  if (!std::equal(folder.begin(), folder.end(), pathAtHand.begin(), pathAtHand.end())) TakeFolder(folder);
   const std::string name = paths.ToNative(path.substr(nameStart));
-  if (atHand.names == nullptr || name.empty()) return std::nullopt;
+  if (!atHand || name.empty()) return std::nullopt;
 
   OpenedFile opened{{}, 0, true};
-  if (expect == Expect::Missing && atHand.names->IsMissing(name)) return opened;
-  opened = OpenRegularFile(atHand.folder.Get(), name);
-  if (!opened.nothingThere || atHand.names->IsMissing(name)) return opened;
+  if (expect == Expect::Missing && atHand->IsMissing(name)) return opened;
+  opened = OpenRegularFile(atHand->Descriptor(), name);
+  if (!opened.nothingThere || atHand->IsMissing(name)) return opened;
   return std::nullopt;  // it stands there in other case
 }
 
 void TCDiskFiles::TakeFolder(std::u16string_view folder) {
-  atHand = {};
-  atHand.path = folder;
+  pathAtHand = folder;
+  atHand.reset();
   std::string native = paths.ToNative(folder);
   while (native.size() > 1 && native.back() == '/') native.pop_back();
-  if (native.empty()) return;
-  atHand.folder = TCFileHandle(open(native.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-  if (atHand.folder.IsOpen()) atHand.names = otherCase.SoleNames(native);
+  if (!native.empty() && otherCase.StandsAlone(native)) atHand = TCFolderAtHand::Open(native);
 }
 
 std::string TCDiskFiles::Locate(const std::string& native) {

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "text/file_handle.h"
 #include "text/file_system.h"
+#include "text/folder_at_hand.h"
 #include "text/native_path.h"
 #include "text/other_case.h"
 
@@ -40,13 +40,6 @@ class TCDiskFiles final : public TCFileSystem {
  private:
   struct OpenedFile;
 
-  // While many files are asked for, the folder of the last one stays open.
-  struct FolderAtHand {
-    std::u16string path;  // with the backslash behind it
-    TCFileHandle folder;
-    const TCFolderNames* names = nullptr;
-  };
-
   void ForgetFolders();
   // Relative to `folder`, which can be AT_FDCWD.
   [[nodiscard]] static OpenedFile OpenRegularFile(int folder, const std::string& native);
@@ -64,7 +57,10 @@ class TCDiskFiles final : public TCFileSystem {
   TCNativePaths paths;
   TCOtherCase otherCase;
   int manyFiles = 0;  // BeginManyFiles that were not ended
-  FolderAtHand atHand;
+
+  // While many files are asked for, the folder of the last one.
+  std::u16string pathAtHand;  // as it was asked for, with the separator behind it
+  std::optional<TCFolderAtHand> atHand;
 };
 
 }  // namespace brevant

@@ -67,14 +67,23 @@ TCFolderNames TCFolderNames::Read(const std::string& folder) {
   if (!handle) return result;
 
   result.settled = std::time(nullptr) - result.stamp->seconds > kStampGrainSeconds;
-  errno = 0;
-  while (const dirent* entry = readdir(handle.get())) result.Add(entry->d_name);
-  result.complete = errno == 0;
-  std::sort(result.entries.begin(), result.entries.end(),
-            [](const Entry& a, const Entry& b) { return a.hash < b.hash; });
+  result.AddAll(handle.get());
   result.names.shrink_to_fit();
   result.entries.shrink_to_fit();
   return result;
+}
+
+TCFolderNames TCFolderNames::Read(DIR* open) {
+  TCFolderNames result;
+  result.AddAll(open);
+  return result;
+}
+
+void TCFolderNames::AddAll(DIR* open) {
+  errno = 0;
+  while (const dirent* entry = readdir(open)) Add(entry->d_name);
+  complete = errno == 0;
+  std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.hash < b.hash; });
 }
 
 bool TCFolderNames::StillHolds(const std::string& folder) const {
@@ -83,9 +92,7 @@ bool TCFolderNames::StillHolds(const std::string& folder) const {
 }
 
 bool TCFolderNames::IsMissing(std::string_view name) const {
-  const bool ascii = std::all_of(name.begin(), name.end(),
-                                 [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-  return ascii && complete && Matches(name).empty();
+  return complete && IsAscii(name) && Matches(name).empty();
 }
 
 std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {

@@ -2,6 +2,8 @@
 // search for files in other upper and lower case.
 #pragma once
 
+#include <dirent.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -16,6 +18,9 @@ class TCFolderNames {
   // Reads the folder ("" is the working folder). No names when it cannot be read. Names that are not UTF-8
   // have no upper and lower case and are passed over.
   [[nodiscard]] static TCFolderNames Read(const std::string& folder);
+
+  // The names of an open folder, for a moment: StillHolds of these is always false.
+  [[nodiscard]] static TCFolderNames Read(DIR* open);
 
   // True when the folder has certainly not changed since. A folder that was changed shortly before it was
   // read may have changed again within the same tick of its time stamp: it counts as changed.
@@ -49,6 +54,7 @@ class TCFolderNames {
   };
 
   [[nodiscard]] static std::optional<Stamp> StampOf(const std::string& folder);
+  void AddAll(DIR* open);
   void Add(const char* name);
 
   // A folder may hold a hundred thousand files: one text and eight bytes a name, sorted by hash.

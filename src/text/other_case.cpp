@@ -58,15 +58,18 @@ std::vector<std::string> TCOtherCase::Find(std::string_view native) {
   return found;
 }
 
-const TCFolderNames* TCOtherCase::SoleNames(std::string_view folder) {
-  if (folder.size() >= PATH_MAX) return nullptr;
-  MakeRoomFor(folder);
+bool TCOtherCase::StandsAlone(std::string_view folder) {
+  if (folder.empty() || folder == "/") return true;
+  const auto [above, name] = Split(folder);
+  if (folder.size() >= PATH_MAX || NamesNoEntry(name)) return false;
+  MakeRoomFor(above);
+
   const Moment now = clock();
-  const std::vector<Folder*>& candidates = MeaningOf(folder, now).folders;
-  if (candidates.size() != 1 || candidates.front()->path != folder) return nullptr;
-  Folder& sole = *candidates.front();
-  Check(sole, now);
-  return sole.names.Complete() ? &sole.names : nullptr;
+  const std::vector<Folder*>& parents = MeaningOf(above, now).folders;
+  if (parents.size() != 1 || parents.front()->path != above) return false;
+  Check(*parents.front(), now);
+  const std::vector<std::string> matches = parents.front()->names.Matches(name);
+  return matches.size() == 1 && matches.front() == name;
 }
 
 // Not where something points into the maps.

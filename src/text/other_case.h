@@ -28,10 +28,10 @@ class TCOtherCase {
   // it is there; the nearest first. Usually none.
   [[nodiscard]] std::vector<std::string> Find(std::string_view native);
 
-  // The names in `folder` (no trailing slash) when it stands there as written, no other folder answers to its
-  // name in other case, and all names in it could be read; null in every other case. What the names say holds
-  // for this moment; the pointer for as long as no other folder is asked about and nothing is forgotten.
-  [[nodiscard]] const TCFolderNames* SoleNames(std::string_view folder);
+  // True when whatever is asked about in `folder` (no trailing slash) can only mean what stands in it:
+  // neither it nor a folder above it has a like in other case beside it. False also when the folders above
+  // cannot say.
+  [[nodiscard]] bool StandsAlone(std::string_view folder);
 
   // For after a change that this program made itself.
   void Forget();

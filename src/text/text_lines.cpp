@@ -85,7 +85,7 @@ std::optional<std::u16string> FirstUtf16Line(std::string_view bytes) {
 }
 
 bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit) {
-  if (!IsUtf8(bytes) || !ReturnsSwallowAscii(bytes)) return false;
+  if (!IsAscii(bytes) && (!IsUtf8(bytes) || !ReturnsSwallowAscii(bytes))) return false;
   VisitLines(bytes, Marks::Keep, visit);
   return true;
 }

@@ -134,6 +134,10 @@ std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
   return text;
 }
 
+bool IsAscii(std::string_view bytes) {
+  return EndOfAscii(bytes, 0) == bytes.size();
+}
+
 bool IsUtf8(std::string_view bytes) {
   for (std::size_t at = EndOfAscii(bytes, 0); at < bytes.size(); at = EndOfAscii(bytes, at)) {
     const std::optional<CodePoint> next = DecodeSequence(bytes.substr(at));

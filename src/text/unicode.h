@@ -11,6 +11,8 @@ namespace brevant {
 // Empty when `bytes` is not valid UTF-8 (overlong forms, surrogates and values past U+10FFFF are invalid).
 [[nodiscard]] std::optional<std::u16string> DecodeUtf8(std::string_view bytes);
 
+[[nodiscard]] bool IsAscii(std::string_view bytes);
+
 // Whether DecodeUtf8 would give something.
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
 

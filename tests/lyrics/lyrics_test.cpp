@@ -16,6 +16,7 @@ TCLyricHeaders AllHeaders() {
 TEST(Lyrics, AreEmptyAtFirst) {
   const TCSongLyrics lyrics;
   EXPECT_TRUE(lyrics.Empty());
+  EXPECT_TRUE(lyrics.IsVoid());
   EXPECT_EQ(lyrics.LineCount(), 0U);
   EXPECT_EQ(lyrics.LineAt(0), TCLyric());
   EXPECT_EQ(lyrics.Artist(), u"");
@@ -56,6 +57,7 @@ TEST(Lyrics, HoldTheirHeaderValues) {
 TEST(Lyrics, WithHeaderValuesAloneAreEmptyOfLines) {
   const TCSongLyrics lyrics = LyricsOf({}, AllHeaders());
   EXPECT_TRUE(lyrics.Empty());
+  EXPECT_FALSE(lyrics.IsVoid());
   EXPECT_EQ(lyrics.Title(), u"title");
 }
 

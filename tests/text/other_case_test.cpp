@@ -110,34 +110,36 @@ TEST_F(OtherCase, AFolderThatWasChangedJustBeforeIsReadAgainWhateverItsStamp) {
   EXPECT_THAT(otherCase.Find(folder.Native("Music/SONG.mp3")), ElementsAre(folder.Native("Music/song.mp3")));
 }
 
-TEST_F(OtherCase, TheNamesOfAFolderThatStandsAloneAreKnown) {
-  folder.Write("Music/Song.lrc");
-  const TCFolderNames* names = otherCase.SoleNames(folder.Native("Music"));
-  ASSERT_NE(names, nullptr);
-  EXPECT_TRUE(names->IsMissing("Other.lrc"));
-  EXPECT_FALSE(names->IsMissing("Song.lrc"));
-  EXPECT_FALSE(names->IsMissing("SONG.lrc"));
-  EXPECT_FALSE(names->IsMissing("Caf\xC3\xA9.lrc"));  // another spelling may stand there
-  EXPECT_FALSE(names->IsMissing(".."));
-}
-
-TEST_F(OtherCase, TheNamesOfAFolderThatIsNotAloneOrNotThereAreNotEnough) {
-  folder.Write("Music/Song.lrc");
-  EXPECT_EQ(otherCase.SoleNames(folder.Native("None")), nullptr);
-  EXPECT_EQ(otherCase.SoleNames(folder.Native("music")), nullptr);
-  EXPECT_EQ(otherCase.SoleNames(folder.Native("Music/Song.lrc")), nullptr);
-  folder.MakeFolder("MUSIC");
+TEST_F(OtherCase, AFolderStandsAloneUntilThereIsOneOfItsNameInOtherCase) {
+  folder.Write("Music/Album/Song.lrc");
+  EXPECT_TRUE(otherCase.StandsAlone(folder.Native("Music")));
+  EXPECT_TRUE(otherCase.StandsAlone(folder.Native("Music/Album")));
+  EXPECT_TRUE(otherCase.StandsAlone("/"));
+  folder.MakeFolder("Music/ALBUM");
   otherCase.Forget();
-  EXPECT_EQ(otherCase.SoleNames(folder.Native("Music")), nullptr);
+  EXPECT_FALSE(otherCase.StandsAlone(folder.Native("Music/Album")));
+  EXPECT_TRUE(otherCase.StandsAlone(folder.Native("Music")));
+  folder.MakeFolder("MUSIC/Other");
+  folder.MakeFolder("Music/Other");
+  otherCase.Forget();
+  EXPECT_FALSE(otherCase.StandsAlone(folder.Native("Music/Other")));
 }
 
-TEST_F(OtherCase, TheNamesOfAFolderThatCannotBeReadAreNotKnown) {
+TEST_F(OtherCase, AFolderThatIsNotThereAsWrittenDoesNotStandAlone) {
   folder.Write("Music/Song.lrc");
+  EXPECT_FALSE(otherCase.StandsAlone(folder.Native("None")));
+  EXPECT_FALSE(otherCase.StandsAlone(folder.Native("music")));
+  EXPECT_FALSE(otherCase.StandsAlone(folder.Native("None/Music")));
+  EXPECT_FALSE(otherCase.StandsAlone(folder.Native("Music/..")));
+}
+
+TEST_F(OtherCase, AFolderWhoseParentCannotBeReadDoesNotStandAlone) {
+  folder.Write("Music/Album/Song.lrc");
   ASSERT_EQ(chmod(folder.Native("").c_str(), 0755), 0);
   ASSERT_EQ(chmod(folder.Native("Music").c_str(), 0311), 0);
   {
     const TCOrdinaryUser user;
-    EXPECT_EQ(otherCase.SoleNames(folder.Native("Music")), nullptr);
+    EXPECT_FALSE(otherCase.StandsAlone(folder.Native("Music/Album")));
   }
   ASSERT_EQ(chmod(folder.Native("Music").c_str(), 0755), 0);
 }

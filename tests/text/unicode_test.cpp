@@ -18,6 +18,9 @@ TEST(Unicode, TellsUtf8WithoutReadingIt) {
     EXPECT_TRUE(IsUtf8(bytes)) << bytes;
   }
   EXPECT_FALSE(IsUtf8("12345678\xE9"));
+  EXPECT_TRUE(IsAscii("1234567890"));
+  EXPECT_FALSE(IsAscii("12345678\xE9"));
+  EXPECT_FALSE(IsAscii("\xC3\xA9"));
   EXPECT_FALSE(IsUtf8("1234567\xC3"));
 }
 

@@ -1,0 +1,36 @@
+// A folder that is held open with its names read, so that many questions about its files in one go cost
+// little. Part of TCDiskFiles; one thread at a time.
+#pragma once
+
+#include <dirent.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "text/folder_names.h"
+
+namespace brevant {
+
+class TCFolderAtHand {
+ public:
+  // Empty when it cannot be opened or not be read to its end.
+  [[nodiscard]] static std::optional<TCFolderAtHand> Open(const std::string& native);
+
+  // True when nothing in it had this name in any case when it was opened.
+  [[nodiscard]] bool IsMissing(std::string_view name) const { return names.IsMissing(name); }
+
+  // For calls that take a name relative to an open folder.
+  [[nodiscard]] int Descriptor() const { return dirfd(folder.get()); }
+
+ private:
+  struct Close {
+    void operator()(DIR* open) const { closedir(open); }
+  };
+
+  std::unique_ptr<DIR, Close> folder;
+  TCFolderNames names;
+};
+
+}  // namespace brevant
