@@ -17,6 +17,10 @@ void TCElidedLabel::ShowText(const QString& shownText, const QString& shownDetai
   UpdateToolTip();
 }
 
+QSize TCElidedLabel::sizeHint() const {
+  return {QLabel::sizeHint().width(), minimumSizeHint().height()};
+}
+
 QSize TCElidedLabel::minimumSizeHint() const {
   return {fontMetrics().horizontalAdvance(QChar(0x2026)), fontMetrics().height()};
 }

@@ -15,6 +15,7 @@ class TCElidedLabel final : public QLabel {
   // `detail` stands below the text in the tool tip; it is never shown as markup.
   void ShowText(const QString& shownText, const QString& shownDetail = {});
 
+  [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
