@@ -2,18 +2,17 @@
 
 #include <QDialogButtonBox>
 #include <QFontMetrics>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/prompt_line.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
 namespace {
 
-constexpr int kWidthInCharacters = 92;  // no line of the program's own breaks
 constexpr int kGapAboveButtons = 6;
 
 TCTextId TitleOf(TCTextPromptMode mode) {
@@ -28,16 +27,6 @@ TCTextId TitleOf(TCTextPromptMode mode) {
       break;
   }
   return TCTextId::EnterPropertyTitle;  // of every other number too
-}
-
-QLabel* MakeLine(const QString& name, std::u16string_view text) {
-  auto* line = new QLabel(ToQString(text));
-  line->setObjectName(name);
-  line->setTextFormat(Qt::PlainText);
-  line->setWordWrap(true);
-  line->setAccessibleName(line->text());
-  if (text.empty()) line->hide();
-  return line;
 }
 
 QDialogButtonBox* MakeButtons() {
@@ -59,7 +48,7 @@ TCDialogEnterUserText::TCDialogEnterUserText(const TCTextPrompt& prompt, QWidget
   textField->setObjectName(QStringLiteral("Text"));
   textField->setAccessibleName(ToQString(prompt.prompt));
   textField->setAccessibleDescription(ToQString(prompt.example));
-  textField->setMinimumWidth(kWidthInCharacters * fontMetrics().averageCharWidth());
+  textField->setMinimumWidth(kPromptWidthInCharacters * fontMetrics().averageCharWidth());
   textField->selectAll();
 
   QDialogButtonBox* buttons = MakeButtons();
@@ -67,8 +56,8 @@ TCDialogEnterUserText::TCDialogEnterUserText(const TCTextPrompt& prompt, QWidget
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(MakeLine(QStringLiteral("Prompt"), prompt.prompt));
-  layout->addWidget(MakeLine(QStringLiteral("Example"), prompt.example));
+  layout->addWidget(MakePromptLine(QStringLiteral("Prompt"), prompt.prompt));
+  layout->addWidget(MakePromptLine(QStringLiteral("Example"), prompt.example));
   layout->addWidget(textField);
   layout->addSpacing(kGapAboveButtons);
   layout->addStretch(1);
