@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionFrame>
 
 namespace brevant {
 
@@ -12,6 +13,11 @@ class TCStageStyle : public QProxyStyle {
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returnData) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+
+ private:
+  void DrawField(const QStyleOptionFrame& field, QPainter* painter, const QWidget* widget) const;
 };
 
 }  // namespace brevant

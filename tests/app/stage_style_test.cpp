@@ -1,0 +1,60 @@
+#include "app/stage_style.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLineEdit>
+#include <algorithm>
+
+#include "app/stage_palette.h"
+
+namespace brevant {
+namespace {
+
+QColor MiddleOf(QWidget& widget) {
+  widget.resize(100, 40);
+  const QImage picture = widget.grab().toImage();
+  return picture.pixelColor(picture.width() / 2, picture.height() / 2);
+}
+
+TEST(StageStyle, AFieldThatTakesNoTypingHasTheColourOfTheWindow) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, QColor(10, 20, 30));
+  palette.setColor(QPalette::Base, QColor(200, 210, 220));
+  QLineEdit field;
+  field.setPalette(palette);
+  EXPECT_EQ(MiddleOf(field), QColor(200, 210, 220));
+  field.setReadOnly(true);
+  EXPECT_EQ(MiddleOf(field), QColor(10, 20, 30));
+}
+
+TEST(StageStyle, OnADarkWindowFieldsAndBoxesHaveAnEdgeThatIsSeen) {
+  QPalette palette = StagePalette(0xFFFFFF, 0x000000);
+  QLineEdit field;
+  QCheckBox box;
+  for (QWidget* widget : {static_cast<QWidget*>(&field), static_cast<QWidget*>(&box)}) {
+    widget->setPalette(palette);
+    widget->resize(100, 40);
+    const QImage picture = widget->grab().toImage();
+    int brightest = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      brightest = std::max(brightest, picture.pixelColor(x, picture.height() / 2).lightness());
+    }
+    EXPECT_GE(brightest, palette.color(QPalette::Mid).lightness());
+  }
+}
+
+TEST(StageStyle, AListOfManyChoicesOpensWithAFewAndIsScrolled) {
+  QComboBox list;
+  for (int i = 0; i < 500; ++i) list.addItem(QString::number(i));
+  list.show();
+  list.showPopup();
+  EXPECT_LE(list.view()->window()->height(), 12 * list.view()->sizeHintForRow(0));
+  list.hidePopup();
+}
+
+}  // namespace
+}  // namespace brevant
