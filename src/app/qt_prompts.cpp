@@ -3,12 +3,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <utility>
 
+#include "app/add_play_items_dlg.h"
 #include "app/dialog_enter_user_text.h"
+#include "app/media_file_filters.h"
 #include "app/refused_name.h"
+#include "app/song_properties_dlg.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
 
@@ -18,21 +22,56 @@ TCQtPrompts::TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListSt
                          TCNativePaths nativePaths)
     : frame(mainFrame), setLists(setListStore), paths(std::move(nativePaths)) {}
 
+QWidget* TCQtPrompts::Parent() const {
+  return open != nullptr ? static_cast<QWidget*>(open) : &frame;
+}
+
+bool TCQtPrompts::MayAsk() const {
+  if (open == nullptr) return true;
+  const auto* form = dynamic_cast<const TCFormDialog*>(open);
+  return form != nullptr && form->IsAtWork();
+}
+
 int TCQtPrompts::Run(QDialog& dialog) {
-  if (asking) return QDialog::Rejected;
-  const QScopedValueRollback<bool> now(asking, true);
+  if (!MayAsk()) return QDialog::Rejected;
+  const QScopedValueRollback<QDialog*> now(open, &dialog);
   dialog.setWindowModality(Qt::WindowModal);
   return dialog.exec();
 }
 
 std::optional<std::u16string> TCQtPrompts::EnterText(const TCTextPrompt& prompt) {
-  TCDialogEnterUserText dialog(prompt, &frame);
+  TCDialogEnterUserText dialog(prompt, Parent());
   if (Run(dialog) != QDialog::Accepted) return {};
   return dialog.Text();
 }
 
+bool TCQtPrompts::EditSetLists(TCAddPlayItems& form) {
+  TCAddPlayItemsDlg dialog(form, Parent());
+  return Run(dialog) == QDialog::Accepted;
+}
+
+bool TCQtPrompts::EditSongProperties(TCSongPropertiesForm& form) {
+  TCSongProperties dialog(form, Parent());
+  return Run(dialog) == QDialog::Accepted;
+}
+
+bool TCQtPrompts::ConfirmRemove(std::u16string_view question) {
+  QMessageBox box(Parent());
+  box.setObjectName(QStringLiteral("ConfirmRemove"));
+  box.setWindowTitle(ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle)));
+  box.setIcon(QMessageBox::Question);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQString(question));
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  // Enter is the key that plays: pressed out of habit, it must not take a song off the list, let alone a
+  // group with all its playlists. There is no undo.
+  box.setDefaultButton(QMessageBox::No);
+  box.setEscapeButton(QMessageBox::No);
+  return Run(box) == QMessageBox::Yes;
+}
+
 TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
-  QMessageBox box(&frame);
+  QMessageBox box(Parent());
   box.setObjectName(QStringLiteral("SaveChanges"));
   box.setWindowTitle(ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle)));
   box.setIcon(QMessageBox::Question);
@@ -52,22 +91,26 @@ TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
   }
 }
 
+QString TCQtPrompts::DocumentFolder() const {
+  const QString folder = QFile::decodeName(paths.ToNative(setLists.documentFolder).c_str());
+  return !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath();
+}
+
 void TCQtPrompts::SetUp(QFileDialog& dialog) const {
   dialog.setNameFilter(ToQString(DocumentTemplateText(TCDocumentTemplateField::FilterName)));
   dialog.setDefaultSuffix(ToQString(TextOf(TCTextId::DocumentExtension)));
-  const QString folder = QFile::decodeName(paths.ToNative(setLists.documentFolder).c_str());
-  dialog.setDirectory(QDir(folder).exists() && !folder.isEmpty() ? folder : QDir::homePath());
+  dialog.setDirectory(DocumentFolder());
 }
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
-  QFileDialog dialog(&frame, QStringLiteral("Open"));
+  QFileDialog dialog(Parent(), QStringLiteral("Open"));
   SetUp(dialog);
   dialog.setFileMode(QFileDialog::ExistingFile);
   return Choose(dialog);
 }
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToSave(std::u16string_view suggestedPath) {
-  QFileDialog dialog(&frame, QStringLiteral("Save As"));
+  QFileDialog dialog(Parent(), QStringLiteral("Save As"));
   SetUp(dialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   if (!suggestedPath.empty()) dialog.selectFile(QFile::decodeName(paths.ToNative(suggestedPath).c_str()));
@@ -75,11 +118,43 @@ std::optional<std::u16string> TCQtPrompts::ChooseDocumentToSave(std::u16string_v
 }
 
 std::optional<std::u16string> TCQtPrompts::Choose(QFileDialog& dialog) {
-  if (Run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  const std::string native = QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
-  std::optional<std::u16string> path = TCNativePaths::FromNative(native);
-  if (!path) frame.ShowStatus(RefusedNameText(native));
-  return path;
+  if (Run(dialog) != QDialog::Accepted) return {};
+  const std::vector<std::u16string> chosen = ModelPathsOf(dialog);
+  return chosen.empty() ? std::nullopt : std::optional(chosen.front());
+}
+
+void TCQtPrompts::SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& question) const {
+  dialog.setFileMode(question.count == TCChooseFiles::One ? QFileDialog::ExistingFile
+                                                          : QFileDialog::ExistingFiles);
+  dialog.setNameFilters(MediaFileFilters(question.types));
+  dialog.setDefaultSuffix(ToQString(question.defaultType));
+  dialog.setDirectory(!mediaFolder.isEmpty() && QDir(mediaFolder).exists() ? mediaFolder : DocumentFolder());
+  if (question.initialPath.empty()) return;
+  const QFileInfo last(QFile::decodeName(paths.FindOnDisk(question.initialPath).c_str()));
+  if (last.absoluteDir().exists()) dialog.setDirectory(last.absoluteDir());
+  dialog.selectFile(last.fileName());
+}
+
+std::vector<std::u16string> TCQtPrompts::ChooseMediaFiles(const TCMediaFileQuestion& question) {
+  const bool one = question.count == TCChooseFiles::One;
+  QFileDialog dialog(Parent(), one ? QStringLiteral("Choose a Song") : QStringLiteral("Find Songs"));
+  SetUpForMedia(dialog, question);
+  if (Run(dialog) != QDialog::Accepted) return {};
+  mediaFolder = dialog.directory().absolutePath();
+  return ModelPathsOf(dialog);
+}
+
+std::vector<std::u16string> TCQtPrompts::ModelPathsOf(const QFileDialog& dialog) {
+  std::vector<std::u16string> chosen;
+  for (const QString& file : dialog.selectedFiles()) {
+    const std::string native = QFile::encodeName(file).toStdString();
+    if (std::optional<std::u16string> path = TCNativePaths::FromNative(native)) {
+      chosen.push_back(std::move(*path));
+    } else {
+      frame.ShowStatus(RefusedNameText(native));
+    }
+  }
+  return chosen;
 }
 
 }  // namespace brevant

@@ -1,7 +1,10 @@
 // The document's questions as dialogs over the main window. One at a time: whoever asks while another
 // question is open, by a key pressed twice or through a screen reader, gets the answer of a user who cancels.
-// Songs play on and the document's tick goes on behind a question.
+// Only a button of one of the two larger dialogs may ask something itself, over that dialog. Songs play on
+// and the document's tick goes on behind a question.
 #pragma once
+
+#include <QString>
 
 #include "app/main_frame.h"
 #include "document/prompts.h"
@@ -23,17 +26,32 @@ class TCQtPrompts final : public TCPrompts {
   [[nodiscard]] std::optional<std::u16string> ChooseDocumentToOpen() override;
   [[nodiscard]] std::optional<std::u16string> ChooseDocumentToSave(
       std::u16string_view suggestedPath) override;
+  // Begins where the last song file was, else where the chooser was left, else as the other choosers do. A
+  // name that the model cannot hold is left out and told in the status bar.
+  [[nodiscard]] std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion& question) override;
+  [[nodiscard]] bool ConfirmRemove(std::u16string_view question) override;
+  [[nodiscard]] bool EditSetLists(TCAddPlayItems& form) override;
+  [[nodiscard]] bool EditSongProperties(TCSongPropertiesForm& form) override;
 
  private:
-  void SetUp(QFileDialog& dialog) const;
+  // What the next question stands over.
+  [[nodiscard]] QWidget* Parent() const;
+  [[nodiscard]] bool MayAsk() const;
   // What the dialog ends with; cancelled at once while another question is open.
   int Run(QDialog& dialog);
+
+  [[nodiscard]] QString DocumentFolder() const;
+  void SetUp(QFileDialog& dialog) const;
   [[nodiscard]] std::optional<std::u16string> Choose(QFileDialog& dialog);
+  void SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& question) const;
+  // The files chosen that the model can hold.
+  [[nodiscard]] std::vector<std::u16string> ModelPathsOf(const QFileDialog& dialog);
 
   TCMainFrame& frame;
   const TCSetListStore& setLists;
   TCNativePaths paths;
-  bool asking = false;
+  QDialog* open = nullptr;  // the uppermost
+  QString mediaFolder;      // where the media chooser was left
 };
 
 }  // namespace brevant

@@ -27,7 +27,7 @@ class TCDialogAnswer {
  private:
   void Look() {
     QWidget* open = QApplication::activeModalWidget();
-    if (auto* dialog = qobject_cast<Dialog*>(open)) {
+    if (auto* dialog = dynamic_cast<Dialog*>(open)) {
       look.stop();
       came = true;
       answer(*dialog);
