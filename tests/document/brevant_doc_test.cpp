@@ -8,6 +8,7 @@
 #include "support/fake_player.h"
 #include "support/fake_playlist_view.h"
 #include "support/fake_prompts.h"
+#include "support/fake_tree.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
 
@@ -33,11 +34,12 @@ class BrevantDocTest : public testing::Test {
   TCAppRecord record;
   TCFakePlayer player;
   TCFakePlaylistView view;
+  TCFakeTree tree;
   TCMessageLog messages;
   TCFakeFrame frame;
   TCFakePrompts prompts;
   TCBrevantDoc document{
-      {record, files, &player, view, messages, frame, prompts, {u"", u"", u"\\state\\recovery\\"}}};
+      {record, files, &player, view, tree, messages, frame, prompts, {u"", u"", u"\\state\\recovery\\"}}};
 };
 
 TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
