@@ -316,7 +316,7 @@ TEST_F(AddPlayItemsDlg, ALargerDialogShowsMoreOfTheSongs) {
 
 TEST_F(AddPlayItemsDlg, ThousandsOfPlaylistsMakeItNoWider) {
   Open();
-  const int before = dialog->width();
+  const int before = dialog->sizeHint().width();
   dialog->reject();
   for (int i = 0; i < 5000; ++i) {
     rig.store.groups.front().playlists.emplace_back().name = std::u16string(200, u'W');
@@ -324,7 +324,7 @@ TEST_F(AddPlayItemsDlg, ThousandsOfPlaylistsMakeItNoWider) {
   rig.Show();
   Open();
   EXPECT_EQ(Playlists().count(), 5002);
-  EXPECT_EQ(dialog->width(), before);
+  EXPECT_EQ(dialog->sizeHint().width(), before);
 }
 
 TEST_F(AddPlayItemsDlg, FollowsTheProgramsColoursWhileItIsOpen) {

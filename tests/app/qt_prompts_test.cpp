@@ -182,12 +182,12 @@ TEST_F(QtPrompts, TheRemovalQuestionIsANoUntilTheUserSaysYes) {
     const TCDialogAnswer<QMessageBox> answer([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
     EXPECT_FALSE(prompts.ConfirmRemove(u"Remove?"));
   }
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_N, Qt::Key_Y}) {
     const TCDialogAnswer<QMessageBox> answer([key](QMessageBox& box) {
       ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
       QTest::keyClick(QApplication::focusWidget(), key);
     });
-    EXPECT_FALSE(prompts.ConfirmRemove(u"Remove?")) << key;
+    EXPECT_EQ(prompts.ConfirmRemove(u"Remove?"), key == Qt::Key_Y) << key;
   }
 }
 
@@ -308,7 +308,7 @@ class QtPromptsOverAForm : public QtPrompts {
  protected:
   void SetUp() override {
     QtPrompts::SetUp();
-    rig.AddGroup(u"Mariner Sets", {{u"Harbour", {u"Anchor.mp3"}}});
+    rig.AddGroup(u"Mariner Sets", {{u"Harbour", {u"Anchor.mp3"}}, {u"Open Sea", {}}});
     rig.Show();
   }
 
@@ -336,7 +336,7 @@ TEST_F(QtPromptsOverAForm, CreateSetListsAsksForNamesAndFilesOverItself) {
       });
       Press(dialog, "CreateSet");
     }
-    EXPECT_EQ(form.Playlist(), 1);
+    EXPECT_EQ(form.Playlist(), 2);
     {
       const TCDialogAnswer<QFileDialog> files([this, &dialog](QFileDialog& chooser) {
         EXPECT_EQ(chooser.parentWidget(), &dialog);
@@ -350,8 +350,8 @@ TEST_F(QtPromptsOverAForm, CreateSetListsAsksForNamesAndFilesOverItself) {
   });
   EXPECT_TRUE(prompts.EditSetLists(form));
   EXPECT_EQ(rig.ModelLines(), (std::vector<std::u16string>{u"Mariner Sets", u"  Harbour", u"    Anchor.mp3",
-                                                           u"  Encores", u"    a.mp3"}));
-  EXPECT_EQ(rig.store.groups[0].playlists[1].items[0].FullPath(), Model("a.mp3"));
+                                                           u"  Open Sea", u"  Encores", u"    a.mp3"}));
+  EXPECT_EQ(rig.store.groups[0].playlists[2].items[0].FullPath(), Model("a.mp3"));
 }
 
 TEST_F(QtPromptsOverAForm, CreateSetListsCancelledIsNoOk) {
@@ -373,14 +373,16 @@ TEST_F(QtPromptsOverAForm, OnlyItsOwnButtonsAskOverADialog) {
 
 TEST_F(QtPromptsOverAForm, WhileADialogAsksNothingElseOfItWorks) {
   TCAddPlayItems form(parts, editor, placement);
+  form.ChoosePlaylist(1);
   const TCDialogAnswer<TCFormDialog> answer([this, &form](TCFormDialog& dialog) {
     const TCDialogAnswer<TCDialogEnterUserText> name([this, &form, &dialog](TCDialogEnterUserText& prompt) {
       // As a screen reader does, which no open question keeps out.
-      for (const char* button : {"CreateGroup", "FindSongs", "OK", "Cancel"}) {
+      for (const char* button : {"Create", "CreateGroup", "FindSongs", "OK", "Cancel"}) {
         dialog.findChild<QPushButton*>(QLatin1String(button))->click();
         EXPECT_EQ(QApplication::activeModalWidget(), &prompt) << button;
       }
       EXPECT_TRUE(dialog.isVisible());
+      EXPECT_EQ(rig.store.CurrentPosition(), (TCPlaylistPosition{0, 0}));
       EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"Another", u"", u""}), std::nullopt);
       FieldOf(prompt).setText(QStringLiteral("Spring"));
       prompt.accept();
