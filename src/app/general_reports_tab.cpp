@@ -63,7 +63,12 @@ void TCGeneralReportsTab::SetDisplayFont(const QString& face, int points, const 
   colours.setColor(QPalette::Text, text);
   setPalette(colours);
   normalText = RgbOf(text);
-  look = text.lightness() > background.lightness() ? TCPaneLook::WhiteOnBlack : TCPaneLook::BlackOnWhite;
+  Rebuild();
+}
+
+void TCGeneralReportsTab::SetLook(TCPaneLook newLook) {
+  if (newLook == look) return;
+  look = newLook;
   Rebuild();
 }
 

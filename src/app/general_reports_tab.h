@@ -26,9 +26,10 @@ class TCGeneralReportsTab final : public QPlainTextEdit, public TCMessageDisplay
   void Enable(std::int32_t capacity);
   [[nodiscard]] bool Enabled() const { return ring.Enabled(); }
 
-  // `points` may be any value. What stands there is recoloured too: text lighter than its background is
-  // white on black.
+  // `points` may be any value. What stands there is recoloured too.
   void SetDisplayFont(const QString& face, int points, const QColor& text, const QColor& background);
+  // Which of its two colours each singer has, also where lines stand already.
+  void SetLook(TCPaneLook newLook);
 
   void Clear() override;
   void Append(std::u16string_view text) override;

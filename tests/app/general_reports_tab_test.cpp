@@ -147,6 +147,7 @@ TEST_F(TCGeneralReportsTabTest, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
   pane.SetLineRole(TCLineRole::SingerF);
   pane.Append(u"she sings");
   const QString before = Text();
+  pane.SetLook(TCPaneLook::BlackOnWhite);
   pane.SetDisplayFont(QStringLiteral("Times New Roman"), 18, Qt::black, Qt::white);
   EXPECT_EQ(Text(), before);
   EXPECT_EQ(ColourOf("normal"), QColor(Qt::black));
@@ -155,8 +156,18 @@ TEST_F(TCGeneralReportsTabTest, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
   pane.Append(u"she goes on");
   EXPECT_EQ(ColourOf("she goes on"), QColor(255, 0, 0));
   pane.SetDisplayFont(QStringLiteral("Times New Roman"), 18, Qt::white, Qt::black);
+  pane.SetLook(TCPaneLook::WhiteOnBlack);
   EXPECT_EQ(ColourOf("normal"), QColor(Qt::white));
   EXPECT_EQ(ColourOf("he sings"), QColor(0, 255, 0));
+}
+
+TEST_F(TCGeneralReportsTabTest, TheSingersColoursGoByTheLookNotByTheBackground) {
+  pane.SetLook(TCPaneLook::BlackOnWhite);
+  pane.SetLineRole(TCLineRole::SingerM);
+  pane.Append(u"he sings");
+  EXPECT_EQ(ColourOf("he sings"), QColor(0, 0, 255));
+  pane.SetDisplayFont(QStringLiteral("Times New Roman"), 18, Qt::white, QColor(0x20, 0x20, 0x20));
+  EXPECT_EQ(ColourOf("he sings"), QColor(0, 0, 255));
 }
 
 TEST_F(TCGeneralReportsTabTest, AClearReturnsToTheNormalColour) {
