@@ -24,6 +24,10 @@ class FileDrops : public testing::Test {
   bool Drop(const QList<QUrl>& urls) {
     QMimeData data;
     data.setUrls(urls);
+    // The toolkit leads a drop to the widget that the drag entered.
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                          Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
     QDropEvent event(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     event.ignore();
     QCoreApplication::sendEvent(&window, &event);
