@@ -102,6 +102,80 @@ TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndA
   EXPECT_EQ(store.currentSong, 2);
 }
 
+TEST_F(TransportTest, ADiskThatHangsDoesNotHoldPlayUpNorChangeTheStatus) {
+  files.hangs = true;
+  Song(0).status = TCSongStatus::NotFound;
+  transport.Play();
+  EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\a1.mp3", "Play"));
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_THAT(messages.lines, IsEmpty());
+  Run(1.0);
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_THAT(display.calls, Not(Contains("Row 0")));
+}
+
+TEST_F(TransportTest, WhatAHangingDiskSaysInTheEndIsTakenOver) {
+  files.hangs = true;
+  Song(0).status = TCSongStatus::NotFound;
+  transport.Play();
+  Run(0.3);
+  files.Wake();
+  Run(0.3);
+  EXPECT_EQ(Song(0).status, TCSongStatus::Found);
+  EXPECT_THAT(display.calls, Contains("Row 0"));
+  EXPECT_TRUE(transport.State().playing);
+}
+
+TEST_F(TransportTest, ASongThatTurnsOutToBeMissingIsReportedAndWasNeverStarted) {
+  files.Remove(u"C:\\a1.mp3");
+  player.SetSong(u"C:\\a1.mp3", {.opensAfter = 100.0});
+  files.hangs = true;
+  transport.Play();
+  Run(0.3);
+  files.Wake();
+  Run(0.3);
+  EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_FALSE(transport.State().playing);
+  EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, ALateAnswerIsNotTakenForAnotherSongs) {
+  files.Remove(u"C:\\a1.mp3");
+  files.hangs = true;
+  transport.Play();
+  store.currentGroup = 1;  // another song has the first row
+  files.Wake();
+  Run(0.3);
+  EXPECT_EQ(store.groups[1].playlists[0].items[0].status, TCSongStatus::Pending);
+  EXPECT_THAT(display.calls, Not(Contains("Row 0")));
+  EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
+}
+
+TEST_F(TransportTest, ALateAnswerAboutASongThatWasLeftChangesNothing) {
+  files.Remove(u"C:\\a1.mp3");
+  files.hangs = true;
+  transport.Play();
+  files.hangs = false;
+  store.currentSong = 1;
+  transport.Play();
+  files.Wake();
+  Run(0.3);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+TEST_F(TransportTest, ALateAnswerDoesNotReachTheNextDocument) {
+  files.Remove(u"C:\\a1.mp3");
+  files.hangs = true;
+  transport.Play();
+  transport.ForgetSong();
+  files.Wake();
+  Run(0.3);
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
 TEST_F(TransportTest, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
   store.currentPlaylist = 1;
   store.currentSong = 2;  // of the longer playlist before
