@@ -23,6 +23,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
+constexpr int kLookedAt = 64;  // pixels from the upper edge down
 constexpr milliseconds kStep(2);
 constexpr milliseconds kPatience(30000);  // for a window to come
 constexpr milliseconds kFarewell(5000);   // for the program to end when it is asked to
@@ -52,16 +53,19 @@ class Stage {
     return types.empty() || std::find(types.begin(), types.end(), normal) != types.end();
   }
 
-  // True when it is no longer of one colour all over.
+  // True when its upper part, where titles, menus and bars are, is no longer of one colour all over. The
+  // whole of a large window is megabytes, and the display would copy them while the program waits to draw on
+  // it.
   [[nodiscard]] bool IsPainted(Window window) const {
     XWindowAttributes attributes{};
     if (XGetWindowAttributes(display, window, &attributes) == 0) return false;
+    const int height = std::min(attributes.height, kLookedAt);
     XImage* image = XGetImage(display, window, 0, 0, static_cast<unsigned>(attributes.width),
-                              static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
+                              static_cast<unsigned>(height), AllPlanes, ZPixmap);
     if (image == nullptr) return false;
     const unsigned long first = XGetPixel(image, 0, 0);
     bool painted = false;
-    for (int y = 0; y < attributes.height && !painted; ++y) {
+    for (int y = 0; y < height && !painted; ++y) {
       for (int x = 0; x < attributes.width && !painted; ++x) painted = XGetPixel(image, x, y) != first;
     }
     XDestroyImage(image);

@@ -131,6 +131,7 @@ TEST_F(BrevantApp, TheWindowIsSeenBeforeTheDocumentIsRead) {
   EXPECT_TRUE(Frame().isVisible());
   EXPECT_EQ(app->Document().GetPathName(), u"");
   EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().GetPathName() == kShow; }));
+  EXPECT_FALSE(Frame().windowIcon().isNull());
 }
 
 TEST_F(BrevantApp, StartsWithAnEmptyDocumentAndTheBanner) {
