@@ -152,7 +152,10 @@ std::optional<TCRegularFile> TCDiskFiles::OpenAtHand(std::u16string_view path, E
 
   if (expect == Expect::Missing && atHand->IsMissing(name))
     return TCRegularFile{std::move(name), {}, 0, ENOENT};
-  TCRegularFile opened = OpenRegularFile(atHand->Descriptor(), std::move(name));
+  // Whoever expects the file to be there asks for nothing but that.
+  const bool listed = expect == Expect::Found && atHand->IsRegular(name);
+  TCRegularFile opened = listed ? OpenListedFile(atHand->Descriptor(), std::move(name))
+                                : OpenRegularFile(atHand->Descriptor(), std::move(name));
   if (!opened.NothingThere() || atHand->IsMissing(opened.native)) return opened;
   return std::nullopt;  // it stands there in other case
 }

@@ -25,6 +25,9 @@ struct TCRegularFile {
 // holds nobody up.
 [[nodiscard]] TCRegularFile OpenRegularFile(int folder, std::string native);
 
+// The same for what the folder's listing says to be a regular file, which is believed. `size` stays 0.
+[[nodiscard]] TCRegularFile OpenListedFile(int folder, std::string native);
+
 // `native` itself; only where nothing stands under it, the nearest of its likes in other case that opens.
 [[nodiscard]] TCRegularFile FindRegularFile(std::string native, TCOtherCase& otherCase);
 

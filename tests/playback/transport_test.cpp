@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -521,6 +523,30 @@ TEST_F(TransportTest, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
   repeatFields.end = 0;  // read afresh on every poll
   Run(11.4);
   EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, ARangeFromTheStartOfTheSongIsNotTakenForItsEnd) {
+  settings.autoPlayPlayList = true;
+  repeatFields.end = 4;
+  transport.Play();
+  Run(30.0);
+  EXPECT_GE(std::ranges::count(player.Calls(), "SetPosition 0"), 5);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_TRUE(transport.State().started);
+}
+
+TEST_F(TransportTest, ARangeThatEndsBeforeItBeginsHoldsTheSongAtItsBegin) {
+  settings.autoPlayPlayList = true;
+  for (const std::int32_t begin : {4, 6}) {
+    repeatFields.begin = begin;
+    repeatFields.end = 4;
+    transport.Play();
+    Run(30.0);
+    EXPECT_NEAR(player.GetPosition().value_or(0.0), begin, 0.35);
+    EXPECT_EQ(store.currentSong, 0);
+    EXPECT_TRUE(transport.State().playing);
+  }
 }
 
 TEST_F(TransportTest, WithoutAutoPlayTheSongRunsPastTheRepeatRange) {
