@@ -1,5 +1,5 @@
-// Stands in for the C library's open() and openat(): a definition in the program comes before those of its libraries, so
-// GStreamer and mpg123 meet it as well.
+// Stands in for the C library's open() and openat(): a definition in the program comes before those of its
+// libraries, so GStreamer and mpg123 meet it as well.
 #include "support/hanging_disk.h"
 
 #include <fcntl.h>
