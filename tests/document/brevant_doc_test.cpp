@@ -333,6 +333,38 @@ TEST_F(BrevantDocTest, ATypedOptionIsShownAtOnceAndACancelledPromptShowsNothing)
   EXPECT_EQ(record.settings.playListFontSize, 44);
 }
 
+TEST_F(BrevantDocTest, ANewLyricFontSizeAndANewNumberOfLinesAreDrawnAtTheNextPoll) {
+  files.Put(u"C:\\a.lrc", "[00:00.000]one\r\n[01:00.000]two\r\n[02:00.000]three\r\n");
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::Play);
+  const auto poll = [this] {
+    player.Advance(0.3);
+    document.OnPlayTimerTick();
+  };
+  poll();
+  poll();
+  ASSERT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo"));
+  messages.clears = 0;
+  poll();
+  ASSERT_EQ(messages.clears, 0) << "the current line has not changed";
+
+  prompts.texts = {u"40", u"3", u"7"};
+  document.OnCommand(TCCommandId::LyricsFontSize);
+  EXPECT_EQ(document.Transport().State().lastLyricIndex, -1);
+  poll();
+  EXPECT_EQ(messages.clears, 1);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo"));
+
+  document.OnCommand(TCCommandId::LyricLines);
+  EXPECT_EQ(document.Transport().State().lastLyricIndex, -1);
+  poll();
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo", u"\r\n", u"\tthree"));
+
+  document.OnCommand(TCCommandId::VolumeStep);
+  poll();
+  EXPECT_EQ(messages.clears, 2) << "no other prompt draws them anew";
+}
+
 TEST_F(BrevantDocTest, VolumeKeysReachThePlayer) {
   player.SetVolume(50);
   document.OnCommand(TCCommandId::VolumeUp);
