@@ -178,6 +178,25 @@ TEST_F(TransportTest, ALateAnswerDoesNotReachTheNextDocument) {
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
+TEST_F(TransportTest, OnlyPlayAsksTheDisk) {
+  transport.Play();
+  EXPECT_THAT(files.existenceAsked, ElementsAre(u"C:\\a1.mp3"));
+  files.ForgetRequests();
+  Run(12.0);  // to the end of the song
+  transport.PauseContinue();
+  transport.Stop();
+  transport.NextSong();
+  transport.PriorSong();
+  transport.NextPlaylist();
+  transport.PriorPlaylist();
+  transport.SelectSong(1, TCSelect::Silently);
+  transport.StartTimeRun(TCTimeScope::AllSongs);
+  Run(6.0);
+  ASSERT_FALSE(transport.TimeRun().Pending());
+  EXPECT_THAT(files.existenceAsked, IsEmpty());
+  EXPECT_THAT(files.reads, IsEmpty());
+}
+
 TEST_F(TransportTest, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
   store.currentPlaylist = 1;
   store.currentSong = 2;  // of the longer playlist before
