@@ -1,6 +1,7 @@
 // brevant_first_window RUNS COMMAND [ARGUMENT...]: starts the command RUNS times and prints, in milliseconds
-// from the start of the process, when its first window stood on the screen and when something was painted in
-// it. Wants a display with a window manager and nothing else on it; scripts/measure_first_window makes one.
+// from the start of the process, when its first window stood on the screen, when something was painted in it,
+// and the processor time that all its threads had taken by then, which a busy machine does not stretch. Wants
+// a display with a window manager and nothing else on it; scripts/measure_first_window makes one.
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -12,7 +13,10 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -23,6 +27,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
+constexpr int kLookedAt = 64;  // pixels from the upper edge down
 constexpr milliseconds kStep(2);
 constexpr milliseconds kPatience(30000);  // for a window to come
 constexpr milliseconds kFarewell(5000);   // for the program to end when it is asked to
@@ -52,16 +57,19 @@ class Stage {
     return types.empty() || std::find(types.begin(), types.end(), normal) != types.end();
   }
 
-  // True when it is no longer of one colour all over.
+  // True when its upper part, where titles, menus and bars are, is no longer of one colour all over. The
+  // whole of a large window is megabytes, and the display would copy them while the program waits to draw on
+  // it.
   [[nodiscard]] bool IsPainted(Window window) const {
     XWindowAttributes attributes{};
     if (XGetWindowAttributes(display, window, &attributes) == 0) return false;
+    const int height = std::min(attributes.height, kLookedAt);
     XImage* image = XGetImage(display, window, 0, 0, static_cast<unsigned>(attributes.width),
-                              static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
+                              static_cast<unsigned>(height), AllPlanes, ZPixmap);
     if (image == nullptr) return false;
     const unsigned long first = XGetPixel(image, 0, 0);
     bool painted = false;
-    for (int y = 0; y < attributes.height && !painted; ++y) {
+    for (int y = 0; y < height && !painted; ++y) {
       for (int x = 0; x < attributes.width && !painted; ++x) painted = XGetPixel(image, x, y) != first;
     }
     XDestroyImage(image);
@@ -111,6 +119,19 @@ class Program {
     if (!ended) waitpid(process, nullptr, 0);
   }
 
+  // Milliseconds.
+  [[nodiscard]] double ProcessorTime() const {
+    double nanoseconds = 0.0;
+    std::error_code ignored;
+    const std::string threads = "/proc/" + std::to_string(process) + "/task";
+    for (const auto& thread : std::filesystem::directory_iterator(threads, ignored)) {
+      double onProcessor = 0.0;
+      std::ifstream(thread.path() / "schedstat") >> onProcessor;
+      nanoseconds += onProcessor;
+    }
+    return nanoseconds / 1e6;
+  }
+
   [[nodiscard]] bool HasEnded() {
     ended = ended || waitpid(process, nullptr, WNOHANG) == process;
     return ended;
@@ -124,6 +145,7 @@ class Program {
 struct FirstWindow {
   double mapped = 0.0;
   double painted = 0.0;
+  double processor = 0.0;
 };
 
 std::optional<FirstWindow> Measure(const Stage& stage, char** command) {
@@ -136,6 +158,7 @@ std::optional<FirstWindow> Measure(const Stage& stage, char** command) {
       if (found.mapped == 0.0) found.mapped = MillisecondsSince(begin);
       if (!stage.IsPainted(window)) continue;
       found.painted = MillisecondsSince(begin);
+      found.processor = program.ProcessorTime();
       return found;
     }
     std::this_thread::sleep_for(kStep);
@@ -161,19 +184,22 @@ int main(int argc, char** argv) {
 
   std::vector<double> mapped;
   std::vector<double> painted;
+  std::vector<double> processor;
   for (int run = 0; run < runs; ++run) {
     const std::optional<FirstWindow> found = Measure(stage, argv + 2);
     if (!found) {
       std::fprintf(stderr, "%s: no painted window came\n", argv[2]);
       return 1;
     }
-    std::printf("window %7.0f ms, painted %7.0f ms\n", found->mapped, found->painted);
+    std::printf("window %7.0f ms, painted %7.0f ms, processor %7.0f ms\n", found->mapped, found->painted,
+                found->processor);
     mapped.push_back(found->mapped);
     painted.push_back(found->painted);
+    processor.push_back(found->processor);
     while (!stage.Windows().empty()) std::this_thread::sleep_for(kStep);
   }
-  std::printf("median of %d: window %.0f ms, painted %.0f ms\n", runs, brevant::Median(mapped),
-              brevant::Median(painted));
+  std::printf("median of %d: window %.0f ms, painted %.0f ms, processor %.0f ms\n", runs,
+              brevant::Median(mapped), brevant::Median(painted), brevant::Median(processor));
   XCloseDisplay(display);
   return 0;
 }

@@ -1,10 +1,11 @@
 #include "app/brevant_app.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMenuBar>
 
 #include "app/about_box.h"
 #include "app/command_menus.h"
+#include "app/picture_icon.h"
 #include "app/refused_name.h"
 
 namespace brevant {
@@ -73,6 +74,7 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   frame.show();
   frame.PlaylistView().TakeFocus();
   firstPaint.emplace(frame, [this, startFile] {
+    QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument(startFile);
     TCAboutBox::Open(libraries, frame);
   });

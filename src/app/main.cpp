@@ -8,7 +8,6 @@
 #include "app/brevant_app.h"
 #include "app/command_line.h"
 #include "app/drive_folders.h"
-#include "app/picture_icon.h"
 #include "app/stage_style.h"
 #include "app/termination_signals.h"
 #include "playback/gst/gst_length_probe.h"
@@ -57,7 +56,6 @@ int main(int argc, char** argv) {
     return 2;
   }
   QApplication::setStyle(new TCStageStyle);
-  QApplication::setWindowIcon(ProgramIcon());
 
   TCDiskFiles ownFiles{TCNativePaths()};
   const TCProgramFolders folders = FindProgramFolders(ownFiles, AskSystemForFolders());

@@ -74,10 +74,11 @@ void TCMainFrame::RestoreLayout(const QSettings& layout) {
 }
 
 QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& content) {
-  auto* pane = new QDockWidget(ToQString(TextOf(title)), inner);
+  // A single "&" would vanish from the title and from the name that is read out.
+  const QString shownTitle = ToQString(TextOf(title)).replace(QLatin1Char('&'), QStringLiteral("&&"));
+  auto* pane = new QDockWidget(shownTitle, inner);
   // Saved layouts know a pane by this name.
   pane->setObjectName(QStringLiteral("Pane%1").arg(static_cast<int>(id)));
-  pane->setAccessibleName(pane->windowTitle());
   pane->setWidget(&content);
   connect(pane, &QDockWidget::visibilityChanged, this, &TCMainFrame::marksChanged);
   return pane;

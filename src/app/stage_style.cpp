@@ -2,6 +2,9 @@
 
 #include <QPainter>
 
+#include "app/picture_icon.h"
+#include "resources/icons/icon_names.h"
+
 namespace brevant {
 namespace {
 
@@ -55,6 +58,14 @@ void TCStageStyle::DrawField(const QStyleOptionFrame& field, QPainter* painter, 
   QProxyStyle::drawPrimitive(PE_PanelLineEdit, &shown, painter, widget);
   const bool hasFrame = field.lineWidth > 0;
   if (hasFrame && !field.state.testFlag(State_HasFocus) && IsDark(field.palette)) DrawEdge(field, *painter);
+}
+
+QIcon TCStageStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                                 const QWidget* widget) const {
+  // Every bar asks for this one when it is made. The toolkit's is black on every palette, and reading its
+  // files loads the readers of all picture formats: several milliseconds before the first window is seen.
+  if (picture == SP_ToolBarHorizontalExtensionButton) return PictureIcon(kBarMoreIcon);
+  return QProxyStyle::standardIcon(picture, option, widget);
 }
 
 }  // namespace brevant

@@ -2,6 +2,7 @@
 // palette colours all of it. Set by main() for the whole application.
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
 #include <QStyleOptionFrame>
 
@@ -13,6 +14,8 @@ class TCStageStyle : public QProxyStyle {
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returnData) const override;
+  QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                     const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
 

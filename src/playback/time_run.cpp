@@ -7,9 +7,8 @@
 
 namespace brevant {
 
-TCTimeRun::TCTimeRun(TCAppRecord& appRecord, TCFileSystem& fileSystem, TCLengthProbe* lengthProbe,
-                     TCMessageDisplay& messageDisplay)
-    : record(appRecord), files(fileSystem), probe(lengthProbe), messages(messageDisplay) {}
+TCTimeRun::TCTimeRun(TCAppRecord& appRecord, TCLengthProbe* lengthProbe, TCMessageDisplay& messageDisplay)
+    : record(appRecord), probe(lengthProbe), messages(messageDisplay) {}
 
 void TCTimeRun::Start(TCTimeScope timeScope) {
   Cancel();
@@ -27,10 +26,8 @@ void TCTimeRun::Start(TCTimeScope timeScope) {
 }
 
 TCTimeRunStep TCTimeRun::Step() {
-  const std::u16string& path = paths[index];
-  const bool readable = !loadNext || files.FileExists(path);
-  if (loadNext && readable) probe->Open(path);
-  const int duration = readable ? probe->GetDurationSeconds() : -1;
+  if (loadNext) probe->Open(paths[index]);
+  const int duration = probe->GetDurationSeconds();
   if (duration == 0) {
     loadNext = false;  // not known yet: the next poll asks again
     return TCTimeRunStep::Measuring;

@@ -9,7 +9,6 @@
 #include "model/app_record.h"
 #include "model/message_display.h"
 #include "playback/length_probe.h"
-#include "text/file_system.h"
 
 namespace brevant {
 
@@ -20,8 +19,7 @@ enum class TCTimeRunStep { Measuring, Finished, FinishedWithChanges };
 class TCTimeRun {
  public:
   // `lengthProbe` may be null: there is nothing to measure with, and no run starts.
-  TCTimeRun(TCAppRecord& appRecord, TCFileSystem& fileSystem, TCLengthProbe* lengthProbe,
-            TCMessageDisplay& messageDisplay);
+  TCTimeRun(TCAppRecord& appRecord, TCLengthProbe* lengthProbe, TCMessageDisplay& messageDisplay);
 
   // Replaces a run that is under way. A scope without songs starts none.
   void Start(TCTimeScope timeScope);
@@ -44,7 +42,6 @@ class TCTimeRun {
   [[nodiscard]] std::vector<TCPlayList*> PlaylistsOfScope();
 
   TCAppRecord& record;
-  TCFileSystem& files;
   TCLengthProbe* probe = nullptr;
   TCMessageDisplay& messages;
 

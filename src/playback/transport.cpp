@@ -1,12 +1,25 @@
 #include "playback/transport.h"
 
-#include "model/media_check.h"
+#include <chrono>
+#include <utility>
+
 #include "playback/player_length_probe.h"
 #include "text/time_text.h"
 
 namespace brevant {
 
 namespace {
+
+// What Play waits for a disk: longer than one in order takes, too short for a stall to be noticed.
+constexpr std::chrono::milliseconds kDiskPatience(100);
+
+TCSongStatus StatusOf(std::future<bool>& found) {
+  return found.get() ? TCSongStatus::Found : TCSongStatus::NotFound;
+}
+
+bool HasCome(const std::future<bool>& answer, std::chrono::milliseconds patience) {
+  return answer.wait_for(patience) == std::future_status::ready;
+}
 
 // Null when there is a silent probe, or nothing to measure with.
 std::unique_ptr<TCLengthProbe> MakePlayerProbe(const TCTransportParts& parts) {
@@ -25,7 +38,7 @@ TCTransport::TCTransport(const TCTransportParts& parts)
       player(parts.player),
       repeatFields(parts.repeatFields),
       playerProbe(MakePlayerProbe(parts)),
-      timeRun(record, files, playerProbe ? playerProbe.get() : parts.lengthProbe, messages),
+      timeRun(record, playerProbe ? playerProbe.get() : parts.lengthProbe, messages),
       lyricDisplay(record, messages) {}
 
 void TCTransport::Play() {
@@ -39,15 +52,19 @@ void TCTransport::Play() {
   }
   const std::u16string path = song->FullPath();
   if (!path.empty()) player->LoadUrl(path);
-  StartSong(*song, path);
+  StartSong(path);
 }
 
-void TCTransport::StartSong(TCPlayListItem& song, std::u16string_view path) {
-  CheckSongFile(files, song);
-  display.RefreshSongRow(store.currentSong, song);
-  if (song.status != TCSongStatus::Found) {
-    messages.AppendMessage(TCTextId::UnableToPlayMissingFile, path);
-    return;
+void TCTransport::StartSong(std::u16string_view path) {
+  awaitedFile.reset();
+  std::future<bool> found = files.AskForFile(path);
+  if (HasCome(found, kDiskPatience)) {
+    const TCSongStatus status = StatusOf(found);
+    TakeStatus(store.currentSong, path, status);
+    if (status == TCSongStatus::NotFound) return;
+  } else {
+    // The player tries its own way meanwhile.
+    awaitedFile = {store.currentSong, std::u16string(path), std::move(found)};
   }
   const bool accepted = player->Play();
   state.playing = true;
@@ -55,6 +72,25 @@ void TCTransport::StartSong(TCPlayListItem& song, std::u16string_view path) {
   state.lastLyricIndex = -1;
   state.refreshSongTime = true;
   if (accepted) messages.Clear();
+}
+
+void TCTransport::TakeStatus(std::int32_t index, std::u16string_view path, TCSongStatus status) {
+  TCPlayListItem* song = store.SongAt(index);
+  if (song != nullptr && song->FullPath() == path) {
+    song->status = status;
+    display.RefreshSongRow(index, *song);
+  }
+  if (status == TCSongStatus::NotFound) messages.AppendMessage(TCTextId::UnableToPlayMissingFile, path);
+}
+
+void TCTransport::TakeLateAnswer() {
+  if (!HasCome(awaitedFile->found, std::chrono::milliseconds(0))) return;
+  TCAwaitedFile file = *std::exchange(awaitedFile, std::nullopt);
+  const TCSongStatus status = StatusOf(file.found);
+  TakeStatus(file.index, file.path, status);
+  if (status == TCSongStatus::Found) return;
+  state.playing = false;
+  state.refreshSongTime = false;
 }
 
 void TCTransport::Stop() {
@@ -135,6 +171,7 @@ void TCTransport::ForgetSong() {
   state.playing = false;
   state.started = false;
   state.refreshSongTime = false;
+  awaitedFile.reset();
   timeRun.Cancel();
 }
 
@@ -154,6 +191,7 @@ bool TCTransport::StepTimeRun() {
 
 bool TCTransport::OnPlayTimerTick() {
   const bool timesChanged = timeRun.Pending() && StepTimeRun();
+  if (awaitedFile) TakeLateAnswer();
   if (state.refreshSongTime) RefreshSongTimeAfterPlay();
   if (state.playing) FollowSong();
   return timesChanged;

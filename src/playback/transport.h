@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <future>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "model/app_record.h"
@@ -45,6 +47,8 @@ class TCTransport {
  public:
   explicit TCTransport(const TCTransportParts& transportParts);
 
+  // Waits a moment for the disk to tell whether the song's file is there. Without an answer the song is left
+  // to the player, and the answer counts when it comes.
   void Play();
   void Stop();
   void PauseContinue();
@@ -82,7 +86,18 @@ class TCTransport {
   [[nodiscard]] const TCTransportState& State() const { return state; }
 
  private:
-  void StartSong(TCPlayListItem& song, std::u16string_view path);
+  // The answer about a song's file that had not come when Play was done with waiting.
+  struct TCAwaitedFile {
+    std::int32_t index = -1;  // of the song, in the playlist that was current
+    std::u16string path;
+    std::future<bool> found;
+  };
+
+  // Starts what the player has loaded, the current song.
+  void StartSong(std::u16string_view path);
+  void TakeStatus(std::int32_t index, std::u16string_view path, TCSongStatus status);
+  // As if it had come at once: a song that is not there was never started.
+  void TakeLateAnswer();
   bool AdvanceAfterSong();
   bool StepTimeRun();
   void FollowSong();
@@ -103,6 +118,7 @@ class TCTransport {
   std::unique_ptr<TCLengthProbe> playerProbe;  // where there is no silent one
   TCTimeRun timeRun;
   TCLyricDisplay lyricDisplay;
+  std::optional<TCAwaitedFile> awaitedFile;
   TCTransportState state;
 };
 

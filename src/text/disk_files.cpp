@@ -9,11 +9,11 @@
 #include <cerrno>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 #include <vector>
 
-#include "text/file_handle.h"
 #include "text/safe_replace.h"
 
 namespace brevant {
@@ -37,12 +37,6 @@ bool IsFolder(const std::string& native) {
 
 }  // namespace
 
-struct TCDiskFiles::OpenedFile {
-  TCFileHandle file;
-  std::uint64_t size = 0;     // what the file says of itself
-  bool nothingThere = false;  // worth a search for other case; any other failure is the file's own
-};
-
 TCDiskFiles::TCDiskFiles(TCNativePaths nativePaths, TCOtherCase::Clock clock)
     : paths(std::move(nativePaths)), otherCase(std::move(clock)) {}
 
@@ -50,8 +44,18 @@ bool TCDiskFiles::FileExists(std::u16string_view path) {
   return OpenForReading(path, Expect::Found).file.IsOpen();
 }
 
+std::future<bool> TCDiskFiles::AskForFile(std::u16string_view path) {
+  const auto answer = std::make_shared<std::promise<bool>>();
+  const bool asked = questions.Start([answer, native = paths.ToNative(path)] {
+    TCOtherCase ownOtherCase;
+    answer->set_value(FindRegularFile(native, ownOtherCase).file.IsOpen());
+  });
+  if (!asked) answer->set_value(FileExists(path));
+  return answer->get_future();
+}
+
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
-  const OpenedFile opened = OpenForReading(path, Expect::Missing);
+  const TCRegularFile opened = OpenForReading(path, Expect::Missing);
   if (!opened.file.IsOpen() || opened.size > maxBytes) return std::nullopt;
 
   // A file can grow or shrink while it is read, and some files of the system's say 0 and hold something. One
@@ -130,49 +134,29 @@ void TCDiskFiles::ForgetFolders() {
   otherCase.Forget();
 }
 
-// Regular files only. What else stands there is closed at once, and O_NONBLOCK keeps a FIFO without a writer
-// from holding us up.
-TCDiskFiles::OpenedFile TCDiskFiles::OpenRegularFile(int folder, const std::string& native) {
-  constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
-  OpenedFile opened{TCFileHandle(openat(folder, native.c_str(), kFlags))};
-  if (!opened.file.IsOpen()) {
-    opened.nothingThere = errno == ENOENT || errno == ENOTDIR;
-    return opened;
-  }
-  struct stat status {};
-  if (fstat(opened.file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) opened.file = TCFileHandle();
-  opened.size = static_cast<std::uint64_t>(status.st_size);
-  return opened;
-}
-
-TCDiskFiles::OpenedFile TCDiskFiles::OpenForReading(std::u16string_view path, Expect expect) {
+TCRegularFile TCDiskFiles::OpenForReading(std::u16string_view path, Expect expect) {
   if (manyFiles > 0) {
-    if (std::optional<OpenedFile> opened = OpenAtHand(path, expect)) return *std::move(opened);
+    if (std::optional<TCRegularFile> opened = OpenAtHand(path, expect)) return *std::move(opened);
   }
-  const std::string native = paths.ToNative(path);
-  OpenedFile opened = OpenRegularFile(AT_FDCWD, native);
-  if (!opened.nothingThere) return opened;
-
-  for (const std::string& found : otherCase.Find(native)) {
-    opened = OpenRegularFile(AT_FDCWD, found);
-    if (opened.file.IsOpen()) break;
-  }
-  return opened;
+  return FindRegularFile(paths.ToNative(path), otherCase);
 }
 
-std::optional<TCDiskFiles::OpenedFile> TCDiskFiles::OpenAtHand(std::u16string_view path, Expect expect) {
+std::optional<TCRegularFile> TCDiskFiles::OpenAtHand(std::u16string_view path, Expect expect) {
   std::size_t nameStart = path.size();
   while (nameStart > 0 && !EndsFolder(path[nameStart - 1])) --nameStart;
   if (nameStart < 2 || path[nameStart - 1] == u':') return std::nullopt;
   const std::u16string_view folder = path.substr(0, nameStart);
   if (!std::equal(folder.begin(), folder.end(), pathAtHand.begin(), pathAtHand.end())) TakeFolder(folder);
-  const std::string name = paths.ToNative(path.substr(nameStart));
+  std::string name = paths.ToNative(path.substr(nameStart));
   if (!atHand || name.empty()) return std::nullopt;
 
-  OpenedFile opened{{}, 0, true};
-  if (expect == Expect::Missing && atHand->IsMissing(name)) return opened;
-  opened = OpenRegularFile(atHand->Descriptor(), name);
-  if (!opened.nothingThere || atHand->IsMissing(name)) return opened;
+  if (expect == Expect::Missing && atHand->IsMissing(name))
+    return TCRegularFile{std::move(name), {}, 0, ENOENT};
+  // Whoever expects the file to be there asks for nothing but that.
+  const bool listed = expect == Expect::Found && atHand->IsRegular(name);
+  TCRegularFile opened = listed ? OpenListedFile(atHand->Descriptor(), std::move(name))
+                                : OpenRegularFile(atHand->Descriptor(), std::move(name));
+  if (!opened.NothingThere() || atHand->IsMissing(opened.native)) return opened;
   return std::nullopt;  // it stands there in other case
 }
 

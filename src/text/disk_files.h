@@ -2,14 +2,17 @@
 #pragma once
 
 #include <chrono>
+#include <future>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "text/file_system.h"
 #include "text/folder_at_hand.h"
+#include "text/job_threads.h"
 #include "text/native_path.h"
 #include "text/other_case.h"
+#include "text/regular_file.h"
 
 namespace brevant {
 
@@ -22,6 +25,8 @@ class TCDiskFiles final : public TCFileSystem {
   explicit TCDiskFiles(TCNativePaths paths, TCOtherCase::Clock clock = std::chrono::steady_clock::now);
 
   [[nodiscard]] bool FileExists(std::u16string_view path) override;
+  // Asks on a thread that nobody waits for.
+  [[nodiscard]] std::future<bool> AskForFile(std::u16string_view path) override;
   [[nodiscard]] std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override;
 
   // Also false for a file that is write-protected, and for one in a folder that takes no new file: the new
@@ -38,17 +43,13 @@ class TCDiskFiles final : public TCFileSystem {
   void EndManyFiles() override;
 
  private:
-  struct OpenedFile;
-
   void ForgetFolders();
-  // Relative to `folder`, which can be AT_FDCWD.
-  [[nodiscard]] static OpenedFile OpenRegularFile(int folder, const std::string& native);
   // Decides what is asked first, the disk or the names that are known.
   enum class Expect { Found, Missing };
 
-  [[nodiscard]] OpenedFile OpenForReading(std::u16string_view path, Expect expect);
+  [[nodiscard]] TCRegularFile OpenForReading(std::u16string_view path, Expect expect);
   // Empty when the folder at hand cannot tell.
-  [[nodiscard]] std::optional<OpenedFile> OpenAtHand(std::u16string_view path, Expect expect);
+  [[nodiscard]] std::optional<TCRegularFile> OpenAtHand(std::u16string_view path, Expect expect);
   void TakeFolder(std::u16string_view folder);
   // The name under which something stands there: `native`, or its like in other case, or else `native` within
   // the folder that answers to its folder's name.
@@ -56,6 +57,7 @@ class TCDiskFiles final : public TCFileSystem {
 
   TCNativePaths paths;
   TCOtherCase otherCase;
+  TCJobThreads questions;
   int manyFiles = 0;  // BeginManyFiles that were not ended
 
   // While many files are asked for, the folder of the last one.

@@ -1,4 +1,4 @@
-// An open file of the system's, closed when it goes out of scope. Used inside this room only.
+// An open file of the system's, closed when it goes out of scope.
 #pragma once
 
 #include <unistd.h>

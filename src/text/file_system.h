@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <future>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,14 @@ class TCFileSystem {
   // True when `path` names a regular file, or a link to one, that can be opened for reading. A folder, FIFO
   // or device is no file, and asking about one never blocks.
   [[nodiscard]] virtual bool FileExists(std::u16string_view path) = 0;
+
+  // FileExists for whoever must not wait for a disk that has stopped answering: the answer may come at once,
+  // later, or never. Waits for nothing, and neither does the end of what is returned.
+  [[nodiscard]] virtual std::future<bool> AskForFile(std::u16string_view path) {
+    std::promise<bool> answer;
+    answer.set_value(FileExists(path));
+    return answer.get_future();
+  }
 
   // All bytes of the file; empty when it is no readable regular file, when reading breaks off, or when it
   // holds more than `maxBytes`.

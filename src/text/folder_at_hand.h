@@ -21,6 +21,9 @@ class TCFolderAtHand {
   // True when nothing in it had this name in any case when it was opened.
   [[nodiscard]] bool IsMissing(std::string_view name) const { return names.IsMissing(name); }
 
+  // True when it was listed under this very name as a regular file, not as a link to one.
+  [[nodiscard]] bool IsRegular(std::string_view name) const { return names.IsRegular(name); }
+
   // For calls that take a name relative to an open folder.
   [[nodiscard]] int Descriptor() const { return dirfd(folder.get()); }
 

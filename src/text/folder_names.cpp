@@ -20,6 +20,8 @@ namespace {
 // Time stamps of folders are as coarse as two seconds on some file systems.
 constexpr std::int64_t kStampGrainSeconds = 3;
 
+constexpr std::uint32_t kMaxOffset = 0x7FFF'FFFF;  // names of two gigabytes
+
 struct CloseFolder {
   void operator()(DIR* folder) const { closedir(folder); }
 };
@@ -81,7 +83,7 @@ TCFolderNames TCFolderNames::Read(DIR* open) {
 
 void TCFolderNames::AddAll(DIR* open) {
   errno = 0;
-  while (const dirent* entry = readdir(open)) Add(entry->d_name);
+  while (const dirent* entry = readdir(open)) Add(*entry);
   complete = errno == 0;
   std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.hash < b.hash; });
 }
@@ -100,9 +102,7 @@ std::vector<std::string> TCFolderNames::Matches(std::string_view name) const {
   const std::optional<std::uint32_t> hash = FoldedHash(name);
   if (!hash) return matches;
 
-  auto entry = std::lower_bound(entries.begin(), entries.end(), *hash,
-                                [](const Entry& a, std::uint32_t b) { return a.hash < b; });
-  for (; entry != entries.end() && entry->hash == *hash; ++entry) {
+  for (auto entry = Find(*hash); entry != entries.end() && entry->hash == *hash; ++entry) {
     const std::string_view found(names.c_str() + entry->offset);
     if (SameFolded(found, name)) matches.emplace_back(found);
   }
@@ -118,11 +118,25 @@ std::optional<TCFolderNames::Stamp> TCFolderNames::StampOf(const std::string& fo
   return Stamp{status.st_dev, status.st_ino, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }
 
-void TCFolderNames::Add(const char* name) {
+bool TCFolderNames::IsRegular(std::string_view name) const {
   const std::optional<std::uint32_t> hash = FoldedHash(name);
+  if (!hash) return false;
+  for (auto entry = Find(*hash); entry != entries.end() && entry->hash == *hash; ++entry) {
+    if (names.c_str() + entry->offset == name) return entry->regular != 0;
+  }
+  return false;
+}
+
+TCFolderNames::Entries::const_iterator TCFolderNames::Find(std::uint32_t hash) const {
+  return std::lower_bound(entries.begin(), entries.end(), hash,
+                          [](const Entry& a, std::uint32_t b) { return a.hash < b; });
+}
+
+void TCFolderNames::Add(const dirent& listed) {
+  const std::optional<std::uint32_t> hash = FoldedHash(listed.d_name);
   if (!hash) return;
-  entries.push_back({*hash, static_cast<std::uint32_t>(names.size())});
-  names.append(name).push_back('\0');
+  entries.push_back({*hash, static_cast<std::uint32_t>(names.size()) & kMaxOffset, listed.d_type == DT_REG});
+  names.append(listed.d_name).push_back('\0');
 }
 
 }  // namespace brevant

@@ -33,6 +33,9 @@ class TCFolderNames {
   // hold letters outside ASCII in several forms for the same.
   [[nodiscard]] bool IsMissing(std::string_view name) const;
 
+  // True when this very name was listed as a regular file. Some disks do not say what their names stand for.
+  [[nodiscard]] bool IsRegular(std::string_view name) const;
+
   // False when the folder could not be read to its end: then there may be names that are not in here.
   [[nodiscard]] bool Complete() const { return complete; }
 
@@ -49,17 +52,21 @@ class TCFolderNames {
     friend bool operator==(const Stamp&, const Stamp&) = default;
   };
   struct Entry {
-    std::uint32_t hash = 0;    // of the folded name
-    std::uint32_t offset = 0;  // into `names`
+    std::uint32_t hash = 0;         // of the folded name
+    std::uint32_t offset : 31 = 0;  // into `names`
+    std::uint32_t regular : 1 = 0;  // listed as a regular file
   };
+  using Entries = std::vector<Entry>;
 
   [[nodiscard]] static std::optional<Stamp> StampOf(const std::string& folder);
   void AddAll(DIR* open);
-  void Add(const char* name);
+  void Add(const dirent& listed);
+  // Where the names of that hash begin.
+  [[nodiscard]] Entries::const_iterator Find(std::uint32_t hash) const;
 
   // A folder may hold a hundred thousand files: one text and eight bytes a name, sorted by hash.
   std::string names;
-  std::vector<Entry> entries;
+  Entries entries;
   std::optional<Stamp> stamp;
   bool settled = false;
   bool complete = false;

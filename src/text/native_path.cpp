@@ -1,13 +1,9 @@
 #include "text/native_path.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "text/case_folding.h"
-#include "text/other_case.h"
 #include "text/unicode.h"
 
 namespace brevant {
@@ -32,11 +28,6 @@ bool HasLoneSurrogate(std::u16string_view text) {
 
 std::string WithoutTrailingSlashes(std::string_view folder) {
   return std::string(folder.substr(0, folder.find_last_not_of('/') + 1));
-}
-
-bool Exists(const std::string& native) {
-  struct stat status {};
-  return stat(native.c_str(), &status) == 0;
 }
 
 }  // namespace
@@ -75,15 +66,6 @@ std::optional<std::u16string> TCNativePaths::FromNative(std::string_view native)
   if (!path || StartsWithDrive(*path)) return std::nullopt;
   std::replace(path->begin(), path->end(), u'/', u'\\');
   return path;
-}
-
-std::string TCNativePaths::FindOnDisk(std::u16string_view path) const {
-  std::string native = ToNative(path);
-  if (Exists(native)) return native;
-  for (std::string& found : TCOtherCase().Find(WithoutTrailingSlashes(native))) {
-    if (Exists(found)) return std::move(found);
-  }
-  return native;
 }
 
 }  // namespace brevant

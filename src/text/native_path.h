@@ -27,11 +27,6 @@ class TCNativePaths {
   // name, bytes that are not UTF-8, or a relative name that begins like a drive.
   [[nodiscard]] static std::optional<std::u16string> FromNative(std::string_view native);
 
-  // The native name of an existing file or folder: as written when that stands on the disk, else one that
-  // differs only in upper and lower case. ToNative's answer when neither does. Reads folders, so it can block
-  // as long as the disk does.
-  [[nodiscard]] std::string FindOnDisk(std::u16string_view path) const;
-
  private:
   DriveFolders drives;
 };

@@ -1,5 +1,5 @@
 // Finds what stands on the disk under a name that differs in upper and lower case only, in the file's name or
-// in any folder above it. Used behind TCDiskFiles and TCNativePaths; one thread at a time.
+// in any folder above it. Used behind TCDiskFiles and FindRegularFile; one thread at a time.
 #pragma once
 
 #include <chrono>

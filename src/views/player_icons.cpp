@@ -1,9 +1,10 @@
 #include "views/player_icons.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-#include <array>
+#include <utility>
 
 namespace brevant {
 
@@ -11,7 +12,6 @@ namespace {
 
 // The shapes are drawn on a square of this size and scaled.
 constexpr double kSide = 16.0;
-constexpr std::array kSizes{16, 20, 24, 32, 48};
 
 QPainterPath PlayShape() {
   QPainterPath shape(QPointF(4.0, 2.0));
@@ -55,25 +55,41 @@ QPainterPath VolumeShape() {
   return shape;
 }
 
-QPixmap Drawn(const QPainterPath& shape, int size, const QColor& colour) {
-  QPixmap picture(size, size);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(size / kSide, size / kSide);
-  painter.fillPath(shape, colour);
-  return picture;
-}
+// Draws the shape when it is shown, at the size of the moment: icons are made anew with every palette.
+class TCShapeEngine final : public QIconEngine {
+ public:
+  TCShapeEngine(QPainterPath drawnShape, const QColor& shapeColour)
+      : shape(std::move(drawnShape)), colour(shapeColour) {}
+
+  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State /*state*/) override {
+    QColor shown = colour;
+    if (mode == QIcon::Disabled) shown.setAlphaF(0.35F);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(area.topLeft());
+    painter->scale(area.width() / kSide, area.height() / kSide);
+    painter->fillPath(shape, shown);
+    painter->restore();
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, picture.rect(), mode, state);
+    return picture;
+  }
+
+  [[nodiscard]] QIconEngine* clone() const override { return new TCShapeEngine(*this); }
+  [[nodiscard]] bool isNull() override { return false; }
+
+ private:
+  QPainterPath shape;
+  QColor colour;
+};
 
 QIcon IconOf(const QPainterPath& shape, const QColor& colour) {
-  QColor faint = colour;
-  faint.setAlphaF(0.35F);
-  QIcon icon;
-  for (const int size : kSizes) {
-    icon.addPixmap(Drawn(shape, size, colour), QIcon::Normal);
-    icon.addPixmap(Drawn(shape, size, faint), QIcon::Disabled);
-  }
-  return icon;
+  return QIcon(new TCShapeEngine(shape, colour));
 }
 
 }  // namespace

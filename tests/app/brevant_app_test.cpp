@@ -4,98 +4,24 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "app/about_box.h"
 #include "app/qt_keys.h"
 #include "dialog_answer.h"
 #include "resources/command_table.h"
-#include "support/fake_player.h"
-#include "support/memory_files.h"
-#include "text/ini_text.h"
 #include "views/text_conversion.h"
+#include "whole_program.h"
 
 namespace brevant {
 namespace {
 
-constexpr std::u16string_view kIniPath = u"\\conf\\Brevant.ini";
-constexpr std::u16string_view kShow = u"\\shows\\show.brv";
-
-// The whole program on a disk in memory, with a player without sound.
-class BrevantApp : public testing::Test {
- protected:
-  void SetUp() override {
-    ASSERT_TRUE(layoutFolder.isValid());
-    files.PutUtf16(kShow,
-                   u"\"Band\" \"Set 1\" \"\\m\\one.mp3\" 03:00\r\n"
-                   u"\"Band\" \"Set 1\" \"\\m\\two.mp3\" 02:00\r\n"
-                   u"\"Band\" \"Set 2\" \"\\m\\three.mp3\" 01:00\r\n");
-    for (const std::u16string_view song : {u"\\m\\one.mp3", u"\\m\\two.mp3", u"\\m\\three.mp3"})
-      files.Put(song);
-  }
-
-  // Starts the program as main() does; the About box is closed unless a test is about it.
-  void Start(std::optional<std::u16string_view> file = {}) {
-    TCStartFile startFile;
-    if (file) startFile = {true, "typed", std::u16string(*file)};
-    StartWith(startFile);
-    CloseAboutBox();
-  }
-
-  void StartWith(const TCStartFile& startFile) {
-    app.emplace(TCAppParts{files,
-                           player,
-                           player,
-                           TCNativePaths(),
-                           {u"\\opt\\", u"\\conf\\", u"\\state\\"},
-                           layoutFolder.filePath(QStringLiteral("Layout.ini")),
-                           {}});
-    app->InitInstance(startFile);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !AboutBoxes().isEmpty(); }));
-  }
-
-  void CloseAboutBox() {
-    for (TCAboutBox* box : AboutBoxes()) box->accept();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Frame().activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &Frame(); }));
-  }
-
-  [[nodiscard]] QList<TCAboutBox*> AboutBoxes() {
-    QList<TCAboutBox*> boxes;
-    for (QObject* child : Frame().children()) {
-      if (auto* box = dynamic_cast<TCAboutBox*>(child)) boxes.append(box);
-    }
-    return boxes;
-  }
-
-  [[nodiscard]] TCMainFrame& Frame() { return app->Frame(); }
-  [[nodiscard]] TCSettings& Settings() { return app->Record().settings; }
-
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QCoreApplication::sendPostedEvents();
-  }
-
-  [[nodiscard]] QString CellText(int row, int column) {
-    return Frame().PlaylistView().model()->index(row, column).data().toString();
-  }
-
-  [[nodiscard]] std::u16string Written(std::u16string_view key) const {
-    const std::optional<std::string> bytes = files.BytesOf(kIniPath);
-    return bytes ? TCIniText::Parse(*bytes).GetString(u"Brevant", key, u"(missing)") : u"(no file)";
-  }
-
-  QTemporaryDir layoutFolder;
-  TCMemoryFiles files;
-  TCFakePlayer player;
-  std::optional<TCBrevantApp> app;
-};
+class BrevantApp : public TCWholeProgram {};
 
 // Start-up.
 
@@ -109,6 +35,42 @@ TEST_F(BrevantApp, ShowsTheAboutBoxOnceAtTheStart) {
   EXPECT_TRUE(AboutBoxes().isEmpty());
 }
 
+// Notes what stands behind every About box that opens.
+class TCAboutBoxWatch : public QObject {
+ public:
+  explicit TCAboutBoxWatch(const TCBrevantDoc& openDocument) : document(openDocument) {
+    qApp->installEventFilter(this);
+  }
+
+  [[nodiscard]] const std::vector<std::u16string>& Opened() const { return opened; }
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    const bool isBox = event->type() == QEvent::Show && dynamic_cast<TCAboutBox*>(receiver) != nullptr;
+    if (isBox) opened.push_back(document.GetPathName());
+    return false;
+  }
+
+ private:
+  const TCBrevantDoc& document;
+  std::vector<std::u16string> opened;
+};
+
+TEST_F(BrevantApp, TheAboutBoxOpensOnceBehindTheLastDocument) {
+  files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\show.brv\r\n");
+  Make();
+  const TCAboutBoxWatch watch(app->Document());
+  app->InitInstance({});
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !AboutBoxes().isEmpty(); }));
+  CloseAboutBox();
+  app->Document().OpenDocumentFile(kShow);
+  Frame().hide();
+  Frame().show();
+  QTest::qWait(0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(watch.Opened(), std::vector<std::u16string>{std::u16string(kShow)});
+}
+
 TEST_F(BrevantApp, TheSongGoesOnBehindTheAboutBox) {
   StartWith({true, "typed", std::u16string(kShow)});
   app->Document().OnCommand(TCCommandId::Play);
@@ -120,17 +82,12 @@ TEST_F(BrevantApp, TheSongGoesOnBehindTheAboutBox) {
 }
 
 TEST_F(BrevantApp, TheWindowIsSeenBeforeTheDocumentIsRead) {
-  app.emplace(TCAppParts{files,
-                         player,
-                         player,
-                         TCNativePaths(),
-                         {u"\\opt\\", u"\\conf\\", u"\\state\\"},
-                         layoutFolder.filePath(QStringLiteral("Layout.ini")),
-                         {}});
+  Make();
   app->InitInstance({true, "typed", std::u16string(kShow)});
   EXPECT_TRUE(Frame().isVisible());
   EXPECT_EQ(app->Document().GetPathName(), u"");
   EXPECT_TRUE(QTest::qWaitFor([this] { return app->Document().GetPathName() == kShow; }));
+  EXPECT_FALSE(Frame().windowIcon().isNull());
 }
 
 TEST_F(BrevantApp, StartsWithAnEmptyDocumentAndTheBanner) {
@@ -146,6 +103,45 @@ TEST_F(BrevantApp, OpensTheDocumentOfTheCommandLine) {
   EXPECT_EQ(Frame().windowTitle(), QStringLiteral("show.brv[*] - Brevant"));
   ASSERT_EQ(Frame().PlaylistView().model()->rowCount(), 2);
   EXPECT_EQ(CellText(0, 4), QStringLiteral("one.mp3"));
+}
+
+TEST_F(BrevantApp, OpensAPlaylistFileOfTheCommandLineAsTheDocument) {
+  constexpr std::u16string_view kPlaylist = u"\\shows\\Encores.brvpl";
+  files.PutUtf16(kPlaylist, u"\\m\\one.mp3\r\n\\m\\two.mp3\r\n");
+  Start(kPlaylist);
+  EXPECT_EQ(app->Document().GetPathName(), kPlaylist);
+  EXPECT_EQ(Frame().windowTitle(), QStringLiteral("Encores.brvpl[*] - Brevant"));
+  EXPECT_EQ(Frame().MessageDisplay().toPlainText().trimmed(), QStringLiteral("...Brevant..."));
+  EXPECT_TRUE(Frame().close());
+  EXPECT_EQ(Written(u"LastLoadedFileName"), kPlaylist);
+}
+
+TEST_F(BrevantApp, AFileOfTheCommandLineThatCannotBeReadIsAnEmptyDocumentOfThatName) {
+  files.MakeUnreadable(kShow);
+  for (const std::u16string_view file : {kShow, std::u16string_view(u"\\shows\\gone.brv")}) {
+    Start(file);
+    EXPECT_EQ(app->Document().GetPathName(), file);
+    EXPECT_FALSE(app->Document().IsModified());
+    EXPECT_EQ(Frame().PlaylistView().model()->rowCount(), 0);
+    EXPECT_EQ(Frame().MessageDisplay().toPlainText().trimmed(), QStringLiteral("...Brevant..."));
+    EXPECT_EQ(Frame().StatusLine().ShownMessage(), QString());
+  }
+}
+
+TEST_F(BrevantApp, ColumnWidthsComeBackOnlyWithTheLastWindowState) {
+  {
+    Start(kShow);
+    Frame().PlaylistView().horizontalHeader()->resizeSection(1, 217);
+    EXPECT_TRUE(Frame().close());
+    app.reset();
+  }
+  files.Put(kIniPath, "[Brevant]\r\nLoadLastWindowState=No\r\n");
+  Start(kShow);
+  EXPECT_NE(Frame().PlaylistView().columnWidth(1), 217);
+  app.reset();
+  files.Put(kIniPath, "[Brevant]\r\nLoadLastWindowState=Yes\r\n");
+  Start(kShow);
+  EXPECT_EQ(Frame().PlaylistView().columnWidth(1), 217);
 }
 
 TEST_F(BrevantApp, OpensTheLastDocumentWhenNoneIsNamed) {
@@ -193,23 +189,6 @@ TEST_F(BrevantApp, ReadsTheSettingsButForTheFontFaces) {
 
 // Menus and keys.
 
-TEST_F(BrevantApp, EveryMenuEntryIsThereToBeUsed) {
-  Start();
-  QStringList titles;
-  for (const QAction* title : Frame().menuBar()->actions()) {
-    titles.append(title->text());
-    ASSERT_NE(title->menu(), nullptr);
-    EXPECT_FALSE(title->menu()->isEmpty());
-    for (const QAction* entry : title->menu()->actions()) {
-      EXPECT_TRUE(entry->isEnabled() && entry->isVisible());
-      EXPECT_FALSE(entry->text().isEmpty());
-    }
-  }
-  for (const char* needed : {"&File", "&Play", "&Commands", "&Options", "&View", "&Help"}) {
-    EXPECT_TRUE(titles.contains(QLatin1String(needed))) << needed;
-  }
-}
-
 TEST_F(BrevantApp, HasWhatAPerformanceNeeds) {
   Start();
   for (const TCCommandId command :
@@ -250,17 +229,6 @@ TEST_F(BrevantApp, EveryKeyOfTheTableFiresItsCommandAndNoOther) {
   }
 }
 
-TEST_F(BrevantApp, EveryActionIsCarriedOutByItsOwner) {
-  Start();
-  for (const TCCommand& command : Commands()) {
-    if (app->Actions().ActionOf(command.id) == nullptr) continue;
-    const bool view = HasOwner(command, TCCommandOwner::View);
-    EXPECT_TRUE(view || TCMainFrame::Handles(command.id) || TCBrevantDoc::Handles(command.id) ||
-                command.id == TCCommandId::About)
-        << static_cast<int>(command.id);
-  }
-}
-
 TEST_F(BrevantApp, KeysPerformTheSet) {
   Start(kShow);
   player.ForgetCalls();
@@ -276,6 +244,20 @@ TEST_F(BrevantApp, KeysPerformTheSet) {
   Press(Qt::Key_Right);
   ASSERT_EQ(Frame().PlaylistView().model()->rowCount(), 1);
   EXPECT_EQ(CellText(0, 4), QStringLiteral("three.mp3"));
+}
+
+TEST_F(BrevantApp, EnterOnlyChoosesTheSongWhileImmediatePlayIsOff) {
+  Start(kShow);
+  Settings().immediatePlay = false;
+  Press(Qt::Key_Down);
+  player.ForgetCalls();
+  Press(Qt::Key_Return);
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(player.Calls(), std::vector<std::string>());
+  EXPECT_FALSE(app->Document().Transport().State().playing);
+  EXPECT_EQ(app->Record().setLists.lastSongName, u"two.mp3");
+  Press(Qt::Key_P);
+  EXPECT_EQ(player.Calls(), (std::vector<std::string>{"LoadUrl \\m\\two.mp3", "Play"}));
 }
 
 TEST_F(BrevantApp, F4AndSelectAllAreKeptFromTheList) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
@@ -65,6 +66,14 @@ TEST_F(MainFrame, ItsCommandsOpenAndClosePanesAndStatusBar) {
     EXPECT_TRUE(frame.OnCommand(command));
     EXPECT_TRUE(frame.IsChecked(command));
   }
+}
+
+TEST_F(MainFrame, ThePanesTitlesKeepTheirAmpersandOnTheScreenAndReadOut) {
+  QStringList names;
+  for (QDockWidget* pane : frame.findChildren<QDockWidget*>())
+    names.append(QAccessible::queryAccessibleInterface(pane)->text(QAccessible::Name));
+  EXPECT_TRUE(names.contains(QStringLiteral("Brevant Information & Lyrics")))
+      << names.join(u'|').toStdString();
 }
 
 TEST_F(MainFrame, PanesThatAreNotBuiltAreNotItsOwn) {

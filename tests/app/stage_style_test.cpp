@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QPalette>
 #include <algorithm>
 
 #include "app/stage_palette.h"
@@ -18,6 +20,16 @@ QColor MiddleOf(QWidget& widget) {
   widget.resize(100, 40);
   const QImage picture = widget.grab().toImage();
   return picture.pixelColor(picture.width() / 2, picture.height() / 2);
+}
+
+// How many pixels of the icon are of a colour.
+int Pixels(const QIcon& icon, const QColor& colour) {
+  const QImage image = icon.pixmap(QSize(24, 24)).toImage();
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == colour ? 1 : 0;
+  }
+  return count;
 }
 
 TEST(StageStyle, AFieldThatTakesNoTypingHasTheColourOfTheWindow) {
@@ -54,6 +66,19 @@ TEST(StageStyle, AListOfManyChoicesOpensWithAFewAndIsScrolled) {
   list.showPopup();
   EXPECT_LE(list.view()->window()->height(), 12 * list.view()->sizeHintForRow(0));
   list.hidePopup();
+}
+
+TEST(StageStyle, TheArrowOfANarrowBarIsSeenOnAnyBackground) {
+  TCStageStyle style;
+  const QIcon arrow = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
+  const QPalette before = QApplication::palette();
+  for (const QColor colour : {QColor(Qt::white), QColor(Qt::black)}) {
+    QPalette palette = before;
+    palette.setColor(QPalette::ButtonText, colour);
+    QApplication::setPalette(palette);
+    EXPECT_GT(Pixels(arrow, colour), 20) << colour.name().toStdString();
+  }
+  QApplication::setPalette(before);
 }
 
 }  // namespace

@@ -6,12 +6,14 @@ from rig import flow, screen, songs
 from rig.stage import Stage
 from rig.waiting import holds_for, wait_for
 
-WHITE = (255, 255, 255)
+WHITE, BLACK = (255, 255, 255), (0, 0, 0)
 RED, GREEN, AMBER = (255, 0, 0), (0, 255, 0), (255, 191, 0)  # played, playing, next
 
 LYRICS = ["M: The harbour hums,", "F: the evening comes."]
 
-FIRST_HEADER = "First Set - Total Playlist Time: 01:12"  # 9 + 2 + 8 + 8 seconds and three gaps of 15
+# 9 + 2 + 8 + 8 seconds and three gaps of 15; the third song is noted three seconds short until it has been played.
+FIRST_HEADER = "First Set - Total Playlist Time: 01:12"
+FIRST_HEADER_AS_OPENED = "First Set - Total Playlist Time: 01:09"
 SECOND_HEADER = "Second Set - Total Playlist Time: 00:31"  # 8 + 8 seconds and one gap
 
 KEY_HELP = ("Play=ENTER, P, F5| Stop=S, F6, 6 | Pause Cont.=Spacebar | Playlist Prior=<- | Playlist Next=-> | "
@@ -35,7 +37,7 @@ class Evening:
         songs.write_document(self.document, [
             ("Band", "First Set", first, "00:09"),
             ("Band", "First Set", folder / "Short Tone.wav", "00:02"),
-            ("Band", "First Set", folder / "Third Tone.mp3", "00:08"),
+            ("Band", "First Set", folder / "Third Tone.mp3", "00:05"),
             ("Band", "First Set", self.missing, "00:08"),
             ("Band", "Second Set", folder / "Organ.mid", "00:08"),
             ("Band", "Second Set", folder / "Last Tone.wma", "00:08"),
@@ -48,10 +50,10 @@ def opens_the_document(stage, evening):
     assert stage.rows() == [
         ["1", "Found\\Lyrics", "00:09", "Harbour Tone.wav"],
         ["2", "Found", "00:02", "Short Tone.wav"],
-        ["3", "Found", "00:08", "Third Tone.mp3"],
+        ["3", "Found", "00:05", "Third Tone.mp3"],
         ["4", "Not found", "00:08", "Lost Song.mp3"],
     ], stage.rows()
-    assert stage.header() == FIRST_HEADER, stage.header()
+    assert stage.header() == FIRST_HEADER_AS_OPENED, stage.header()
     assert stage.message().strip() == "...Brevant...", stage.message()
     assert stage.program.find("label", KEY_HELP), "the status bar does not show the key help"
     stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
@@ -67,7 +69,7 @@ def plays_pauses_and_stops(stage, listener):
     screen.press("space")
     stage.wait_for_silence()
     holds_for("a paused song is silent and stays current",
-              lambda: listener.silent() and stage.header() == FIRST_HEADER, 1.5)
+              lambda: listener.silent() and stage.header() == FIRST_HEADER_AS_OPENED, 1.5)
     stage.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
     screen.press("space")
     stage.wait_to_hear(440)
@@ -96,10 +98,34 @@ def a_song_runs_to_its_end(stage, listener):
     stage.wait_for_silence()
     holds_for("the next song waits for its key", listener.silent, 1.5)
     stage.wait_for_colours(WHITE, RED, GREEN, AMBER)
+    assert stage.header() == FIRST_HEADER_AS_OPENED, stage.header()
     screen.press("F5")
     stage.wait_to_hear(550)
+    wait_for("the total with the length that Play measured", lambda: stage.header() == FIRST_HEADER)
+    assert stage.rows()[2] == ["3", "Found", "00:08", "Third Tone.mp3"], stage.rows()
     screen.press("F6")
     stage.wait_for_silence()
+
+
+def turns_black_into_white_and_back(stage):
+    screen.press("w")
+    stage.wait_for_background(WHITE)
+    screen.press("w")
+    stage.wait_for_background(BLACK)
+    stage.wait_for_colours(WHITE, RED, GREEN, AMBER)
+
+
+def picks_a_row_with_the_mouse(stage):
+    stage.double_click_row(0)
+    stage.wait_to_hear(440)
+    stage.wait_for_colours(stage.SELECTED, AMBER, WHITE, WHITE)
+    stage.double_click_row(2)
+    stage.wait_to_hear(550)
+    stage.wait_for_colours(WHITE, RED, stage.SELECTED, AMBER)
+    screen.press("s")
+    stage.wait_for_silence()
+    screen.press("Down")
+    stage.wait_for_colours(WHITE, WHITE, stage.SELECTED, GREEN)
 
 
 def plays_with_the_mouse(stage):
@@ -164,8 +190,10 @@ def perform(rig):
         (lambda: plays_pauses_and_stops(stage, listener), "plays, pauses, continues and stops the first song"),
         (lambda: steps_through_the_songs(stage), "steps down and up"),
         (lambda: a_song_runs_to_its_end(stage, listener), "hears a song to its end, and the next becomes current"),
+        (lambda: turns_black_into_white_and_back(stage), "turns black into white and back"),
         (lambda: plays_with_the_mouse(stage), "plays with the mouse in the player pane"),
         (lambda: a_lost_song_is_reported(stage, listener, evening), "is told of a lost song"),
+        (lambda: picks_a_row_with_the_mouse(stage), "picks a row with a double-click"),
         (lambda: goes_to_the_next_playlist(stage), "goes to the next playlist and back"),
         (lambda: closes_and_writes_its_settings(stage, program, evening), "closes"),
     )
@@ -179,7 +207,7 @@ def perform(rig):
     second = Stage(again, listener)
     second.dismiss_the_about_box()
     wait_for("the title", lambda: screen.active_window_title() == "Evening.brv - Brevant")
-    assert second.header() == FIRST_HEADER, second.header()
+    assert second.header() == FIRST_HEADER_AS_OPENED, second.header()
     second.wait_for_colours(GREEN, AMBER, WHITE, WHITE)
     rig.picture("the-second-start")
     screen.press("alt+f")

@@ -27,7 +27,7 @@ STANDARD = set("""
     strstream syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
     valarray variant vector version
 """.split())
-SYSTEM = re.compile(r"(sys/[\w/]+|fcntl|unistd|dirent|errno|limits|poll|signal|spawn|windows|io)\.h$")
+SYSTEM = re.compile(r"(sys/[\w/]+|dlfcn|fcntl|unistd|dirent|errno|limits|poll|signal|spawn|windows|io)\.h$")
 QT = re.compile(r"(Q[A-Za-z]\w*(/.*)?|q[a-z]+\.h|qpa/.*)$")
 MEDIA = re.compile(r"(gst/.*|glib.*|gio/.*|fluidsynth.*|mpg123\.h)$")
 

@@ -5,7 +5,6 @@
 
 #include <map>
 
-#include "support/memory_files.h"
 #include "support/message_log.h"
 
 namespace brevant {
@@ -55,7 +54,6 @@ class TimeRunTest : public testing::Test {
       TCPlayListItem& song = playlist.items.emplace_back();
       song.SetPath(path);
       song.time = u"09:09";
-      files.Put(path);
       probe.lengths[path] = 60 * static_cast<int>(name[0] - u'a' + 1);
     }
   }
@@ -78,12 +76,11 @@ class TimeRunTest : public testing::Test {
     return times;
   }
 
-  TCMemoryFiles files;
   TCAppRecord record;
   TCSetListStore& store = record.setLists;
   TCScriptedProbe probe;
   TCMessageLog messages;
-  TCTimeRun run{record, files, &probe, messages};
+  TCTimeRun run{record, &probe, messages};
 };
 
 TEST_F(TimeRunTest, ARunOverAPlaylistSaysEachTimeAndStoresThemAtItsEnd) {
@@ -135,7 +132,7 @@ TEST_F(TimeRunTest, ALengthThatIsNotKnownYetIsAskedForAgainWithoutOpeningAnew) {
 }
 
 TEST_F(TimeRunTest, MissingAndBrokenFilesAreNothingLongAndTheRunGoesOn) {
-  files.Remove(u"C:\\a.mp3");
+  probe.lengths.erase(u"C:\\a.mp3");
   probe.lengths.erase(u"C:\\b.mp3");
   run.Start(TCTimeScope::CurrentPlaylist);
   RunThrough();
@@ -197,7 +194,7 @@ TEST_F(TimeRunTest, TheScopesPlaylistIsTheOneThatWasCurrentAtTheStart) {
 }
 
 TEST_F(TimeRunTest, WithNothingToMeasureWithNoRunStarts) {
-  TCTimeRun none(record, files, nullptr, messages);
+  TCTimeRun none(record, nullptr, messages);
   none.Start(TCTimeScope::AllSongs);
   EXPECT_FALSE(none.Pending());
 }

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -100,6 +102,99 @@ TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndA
   Run(0.3);
   EXPECT_FALSE(transport.State().playing);
   EXPECT_EQ(store.currentSong, 2);
+}
+
+TEST_F(TransportTest, ADiskThatHangsDoesNotHoldPlayUpNorChangeTheStatus) {
+  files.hangs = true;
+  Song(0).status = TCSongStatus::NotFound;
+  transport.Play();
+  EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\a1.mp3", "Play"));
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_THAT(messages.lines, IsEmpty());
+  Run(1.0);
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_THAT(display.calls, Not(Contains("Row 0")));
+}
+
+TEST_F(TransportTest, WhatAHangingDiskSaysInTheEndIsTakenOver) {
+  files.hangs = true;
+  Song(0).status = TCSongStatus::NotFound;
+  transport.Play();
+  Run(0.3);
+  files.Wake();
+  Run(0.3);
+  EXPECT_EQ(Song(0).status, TCSongStatus::Found);
+  EXPECT_THAT(display.calls, Contains("Row 0"));
+  EXPECT_TRUE(transport.State().playing);
+}
+
+TEST_F(TransportTest, ASongThatTurnsOutToBeMissingIsReportedAndWasNeverStarted) {
+  files.Remove(u"C:\\a1.mp3");
+  player.SetSong(u"C:\\a1.mp3", {.opensAfter = 100.0});
+  files.hangs = true;
+  transport.Play();
+  Run(0.3);
+  files.Wake();
+  Run(0.3);
+  EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_FALSE(transport.State().playing);
+  EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, ALateAnswerIsNotTakenForAnotherSongs) {
+  files.Remove(u"C:\\a1.mp3");
+  files.hangs = true;
+  transport.Play();
+  store.currentGroup = 1;  // another song has the first row
+  files.Wake();
+  Run(0.3);
+  EXPECT_EQ(store.groups[1].playlists[0].items[0].status, TCSongStatus::Pending);
+  EXPECT_THAT(display.calls, Not(Contains("Row 0")));
+  EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
+}
+
+TEST_F(TransportTest, ALateAnswerAboutASongThatWasLeftChangesNothing) {
+  files.Remove(u"C:\\a1.mp3");
+  files.hangs = true;
+  transport.Play();
+  files.hangs = false;
+  store.currentSong = 1;
+  transport.Play();
+  files.Wake();
+  Run(0.3);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+TEST_F(TransportTest, ALateAnswerDoesNotReachTheNextDocument) {
+  files.Remove(u"C:\\a1.mp3");
+  files.hangs = true;
+  transport.Play();
+  transport.ForgetSong();
+  files.Wake();
+  Run(0.3);
+  EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+TEST_F(TransportTest, OnlyPlayAsksTheDisk) {
+  transport.Play();
+  EXPECT_THAT(files.existenceAsked, ElementsAre(u"C:\\a1.mp3"));
+  files.ForgetRequests();
+  Run(12.0);  // to the end of the song
+  transport.PauseContinue();
+  transport.Stop();
+  transport.NextSong();
+  transport.PriorSong();
+  transport.NextPlaylist();
+  transport.PriorPlaylist();
+  transport.SelectSong(1, TCSelect::Silently);
+  transport.StartTimeRun(TCTimeScope::AllSongs);
+  Run(6.0);
+  ASSERT_FALSE(transport.TimeRun().Pending());
+  EXPECT_THAT(files.existenceAsked, IsEmpty());
+  EXPECT_THAT(files.reads, IsEmpty());
 }
 
 TEST_F(TransportTest, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
@@ -447,6 +542,17 @@ TEST_F(TransportTest, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
   repeatFields.end = 0;  // read afresh on every poll
   Run(11.4);
   EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, ARangeFromTheStartOfTheSongIsNotTakenForItsEnd) {
+  settings.autoPlayPlayList = true;
+  repeatFields.end = 4;
+  transport.Play();
+  Run(30.0);
+  EXPECT_GE(std::ranges::count(player.Calls(), "SetPosition 0"), 5);
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_TRUE(transport.State().playing);
+  EXPECT_TRUE(transport.State().started);
 }
 
 TEST_F(TransportTest, ARangeThatDoesNotBeginBeforeItsEndHoldsTheSongAtItsBegin) {

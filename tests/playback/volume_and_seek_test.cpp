@@ -66,6 +66,23 @@ TEST_F(VolumeAndSeekTest, SeekStepsMoveThePositionWithinTheSong) {
   EXPECT_THAT(player.Calls(), ElementsAre("SetPosition 0"));
 }
 
+TEST_F(VolumeAndSeekTest, ASongOfUnknownLengthIsSoughtInUpToTenThousandSeconds) {
+  settings.seekStepSeconds = 20'000;
+  player.SetDefaultSong({.opensAfter = 100.0});
+  player.LoadUrl(u"\\a.mp3");
+  ASSERT_EQ(player.GetDurationSeconds(), 0);
+  player.ForgetCalls();
+  commands.SeekForward();
+  EXPECT_THAT(player.Calls(), ElementsAre("SetPosition 10000"));
+
+  player.SetDefaultSong({.opensAfter = 0.0, .playable = false});
+  player.LoadUrl(u"\\b.mp3");
+  ASSERT_EQ(player.GetDurationSeconds(), -1);
+  player.ForgetCalls();
+  commands.SeekForward();
+  EXPECT_THAT(player.Calls(), ElementsAre("SetPosition 10000"));
+}
+
 TEST_F(VolumeAndSeekTest, WithoutControlsNothingIsSought) {
   PlayTo(10.0);
   player.ShowControls(false);

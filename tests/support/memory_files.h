@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <future>
 #include <map>
 #include <optional>
 #include <set>
@@ -23,6 +24,7 @@ class TCMemoryFiles final : public TCFileSystem {
   bool failCopies = false;
   bool failFolders = false;
   bool failDeletes = false;
+  bool hangs = false;  // AskForFile gets no answer until Wake
 
   // What was asked, in order, with the paths as they were given. Failed requests are recorded too.
   std::vector<std::u16string> existenceAsked;
@@ -70,6 +72,18 @@ class TCMemoryFiles final : public TCFileSystem {
     return Readable(path) != nullptr;
   }
 
+  [[nodiscard]] std::future<bool> AskForFile(std::u16string_view path) override {
+    if (!hangs) return TCFileSystem::AskForFile(path);
+    return questions.emplace_back(path, std::promise<bool>()).second.get_future();
+  }
+
+  // The disk no longer hangs: whoever asked meanwhile gets the answer now.
+  void Wake() {
+    hangs = false;
+    for (auto& [path, answer] : questions) answer.set_value(FileExists(path));
+    questions.clear();
+  }
+
   [[nodiscard]] std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override {
     reads.emplace_back(path);
     const std::string* bytes = Readable(path);
@@ -113,6 +127,7 @@ class TCMemoryFiles final : public TCFileSystem {
   std::map<std::u16string, std::string> files;
   std::set<std::u16string> unreadable;
   std::set<std::u16string> unwritable;
+  std::vector<std::pair<std::u16string, std::promise<bool>>> questions;
 };
 
 }  // namespace brevant

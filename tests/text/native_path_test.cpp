@@ -1,9 +1,6 @@
 #include "text/native_path.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
-
-#include "support/temp_folder.h"
 
 namespace brevant {
 namespace {
@@ -64,74 +61,6 @@ TEST(NativePaths, WhatTheModelCannotHoldIsRefused) {
        {"/a\\b.mp3"s, "/a\"b.mp3"s, "/a\rb.mp3"s, "/a\nb.mp3"s, "/a\0b.mp3"s, "/caf\xE9.mp3"s, "C:/a.mp3"s}) {
     EXPECT_EQ(TCNativePaths::FromNative(name), std::nullopt) << testing::PrintToString(name);
   }
-}
-
-TEST(NativePaths, AFileIsFoundAsItIsWritten) {
-  const TCTempFolder folder;
-  folder.Write("Music/a.mp3");
-  folder.Write("Music/A.mp3");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("Music/a.mp3")), folder.Native("Music/a.mp3"));
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("Music/A.mp3")), folder.Native("Music/A.mp3"));
-}
-
-TEST(NativePaths, AFileIsFoundInOtherCase) {
-  const TCTempFolder folder;
-  folder.Write("Music/\xC3\x89t\xC3\xA9/Song.MP3");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("MUSIC/\xC3\xA9T\xC3\x89/song.mp3")),
-            folder.Native("Music/\xC3\x89t\xC3\xA9/Song.MP3"));
-}
-
-TEST(NativePaths, AFolderIsFoundInOtherCase) {
-  const TCTempFolder folder;
-  folder.MakeFolder("Music/Sets");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("music/SETS")), folder.Native("Music/Sets"));
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("music/SETS/")), folder.Native("Music/Sets"));
-}
-
-TEST(NativePaths, AFileOnADriveIsFoundInOtherCase) {
-  const TCTempFolder folder;
-  folder.Write("Music/Song.mp3");
-  const TCNativePaths paths({{'C', folder.Native("")}});
-  EXPECT_EQ(paths.FindOnDisk(u"C:\\MUSIC\\SONG.MP3"), folder.Native("Music/Song.mp3"));
-}
-
-TEST(NativePaths, TheSearchGoesThroughEveryFolderThatIsMeant) {
-  const TCTempFolder folder;
-  folder.MakeFolder("music");
-  folder.MakeFolder("MUSIC/Sets");
-  folder.Write("Music/sets/a.mp3");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("music/Sets/A.mp3")), folder.Native("Music/sets/a.mp3"));
-}
-
-TEST(NativePaths, TheSearchGoesThroughFilesThatStandWhereAFolderIsMeant) {
-  const TCTempFolder folder;
-  folder.Write("music");
-  folder.Write("Music/a.mp3");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("music/a.mp3")), folder.Native("Music/a.mp3"));
-}
-
-TEST(NativePaths, NamesThatAreNotUtf8AreNotInTheWay) {
-  const TCTempFolder folder;
-  folder.Write("Music/\xE9.mp3");
-  folder.Write("Music/Song.mp3");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("Music/SONG.mp3")), folder.Native("Music/Song.mp3"));
-}
-
-TEST(NativePaths, ALinkThatLeadsNowhereIsNotWhatIsMeant) {
-  const TCTempFolder folder;
-  folder.Write("Song.mp3");
-  ASSERT_EQ(symlink("nowhere", folder.Native("song.mp3").c_str()), 0);
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("song.mp3")), folder.Native("Song.mp3"));
-}
-
-TEST(NativePaths, WhatIsNotThereKeepsItsOwnName) {
-  const TCTempFolder folder;
-  folder.Write("Music/a.mp3");
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("Music/b.mp3")), folder.Native("Music/b.mp3"));
-  EXPECT_EQ(TCNativePaths().FindOnDisk(folder.Model("music/a.mp3/x")), folder.Native("music/a.mp3/x"));
-  EXPECT_EQ(TCNativePaths().FindOnDisk(u""), "");
-  const std::u16string endless(10'000, u'\\');
-  EXPECT_EQ(TCNativePaths().FindOnDisk(endless + u"a").size(), 10'001U);
 }
 
 }  // namespace

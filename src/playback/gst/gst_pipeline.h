@@ -9,8 +9,8 @@
 
 #include "playback/engine/player_events.h"
 #include "playback/gst/gst_ref.h"
-#include "playback/gst/job_threads.h"
 #include "playback/gst/midi_synth.h"
+#include "text/job_threads.h"
 
 namespace brevant {
 

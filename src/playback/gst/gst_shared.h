@@ -4,8 +4,8 @@
 
 #include "playback/engine/player_desk.h"
 #include "playback/gst/gst_player_options.h"
-#include "playback/gst/job_threads.h"
 #include "playback/gst/midi_synth.h"
+#include "text/job_threads.h"
 #include "text/native_path.h"
 
 namespace brevant {

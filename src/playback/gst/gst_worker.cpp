@@ -11,8 +11,8 @@ namespace brevant {
 
 namespace {
 
-// Idle for so long after the start, the worker has the decoders loaded, so that the first song need not wait
-// for them and the first window need not share the processor with them.
+// Idle for so long after the start, the worker starts GStreamer and has the decoders loaded, so that the
+// first song need not wait for them and the first window need not share the processor with them.
 constexpr double kWarmUpAfter = 1.0;
 
 }  // namespace
@@ -22,7 +22,6 @@ TCGstWorker::TCGstWorker(std::shared_ptr<TCGstShared> theShared, TCPlayerDesk::H
 
 void TCGstWorker::Run() {
   const bool takesOver = ticket != shared->desk.FirstTicket();
-  Initialise();
   bool wanted = !takesOver || Carry(machine.OnTakeover(shared->desk.Now()));
   warm = takesOver || shared->options.use == TCGstUse::Measuring;
   while (wanted) {
@@ -41,6 +40,7 @@ void TCGstWorker::Run() {
 }
 
 void TCGstWorker::Initialise() {
+  if (std::exchange(initialised, true)) return;
   GError* error = nullptr;
   // Crashes are the program's own business, not the plug-in loader's.
   gst_segtrap_set_enabled(FALSE);
@@ -51,6 +51,7 @@ void TCGstWorker::Initialise() {
 
 void TCGstWorker::WarmUp() {
   warm = true;
+  Initialise();
   if (!initError.empty()) return;
   shared->jobs.Start([] {
     for (const char* name : {"playbin", "uridecodebin", "decodebin", "playsink", "typefind", "filesrc",
@@ -81,6 +82,7 @@ bool TCGstWorker::Carry(const TCPlayerMachine::Actions& actions) {
 }
 
 void TCGstWorker::Perform(const TCPlayerAction& action) {
+  Initialise();
   switch (action.kind) {
     case TCPlayerAction::Kind::OpenFile:
       OpenFile(action.number);

@@ -18,6 +18,7 @@ class TCGstWorker {
   void Run();
 
  private:
+  // Starts GStreamer, once.
   void Initialise();
   void WarmUp();
   void TakeItem(TCPlayerDesk::Item& item);
@@ -36,6 +37,7 @@ class TCGstWorker {
   TCPlayerDesk::Ticket ticket;
   TCPlayerMachine machine;
   std::unique_ptr<TCGstPipeline> pipeline;
+  bool initialised = false;
   std::string initError;
   bool warm = false;
 };

@@ -14,8 +14,8 @@ std::vector<std::string> LibraryVersions() {
   std::string gstreamer = "GStreamer " + std::to_string(major);
   gstreamer += "." + std::to_string(minor) + "." + std::to_string(micro);
 
-  // mpg123 of this age cannot be asked.
-  return {gstreamer, std::string("FluidSynth ") + fluid_version_str(), "mpg123"};
+  // FluidSynth is not loaded before it is needed, and mpg123 of this age cannot be asked.
+  return {gstreamer, "FluidSynth " FLUIDSYNTH_VERSION, "mpg123"};
 }
 
 }  // namespace brevant

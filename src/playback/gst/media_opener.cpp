@@ -1,7 +1,5 @@
 #include "playback/gst/media_opener.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,47 +8,28 @@
 #include <system_error>
 #include <utility>
 
+#include "text/other_case.h"
+#include "text/regular_file.h"
+
 namespace brevant {
 
 namespace {
 
-class TCFile {
- public:
-  // Not blocking, so that a FIFO nobody writes to does not hold the thread.
-  explicit TCFile(const std::string& path)
-      : handle(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {}
-  ~TCFile() {
-    if (handle >= 0) ::close(handle);
+// Appends up to `limit` bytes. False when reading failed.
+bool Read(const TCFileHandle& file, std::string& bytes, std::size_t limit) {
+  char block[64 * 1024];
+  while (limit > 0) {
+    const ssize_t got = ::read(file.Get(), block, std::min(limit, sizeof block));
+    if (got < 0 && errno == EINTR) continue;
+    if (got <= 0) return got == 0;
+    bytes.append(block, static_cast<std::size_t>(got));
+    limit -= static_cast<std::size_t>(got);
   }
-  TCFile(const TCFile&) = delete;
-  TCFile& operator=(const TCFile&) = delete;
+  return true;
+}
 
-  [[nodiscard]] bool IsOpen() const { return handle >= 0; }
-
-  [[nodiscard]] bool IsRegular() const {
-    struct stat status {};
-    return ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
-  }
-
-  // Appends up to `limit` bytes. False when reading failed.
-  bool Read(std::string& bytes, std::size_t limit) const {
-    char block[64 * 1024];
-    while (limit > 0) {
-      const ssize_t got = ::read(handle, block, std::min(limit, sizeof block));
-      if (got < 0 && errno == EINTR) continue;
-      if (got <= 0) return got == 0;
-      bytes.append(block, static_cast<std::size_t>(got));
-      limit -= static_cast<std::size_t>(got);
-    }
-    return true;
-  }
-
- private:
-  int handle = -1;
-};
-
-std::string LastError() {
-  return std::error_code(errno, std::generic_category()).message();
+std::string ReasonOf(int systemError) {
+  return std::error_code(systemError, std::generic_category()).message();
 }
 
 TCPlayerNote Refuse(const std::string& why) {
@@ -78,17 +57,17 @@ TCPlayerNote OpenMidi(TCPlayable playable, const std::string& bytes, TCSynthStor
 }  // namespace
 
 TCPlayerNote OpenMedia(const std::u16string& url, const TCNativePaths& paths, TCSynthStore* synths) {
+  TCOtherCase otherCase;
+  const TCRegularFile found = FindRegularFile(paths.ToNative(url), otherCase);
+  if (!found.file.IsOpen()) return Refuse(found.failure == 0 ? "This is no file." : ReasonOf(found.failure));
   std::error_code error;
   TCPlayable playable;
-  playable.nativePath = std::filesystem::absolute(paths.FindOnDisk(url), error).string();
-  const TCFile file(playable.nativePath);
-  if (!file.IsOpen()) return Refuse(LastError());
-  if (!file.IsRegular()) return Refuse("This is no file.");
+  playable.nativePath = std::filesystem::absolute(found.native, error).string();
   std::string bytes;
   constexpr std::size_t kHeadBytes = 12;
-  if (!file.Read(bytes, kHeadBytes)) return Refuse(LastError());
+  if (!Read(found.file, bytes, kHeadBytes)) return Refuse(ReasonOf(errno));
   if (LooksLikeMidi(bytes)) {
-    if (!file.Read(bytes, kMidiMaxBytes)) return Refuse(LastError());
+    if (!Read(found.file, bytes, kMidiMaxBytes)) return Refuse(ReasonOf(errno));
     return OpenMidi(std::move(playable), bytes, synths);
   }
   TCPlayerNote note;

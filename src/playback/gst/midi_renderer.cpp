@@ -30,8 +30,8 @@ void TCMidiRenderer::Seek(std::int64_t nanoseconds) {
   frame = std::clamp<std::int64_t>(FrameOf(nanoseconds), 0, lengthFrames);
   released = false;
   nextEvent = 0;
-  synth->With(claim, [this](fluid_synth_t& fluid) {
-    fluid_synth_system_reset(&fluid);
+  synth->With(claim, [this](const TCFluidSynth& fluid) {
+    fluid.library.systemReset(fluid.synth);
     for (; nextEvent < song->events.size(); ++nextEvent) {
       const TCMidiEvent& event = song->events[nextEvent];
       if (FrameOf(event.nanoseconds) >= frame) break;
@@ -42,7 +42,7 @@ void TCMidiRenderer::Seek(std::int64_t nanoseconds) {
 
 std::size_t TCMidiRenderer::Render(float* samples, std::size_t frames) {
   std::size_t done = 0;
-  synth->With(claim, [&](fluid_synth_t& fluid) {
+  synth->With(claim, [&](const TCFluidSynth& fluid) {
     while (done < frames) {
       const std::int64_t until = SendDue(fluid);
       if (until <= 0) break;
@@ -54,7 +54,7 @@ std::size_t TCMidiRenderer::Render(float* samples, std::size_t frames) {
   return done;
 }
 
-std::int64_t TCMidiRenderer::SendDue(fluid_synth_t& fluid) {
+std::int64_t TCMidiRenderer::SendDue(const TCFluidSynth& fluid) {
   const std::vector<TCMidiEvent>& events = song->events;
   while (nextEvent < events.size() && FrameOf(events[nextEvent].nanoseconds) <= frame) {
     Send(fluid, events[nextEvent++]);
@@ -64,53 +64,55 @@ std::int64_t TCMidiRenderer::SendDue(fluid_synth_t& fluid) {
   if (!released) {
     released = true;
     // Notes that the file left hanging, and the pedals that would hold them.
-    fluid_synth_all_notes_off(&fluid, kAllChannels);
-    for (int channel = 0; channel < fluid_synth_count_midi_channels(&fluid); ++channel) {
-      fluid_synth_cc(&fluid, channel, 64, 0);
+    fluid.library.allNotesOff(fluid.synth, kAllChannels);
+    for (int channel = 0; channel < fluid.library.countMidiChannels(fluid.synth); ++channel) {
+      fluid.library.controlChange(fluid.synth, channel, 64, 0);
     }
   }
   return RungOut(fluid) ? 0 : lengthFrames + kTailFrames - frame;
 }
 
-bool TCMidiRenderer::RungOut(fluid_synth_t& fluid) const {
+bool TCMidiRenderer::RungOut(const TCFluidSynth& fluid) const {
   const std::int64_t tail = frame - lengthFrames;
-  return tail >= kTailFrames || (tail >= kReverbFrames && fluid_synth_get_active_voice_count(&fluid) == 0);
+  return tail >= kTailFrames ||
+         (tail >= kReverbFrames && fluid.library.getActiveVoiceCount(fluid.synth) == 0);
 }
 
-void TCMidiRenderer::RenderPiece(fluid_synth_t& fluid, float* samples, std::size_t frames) {
-  fluid_synth_write_float(&fluid, static_cast<int>(frames), samples, 0, 2, samples, 1, 2);
+void TCMidiRenderer::RenderPiece(const TCFluidSynth& fluid, float* samples, std::size_t frames) {
+  fluid.library.writeFloat(fluid.synth, static_cast<int>(frames), samples, 0, 2, samples, 1, 2);
   frame += static_cast<std::int64_t>(frames);
 }
 
-void TCMidiRenderer::Send(fluid_synth_t& fluid, const TCMidiEvent& event) const {
+void TCMidiRenderer::Send(const TCFluidSynth& fluid, const TCMidiEvent& event) const {
   const int channel = event.status & 0x0F;
   const int first = event.data1;
   const int second = event.data2;
   switch (event.status & 0xF0) {
     case 0x80:
-      fluid_synth_noteoff(&fluid, channel, first);
+      fluid.library.noteOff(fluid.synth, channel, first);
       break;
     case 0x90:
-      fluid_synth_noteon(&fluid, channel, first, second);
+      fluid.library.noteOn(fluid.synth, channel, first, second);
       break;
     case 0xA0:
-      fluid_synth_key_pressure(&fluid, channel, first, second);
+      fluid.library.keyPressure(fluid.synth, channel, first, second);
       break;
     case 0xB0:
-      fluid_synth_cc(&fluid, channel, first, second);
+      fluid.library.controlChange(fluid.synth, channel, first, second);
       break;
     case 0xC0:
-      fluid_synth_program_change(&fluid, channel, first);
+      fluid.library.programChange(fluid.synth, channel, first);
       break;
     case 0xD0:
-      fluid_synth_channel_pressure(&fluid, channel, first);
+      fluid.library.channelPressure(fluid.synth, channel, first);
       break;
     case 0xE0:
-      fluid_synth_pitch_bend(&fluid, channel, second << 7 | first);
+      fluid.library.pitchBend(fluid.synth, channel, second << 7 | first);
       break;
     default: {
       const std::string_view data = song->SysexOf(event);
-      fluid_synth_sysex(&fluid, data.data(), static_cast<int>(data.size()), nullptr, nullptr, nullptr, 0);
+      fluid.library.sysex(fluid.synth, data.data(), static_cast<int>(data.size()), nullptr, nullptr, nullptr,
+                          0);
     }
   }
 }

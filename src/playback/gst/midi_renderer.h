@@ -31,11 +31,11 @@ class TCMidiRenderer {
 
  private:
   [[nodiscard]] std::int64_t FrameOf(std::int64_t nanoseconds) const;
-  void RenderPiece(fluid_synth_t& fluid, float* samples, std::size_t frames);
-  void Send(fluid_synth_t& fluid, const TCMidiEvent& event) const;
+  void RenderPiece(const TCFluidSynth& fluid, float* samples, std::size_t frames);
+  void Send(const TCFluidSynth& fluid, const TCMidiEvent& event) const;
   // Sends what is due; how many frames may be rendered until something is.
-  std::int64_t SendDue(fluid_synth_t& fluid);
-  [[nodiscard]] bool RungOut(fluid_synth_t& fluid) const;
+  std::int64_t SendDue(const TCFluidSynth& fluid);
+  [[nodiscard]] bool RungOut(const TCFluidSynth& fluid) const;
 
   std::shared_ptr<TCMidiSynth> synth;
   std::shared_ptr<const TCMidiSong> song;

@@ -12,26 +12,28 @@ constexpr double kGain = 0.4;
 }  // namespace
 
 std::shared_ptr<TCMidiSynth> TCMidiSynth::Load(const std::vector<std::string>& soundfonts) {
+  const std::optional<TCFluidLibrary> library = TCFluidLibrary::Load();
+  if (!library) return nullptr;
   // A song that asks for an instrument the soundfont lacks is no news for the terminal.
   for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG}) {
-    fluid_set_log_function(level, nullptr, nullptr);
+    library->setLogFunction(level, nullptr, nullptr);
   }
-  std::shared_ptr<TCMidiSynth> made(new TCMidiSynth);
-  made->settings = new_fluid_settings();
+  std::shared_ptr<TCMidiSynth> made(new TCMidiSynth(*library));
+  made->settings = library->newSettings();
   if (made->settings == nullptr) return nullptr;
-  fluid_settings_setnum(made->settings, "synth.sample-rate", kRate);
-  fluid_settings_setnum(made->settings, "synth.gain", kGain);
-  made->synth = new_fluid_synth(made->settings);
+  library->settingsSetNum(made->settings, "synth.sample-rate", kRate);
+  library->settingsSetNum(made->settings, "synth.gain", kGain);
+  made->synth = library->newSynth(made->settings);
   if (made->synth == nullptr) return nullptr;
   for (const std::string& file : soundfonts) {
-    if (fluid_synth_sfload(made->synth, file.c_str(), 1) != FLUID_FAILED) return made;
+    if (library->loadSoundfont(made->synth, file.c_str(), 1) != FLUID_FAILED) return made;
   }
   return nullptr;
 }
 
 TCMidiSynth::~TCMidiSynth() {
-  delete_fluid_synth(synth);
-  delete_fluid_settings(settings);
+  library.deleteSynth(synth);
+  library.deleteSettings(settings);
 }
 
 TCMidiSynth::Claim TCMidiSynth::Take() {
@@ -39,10 +41,10 @@ TCMidiSynth::Claim TCMidiSynth::Take() {
   return ++holder;
 }
 
-bool TCMidiSynth::With(Claim claim, const std::function<void(fluid_synth_t&)>& work) {
+bool TCMidiSynth::With(Claim claim, const std::function<void(const TCFluidSynth&)>& work) {
   const std::lock_guard lock(mutex);
   if (claim != holder) return false;
-  work(*synth);
+  work({library, synth});
   return true;
 }
 

@@ -2,8 +2,6 @@
 // soundfont takes time to read. Any thread; one song at a time holds it.
 #pragma once
 
-#include <fluidsynth.h>
-
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -11,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "playback/gst/fluid_library.h"
 #include "playback/midi/smf_reader.h"
 
 namespace brevant {
@@ -19,7 +18,7 @@ class TCMidiSynth {
  public:
   static constexpr int kRate = 44100;  // frames per second, two channels
 
-  // With the first of `soundfonts` that can be loaded; null when none can.
+  // With the first of `soundfonts` that can be loaded; null when none can, or FluidSynth itself cannot.
   [[nodiscard]] static std::shared_ptr<TCMidiSynth> Load(const std::vector<std::string>& soundfonts);
   ~TCMidiSynth();
 
@@ -32,11 +31,12 @@ class TCMidiSynth {
   [[nodiscard]] Claim Take();
 
   // Runs `work` unless the claim is void; returns whether it ran.
-  bool With(Claim claim, const std::function<void(fluid_synth_t&)>& work);
+  bool With(Claim claim, const std::function<void(const TCFluidSynth&)>& work);
 
  private:
-  TCMidiSynth() = default;
+  explicit TCMidiSynth(const TCFluidLibrary& loadedLibrary) : library(loadedLibrary) {}
 
+  const TCFluidLibrary library;
   std::mutex mutex;
   Claim holder = 0;
   fluid_settings_t* settings = nullptr;

@@ -20,6 +20,9 @@ inline constexpr std::string_view kIconColour = "#1f2328";
 // The picture in front of every row of the playlist, 24 x 24.
 inline constexpr std::string_view kRowIcon = "row_song";
 
+// On the button behind a bar that is too narrow for all of its own, 24 x 24.
+inline constexpr std::string_view kBarMoreIcon = "bar_more";
+
 // The tree's pictures, 23 x 19, by image number: group, playlist and song, each plain and then selected.
 inline constexpr std::string_view kTreeIcons[] = {"tree_group",    "tree_group_selected",
                                                   "tree_playlist", "tree_playlist_selected",

@@ -29,6 +29,11 @@ class Flow:
         self.programs.append(Program(self.binary, self.home, self.folder / "program.log", arguments))
         return self.programs[-1]
 
+    def use(self, listener):
+        """Listens with another one from now on, to another sound server."""
+        self.listener.close()
+        self.listener = listener
+
     def step(self, sentence):
         """Says what is done next, so that a failure's place can be read in the log."""
         print(sentence, flush=True)

@@ -3,12 +3,40 @@
 import array
 import cmath
 import math
+import os
 import subprocess
 import threading
 import wave
 
+from rig.waiting import wait_for
+
 RATE = 22050
 BITS_OF_SILENCE = 4.0  # loudness below which nothing is heard: the last two bits of a 16-bit sample
+
+
+class Server:
+    """A sound server of a flow's own, to be killed and started again: where programs find it is in the environment
+    as soon as this is made."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        (folder / "state").mkdir(parents=True)
+        os.environ["PULSE_SERVER"] = f"unix:{folder}/native"
+        self.start()
+
+    def start(self):
+        environment = dict(os.environ, PULSE_RUNTIME_PATH=str(self.folder), PULSE_STATE_PATH=str(self.folder / "state"))
+        del environment["PULSE_SERVER"]
+        self.process = subprocess.Popen(
+            ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
+             "-L", f"module-native-protocol-unix socket={self.folder}/native auth-anonymous=1",
+             "-L", "module-null-sink sink_name=stage norewinds=1"],
+            env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for("the sound server", lambda: subprocess.run(["pactl", "info"], capture_output=True).returncode == 0)
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
 
 
 class Listener:

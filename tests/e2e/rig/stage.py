@@ -8,6 +8,8 @@ BLACK = (0, 0, 0)
 
 
 class Stage:
+    SELECTED = "selected"  # in place of a row's colour: it stands on the colour of a selection
+
     def __init__(self, program, listener):
         self.program = program
         self.listener = listener
@@ -68,11 +70,10 @@ class Stage:
         return held
 
     def colours(self):
-        """The text colour of each row's song name; every row must stand on black."""
+        """The text colour of each row's song name, on black; SELECTED for a row that does not stand on black."""
         table, picture = self.table(), screen.Picture()
         seen = [picture.text_and_background(tree.cell_area(table, row, 4)) for row in range(len(tree.rows(table)))]
-        assert all(background == BLACK for _, background in seen), seen
-        return [text for text, _ in seen]
+        return [text if background == BLACK else self.SELECTED for text, background in seen]
 
     def wait_for_colours(self, *expected):
         seen = []
@@ -85,6 +86,19 @@ class Stage:
             wait_for(f"rows in the colours {expected}", shown, 5)
         except AssertionError as failure:
             raise AssertionError(f"{failure}; the rows are {seen}") from None
+
+    def wait_for_background(self, colour):
+        """Every row's name stands on `colour`."""
+        def seen():
+            table, picture = self.table(), screen.Picture()
+            cells = [tree.cell_area(table, row, 4) for row in range(len(tree.rows(table)))]
+            return [picture.text_and_background(cell)[1] for cell in cells]
+
+        wait_for(f"rows on {colour}", lambda: set(seen()) == {colour}, 5)
+
+    def double_click_row(self, row):
+        left, top, width, height = tree.cell_area(self.table(), row, 4)
+        screen.click(left + min(width, 80) // 2, top + height // 2, times=2)
 
     def click_the_button(self, name):
         left, top, width, height = tree.area(self.program.wait_for("push button", name))

@@ -6,8 +6,8 @@
 #include <chrono>
 #include <memory>
 
-#include "playback/gst/hanging_disk.h"
 #include "playback/gst/song_files.h"
+#include "support/hanging_disk.h"
 #include "support/temp_folder.h"
 
 namespace brevant {

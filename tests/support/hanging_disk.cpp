@@ -1,6 +1,6 @@
-// Stands in for the C library's open(): a definition in the program comes before those of its libraries, so
-// GStreamer and mpg123 meet it as well.
-#include "playback/gst/hanging_disk.h"
+// Stands in for the C library's open() and openat(): a definition in the program comes before those of its
+// libraries, so GStreamer and mpg123 meet it as well.
+#include "support/hanging_disk.h"
 
 #include <fcntl.h>
 #include <sys/syscall.h>
@@ -41,9 +41,9 @@ void WaitWhileItHangs(const char* path) {
   changed.notify_all();
 }
 
-int Open(const char* path, int flags, mode_t mode) {
+int Open(int folder, const char* path, int flags, mode_t mode) {
   WaitWhileItHangs(path);
-  return static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, flags, mode));
+  return static_cast<int>(syscall(SYS_openat, folder, path, flags, mode));
 }
 
 }  // namespace
@@ -83,7 +83,7 @@ int open(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return brevant::Open(path, flags, mode);
+  return brevant::Open(AT_FDCWD, path, flags, mode);
 }
 
 int open64(const char* path, int flags, ...) {
@@ -91,6 +91,22 @@ int open64(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return brevant::Open(path, flags, mode);
+  return brevant::Open(AT_FDCWD, path, flags, mode);
+}
+
+int openat(int folder, const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return brevant::Open(folder, path, flags, mode);
+}
+
+int openat64(int folder, const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return brevant::Open(folder, path, flags, mode);
 }
 }

@@ -1,4 +1,4 @@
-#include "playback/gst/job_threads.h"
+#include "text/job_threads.h"
 
 #include <chrono>
 #include <system_error>
