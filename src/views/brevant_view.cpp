@@ -6,10 +6,8 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QResizeEvent>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "views/display_font.h"
@@ -29,16 +27,13 @@ constexpr int kSmallPicture = 16;  // pixels
 constexpr int kLargestPicture = 48;
 constexpr int kPictureMargins = 10;
 
-// Texts that are measured and remembered; a damaged file may hold any number of different ones.
-constexpr int kMostMeasuredTexts = 2000;
-constexpr qsizetype kLongestMeasuredText = 100;
-
-constexpr std::array kTextColumns{TCPlaylistColumn::Number, TCPlaylistColumn::Status, TCPlaylistColumn::Time};
-
 }  // namespace
 
 TCBrevantView::TCBrevantView(QWidget* parent)
-    : QTableView(parent), playlistModel(new TCPlaylistModel(this)), columnHeader(new TCPlaylistHeader(this)) {
+    : QTableView(parent),
+      playlistModel(new TCPlaylistModel(this)),
+      columnHeader(new TCPlaylistHeader(this)),
+      columns(*this, *columnHeader, *playlistModel) {
   setObjectName(QStringLiteral("playlistView"));
   setAccessibleName(QStringLiteral("Playlist"));
   setModel(playlistModel);
@@ -61,17 +56,7 @@ TCBrevantView::TCBrevantView(QWidget* parent)
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->hide();
 
-  // Qt's own answer to a double-click on a column's edge reads the rows in sight only.
-  disconnect(columnHeader, &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
-  connect(columnHeader, &QHeaderView::sectionHandleDoubleClicked, this, [this](int section) {
-    columnWidths.Release(static_cast<TCPlaylistColumn>(section));
-    FitColumns();
-  });
-  connect(columnHeader, &QHeaderView::sectionResized, this, [this](int section, int, int newSize) {
-    if (fittingColumns) return;
-    columnWidths.SetByUser(static_cast<TCPlaylistColumn>(section), newSize);
-    FitColumns();
-  });
+  columns.FollowUser();
   // The last header is cut where the window ends, which is another place after a scroll.
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, columnHeader->viewport(),
           qOverload<>(&QWidget::update));
@@ -100,12 +85,11 @@ void TCBrevantView::SetBackground(const QColor& text, const QColor& background) 
 }
 
 void TCBrevantView::SaveColumnWidths(QSettings& settings) const {
-  columnWidths.Save(settings);
+  columns.Save(settings);
 }
 
 void TCBrevantView::LoadColumnWidths(const QSettings& settings) {
-  columnWidths.Load(settings);
-  FitColumns();
+  columns.Load(settings);
 }
 
 void TCBrevantView::ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) {
@@ -114,11 +98,11 @@ void TCBrevantView::ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) {
   if (mode == TCShowRows::Afresh) {
     rowKeptInView = -1;
     scrollToTop();
-    for (const TCPlaylistColumn column : kTextColumns) columnWidths.SetNeeded(column, 0);
-    MeasureHeaders();
+    columns.MeasureAfresh();
+  } else {
+    columns.MeasureRows();
   }
-  MeasureRows();
-  FitColumns();
+  columns.Fit();
 }
 
 void TCBrevantView::SetRowColours(std::vector<TCRowColours> colours) {
@@ -129,21 +113,21 @@ void TCBrevantView::SetRowColours(std::vector<TCRowColours> colours) {
 void TCBrevantView::SetRowTexts(std::int32_t row, const TCRowTexts& texts) {
   playlistModel->SetTexts(row, texts);
   if (!playlistModel->HasRow(row)) return;
-  MeasureRow(playlistModel->Rows()[static_cast<std::size_t>(row)]);
-  FitColumns();
+  columns.MeasureRow(row);
+  columns.Fit();
 }
 
 void TCBrevantView::SetRowTime(std::int32_t row, std::u16string_view time) {
   if (time.empty() || !playlistModel->HasRow(row)) return;
   playlistModel->SetTime(row, time);
-  MeasureRow(playlistModel->Rows()[static_cast<std::size_t>(row)]);
-  FitColumns();
+  columns.MeasureRow(row);
+  columns.Fit();
 }
 
 void TCBrevantView::SetPlaylistHeader(std::u16string_view text) {
   playlistModel->SetNameHeader(ToQString(text));
-  MeasureHeaders();
-  FitColumns();
+  columns.MeasureHeaders();
+  columns.Fit();
 }
 
 void TCBrevantView::ClearRows() {
@@ -276,7 +260,7 @@ void TCBrevantView::keyPressEvent(QKeyEvent* event) {
 void TCBrevantView::resizeEvent(QResizeEvent* event) {
   const bool keepRow = !event->oldSize().isValid() || IsInView(rowKeptInView, event->oldSize().height());
   QTableView::resizeEvent(event);
-  FitColumns();
+  columns.Fit();
   if (keepRow && playlistModel->HasRow(rowKeptInView)) scrollTo(playlistModel->index(rowKeptInView, 0));
 }
 
@@ -301,87 +285,14 @@ bool TCBrevantView::IsInView(std::int32_t row, int viewHeight) const {
 }
 
 void TCBrevantView::FitToFont() {
-  measuredTexts.clear();
-  const QFontMetrics metrics(font(), this);
-  int widest = 0;
-  for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
-    const int width = metrics.horizontalAdvance(QChar(digit));
-    if (width > widest) widestDigit = QChar(digit);
-    widest = std::max(widest, width);
-  }
-
-  const int line = metrics.height();
+  const int line = QFontMetrics(font(), this).height();
   const int picture = std::clamp(line * 3 / 4, kSmallPicture, kLargestPicture);
   setIconSize({picture, picture});
-  columnWidths.SetNeeded(TCPlaylistColumn::Picture, picture + kPictureMargins);
-  const int rowHeight = std::max(line + std::max(4, line / 6), picture + 2);
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(rowHeight);
-  {
-    // Widens columns that are narrower, which is not the user's doing.
-    const QScopedValueRollback<bool> guard(fittingColumns, true);
-    columnHeader->setMinimumSectionSize(
-        std::max(kSmallPicture + kPictureMargins, widest + columnHeader->TextMargins()));
-  }
-
-  for (const TCPlaylistColumn column : kTextColumns) columnWidths.SetNeeded(column, 0);
-  MeasureHeaders();
-  MeasureRows();
+  verticalHeader()->setDefaultSectionSize(std::max(line + std::max(4, line / 6), picture + 2));
+  columns.MeasureInFont(picture + kPictureMargins);
   updateGeometries();
-  FitColumns();
-}
-
-void TCBrevantView::MeasureRows() {
-  for (const TCPlaylistRow& row : playlistModel->Rows()) MeasureRow(row);
-}
-
-void TCBrevantView::MeasureRow(const TCPlaylistRow& row) {
-  for (const TCPlaylistColumn column : kTextColumns) {
-    MakeRoomFor(column, ToQString(TCPlaylistModel::TextIn(row, column)));
-  }
-}
-
-void TCBrevantView::MeasureHeaders() {
-  for (const TCPlaylistColumn column : kTextColumns) {
-    const QString text =
-        playlistModel->headerData(static_cast<int>(column), Qt::Horizontal, Qt::DisplayRole).toString();
-    MakeRoomFor(column, text);
-  }
-}
-
-void TCBrevantView::MakeRoomFor(TCPlaylistColumn column, const QString& text) {
-  columnWidths.MakeRoomFor(column, CellWidthOf(text), columnHeader->GapBetweenTexts());
-}
-
-void TCBrevantView::FitColumns() {
-  if (fittingColumns) return;
-  const QScopedValueRollback<bool> guard(fittingColumns, true);
-  int others = 0;
-  for (int column = 0; column < kPlaylistColumns - 1; ++column) {
-    const int width = columnWidths.Of(static_cast<TCPlaylistColumn>(column));
-    if (columnHeader->sectionSize(column) != width) columnHeader->resizeSection(column, width);
-    others += columnHeader->sectionSize(column);
-  }
-  // The names take what is left, and the header's total is never cut off for want of a wider column.
-  const int name = static_cast<int>(TCPlaylistColumn::Name);
-  const QString headerText = playlistModel->headerData(name, Qt::Horizontal, Qt::DisplayRole).toString();
-  columnWidths.SetNeeded(TCPlaylistColumn::Name,
-                         std::max(viewport()->width() - others, CellWidthOf(headerText)));
-  const int nameWidth = columnWidths.Of(TCPlaylistColumn::Name);
-  if (columnHeader->sectionSize(name) != nameWidth) columnHeader->resizeSection(name, nameWidth);
-}
-
-int TCBrevantView::CellWidthOf(const QString& text) {
-  QString shape = text.left(kLongestMeasuredText);
-  for (QChar& character : shape) {
-    if (character >= QLatin1Char('0') && character <= QLatin1Char('9')) character = widestDigit;
-  }
-  const auto known = measuredTexts.constFind(shape);
-  if (known != measuredTexts.constEnd()) return *known;
-  if (measuredTexts.size() >= kMostMeasuredTexts) measuredTexts.clear();
-  const int width = QFontMetrics(font(), this).horizontalAdvance(shape) + columnHeader->TextMargins();
-  measuredTexts.insert(shape, width);
-  return width;
+  columns.Fit();
 }
 
 }  // namespace brevant

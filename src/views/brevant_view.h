@@ -4,22 +4,17 @@
 #pragma once
 
 #include <QColor>
-#include <QHash>
 #include <QIcon>
 #include <QPoint>
 #include <QSettings>
-#include <QString>
 #include <QTableView>
 #include <QTimer>
 #include <vector>
 
 #include "document/playlist_display.h"
-#include "views/column_widths.h"
+#include "views/column_fitter.h"
 
 namespace brevant {
-
-class TCPlaylistHeader;
-class TCPlaylistModel;
 
 class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   Q_OBJECT
@@ -75,24 +70,14 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   [[nodiscard]] bool IsInView(std::int32_t row, int viewHeight) const;
 
   void FitToFont();
-  void MeasureRows();
-  void MeasureRow(const TCPlaylistRow& row);
-  void MeasureHeaders();
-  void MakeRoomFor(TCPlaylistColumn column, const QString& text);
-  void FitColumns();
-  [[nodiscard]] int CellWidthOf(const QString& text);
 
   TCPlaylistModel* playlistModel = nullptr;  // a child, as the next one
   TCPlaylistHeader* columnHeader = nullptr;
-  TCColumnWidths columnWidths;
-  QHash<QString, int>
-      measuredTexts;  // pixels of a cell in the present font; every digit counts as the widest
-  QChar widestDigit = QLatin1Char('0');
+  TCColumnFitter columns;
   QTimer pollTimer{this};
   int pollTicks = 0;                // 0 to 2
   std::int32_t rowKeptInView = -1;  // stays in view while window or font changes, unless scrolled away
   bool dragDropped = false;         // the mouse does nothing more until its button is pressed anew
-  bool fittingColumns = false;      // columns change width by our doing, not the user's
 };
 
 }  // namespace brevant
