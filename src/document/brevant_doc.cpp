@@ -3,8 +3,11 @@
 #include <array>
 #include <utility>
 
+#include "document/add_play_items.h"
 #include "document/option_prompts.h"
 #include "document/recovery_copy.h"
+#include "document/song_properties.h"
+#include "text/case_folding.h"
 #include "text/numbers.h"
 #include "text/path_parts.h"
 
@@ -14,21 +17,30 @@ namespace {
 
 struct OptionCommand {
   TCCommandId command;
-  bool TCSettings::*option;
+  bool (*isOn)(const TCSettings&);
+  void (*invert)(TCSettings&);
 };
+
+template <auto Option>
+constexpr OptionCommand Toggle(TCCommandId command) {
+  return {command, [](const TCSettings& settings) { return static_cast<bool>(settings.*Option); },
+          [](TCSettings& settings) { settings.*Option = !(settings.*Option); }};
+}
 
 // Commands that do nothing but turn an option on or off.
 constexpr std::array kOptionCommands = {
-    OptionCommand{TCCommandId::AutoSongAdvance, &TCSettings::autoSongAdvance},
-    OptionCommand{TCCommandId::AutoPlayPlayList, &TCSettings::autoPlayPlayList},
-    OptionCommand{TCCommandId::AutoRecycle, &TCSettings::autoRecycle},
-    OptionCommand{TCCommandId::WhiteOnBlack, &TCSettings::whiteOnBlack},  // with two colours that follow it
-    OptionCommand{TCCommandId::DynamicPlayColours, &TCSettings::dynamicPlayColours},
-    OptionCommand{TCCommandId::ImmediatePlay, &TCSettings::immediatePlay},
-    OptionCommand{TCCommandId::PlaylistManagerImmediatePlay, &TCSettings::playlistManagerImmediatePlay},
-    OptionCommand{TCCommandId::FoldersSaveFormat, &TCSettings::foldersSaveFormat},
-    OptionCommand{TCCommandId::LoadLastFile, &TCSettings::loadLastFileOnProgramRun},
-    OptionCommand{TCCommandId::Reset, &TCSettings::resetPending},
+    Toggle<&TCSettings::autoSongAdvance>(TCCommandId::AutoSongAdvance),
+    Toggle<&TCSettings::autoPlayPlayList>(TCCommandId::AutoPlayPlayList),
+    Toggle<&TCSettings::autoRecycle>(TCCommandId::AutoRecycle),
+    Toggle<&TCSettings::whiteOnBlack>(TCCommandId::WhiteOnBlack),  // with two colours that follow it
+    Toggle<&TCSettings::dynamicPlayColours>(TCCommandId::DynamicPlayColours),
+    Toggle<&TCSettings::immediatePlay>(TCCommandId::ImmediatePlay),
+    Toggle<&TCSettings::playlistManagerImmediatePlay>(TCCommandId::PlaylistManagerImmediatePlay),
+    Toggle<&TCSettings::confirmFileRemove>(TCCommandId::ConfirmFileRemove),
+    Toggle<&TCSettings::disableEditing>(TCCommandId::DisableEditing),
+    Toggle<&TCSettings::foldersSaveFormat>(TCCommandId::FoldersSaveFormat),
+    Toggle<&TCSettings::loadLastFileOnProgramRun>(TCCommandId::LoadLastFile),
+    Toggle<&TCSettings::resetPending>(TCCommandId::Reset),
 };
 
 const OptionCommand* OptionOf(TCCommandId command) {
@@ -43,10 +55,20 @@ const OptionCommand* OptionOf(TCCommandId command) {
 TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
     : parts(std::move(documentParts)),
       documentFile(parts.files, parts.record.setLists, parts.messages),
-      presenter(parts.record, parts.playlistView),
+      presenter(parts.record, parts.playlistView, parts.treeView),
+      tree(parts.record.setLists, parts.treeView),
+      editor(EditParts()),
+      mover(EditParts()),
+      placement(EditParts(), editor),
       transport({parts.record, parts.files, presenter, parts.messages, parts.player, parts.lengthProbe,
                  parts.repeatFields}),
       volumeAndSeek(parts.record.settings, parts.player, parts.repeatFields) {}
+
+TCEditParts TCBrevantDoc::EditParts() {
+  return {parts.record,   parts.files,        tree,
+          presenter,      parts.playlistView, parts.frame,
+          parts.messages, parts.prompts,      [this] { SetModified(); }};
+}
 
 bool TCBrevantDoc::OnNewDocument() {
   pathName.clear();
@@ -62,6 +84,7 @@ bool TCBrevantDoc::OnOpenDocument(std::u16string_view path) {
   modified = false;
   ClearViewsAndStore();
   if (documentFile.OpenSetListDocument(pathName)) {
+    tree.BuildAll();
     parts.record.setLists.RecalcAllTotalTimes();
     presenter.ShowPlaylist(parts.record.setLists.currentGroup, parts.record.setLists.currentPlaylist);
   }
@@ -89,6 +112,7 @@ void TCBrevantDoc::KeepUnsavedChanges() {
 void TCBrevantDoc::ClearViewsAndStore() {
   if (transport.TimeRun().Pending()) parts.frame.ShowStatus({});  // how far it had come
   presenter.Clear();
+  tree.Clear();
   parts.record.setLists.ClearSetLists();
   transport.ForgetSong();
 }
@@ -146,6 +170,24 @@ const TCBrevantDoc::Handler* TCBrevantDoc::HandlerOf(TCCommandId command) {
       Handler{Id::Cancel, [](Doc& doc) { doc.Cancel(); }},
       Handler{Id::ClearInformation, [](Doc& doc) { doc.parts.messages.Clear(); }},
 
+      Handler{Id::CreateGroupList, [](Doc& doc) { doc.editor.AskForGroup(); }},
+      Handler{Id::NewGroupFolder, [](Doc& doc) { doc.editor.CreateGroup(TextOf(TCTextId::NewGroupFolder)); }},
+      Handler{Id::CreatePlaylist, [](Doc& doc) { doc.editor.AskForPlaylist(); }},
+      Handler{Id::NewPlaylistFolder,
+              [](Doc& doc) { doc.editor.CreatePlaylist(TextOf(TCTextId::NewPlaylistFolder)); }},
+      Handler{Id::AddSongs, [](Doc& doc) { doc.AddSongs(); }},
+      Handler{Id::Rename, [](Doc& doc) { doc.editor.AskForNewName(); }},
+      Handler{Id::Remove, [](Doc& doc) { doc.Remove(); }},
+      Handler{Id::SongProperties, [](Doc& doc) { doc.ShowSongProperties(); }},
+      Handler{Id::Copy, [](Doc& doc) { doc.Copy(); }},
+      Handler{Id::Paste, [](Doc& doc) { doc.placement.Paste(); }},
+      Handler{Id::Duplicate, [](Doc& doc) { doc.mover.Duplicate(); }},
+      Handler{Id::SelectSongToMove, [](Doc& doc) { doc.mover.SelectSongToMove(); }},
+      Handler{Id::MoveSongUp, [](Doc& doc) { doc.mover.MoveSongUp(); }},
+      Handler{Id::MoveSongDown, [](Doc& doc) { doc.mover.MoveSongDown(); }},
+      Handler{Id::ShowTreeSelection, [](Doc& doc) { doc.ShowTreeSelection(); }},
+      Handler{Id::FocusPlaylistManager, [](Doc& doc) { doc.parts.treeView.TakeFocus(); }},
+
       Handler{Id::Play, [](Doc& doc) { doc.transport.Play(); }},
       Handler{Id::Stop, [](Doc& doc) { doc.transport.Stop(); }},
       Handler{Id::PauseContinue, [](Doc& doc) { doc.transport.PauseContinue(); }},
@@ -181,7 +223,7 @@ bool TCBrevantDoc::Handles(TCCommandId command) {
 
 bool TCBrevantDoc::IsChecked(TCCommandId command) const {
   const OptionCommand* entry = OptionOf(command);
-  return entry != nullptr && parts.record.settings.*entry->option;
+  return entry != nullptr && entry->isOn(parts.record.settings);
 }
 
 bool TCBrevantDoc::OnCommand(TCCommandId command) {
@@ -198,9 +240,8 @@ bool TCBrevantDoc::OnCommand(TCCommandId command) {
 }
 
 void TCBrevantDoc::ToggleOption(TCCommandId command) {
-  bool TCSettings::*option = OptionOf(command)->option;
   TCSettings& settings = parts.record.settings;
-  settings.*option = !(settings.*option);
+  OptionOf(command)->invert(settings);
   if (command == TCCommandId::WhiteOnBlack) settings.SetWhiteOnBlack(settings.whiteOnBlack);
   parts.frame.ShowOptions();
   if (command == TCCommandId::WhiteOnBlack || command == TCCommandId::DynamicPlayColours)
@@ -248,6 +289,8 @@ void TCBrevantDoc::FileOpen() {
 }
 
 void TCBrevantDoc::Cancel() {
+  placement.Cancel();
+  parts.treeView.ResetMouseState();
   parts.playlistView.ResetMouseState();
   transport.CancelPending();
   parts.frame.ShowStatus({});
@@ -256,6 +299,80 @@ void TCBrevantDoc::Cancel() {
 
 void TCBrevantDoc::PickRow(std::int32_t row) {
   transport.SelectSong(row, TCSelect::MayPlay);
+}
+
+void TCBrevantDoc::MakePlaylistCurrent(TCPlaylistPosition playlist) {
+  transport.SelectPlaylist(playlist.group, playlist.playlist);
+}
+
+void TCBrevantDoc::PickNode(TCTreeNode node) {
+  const TCNodeEntry entry = tree.EntryOf(node);
+  if (entry.kind != TCNodeKind::Playlist && entry.kind != TCNodeKind::Song) return;
+  MakePlaylistCurrent(entry.Playlist());
+  if (entry.kind == TCNodeKind::Playlist) return;
+  transport.SelectSong(entry.song, parts.record.settings.playlistManagerImmediatePlay ? TCSelect::MayPlay
+                                                                                      : TCSelect::Silently);
+}
+
+void TCBrevantDoc::EnterOnNode() {
+  const TCTreeNode node = parts.treeView.SelectedNode();
+  const TCNodeKind kind = tree.KindOf(node);
+  if (kind != TCNodeKind::Playlist && kind != TCNodeKind::Song) return;
+  parts.treeView.ExpandNode(kind == TCNodeKind::Song ? parts.treeView.ParentOf(node) : node);
+  PickNode(node);
+}
+
+void TCBrevantDoc::ShowTreeSelection() {
+  const TCNodeEntry entry = tree.SelectedEntry();
+  const TCPlayList* playlist = PlaylistAt(parts.record.setLists, entry.Playlist());
+  if (playlist == nullptr) return;
+  parts.treeView.SelectNode(playlist->treeNode);
+  MakePlaylistCurrent(entry.Playlist());
+}
+
+void TCBrevantDoc::DropRowsOnPlaylist() {
+  if (const TCPlayList* current = parts.record.setLists.CurrentPlaylist()) {
+    parts.treeView.SelectNode(current->treeNode);
+  }
+  mover.CopySelectedRowsToNode();
+}
+
+void TCBrevantDoc::DropFiles(std::vector<std::u16string> paths) {
+  for (const std::u16string& path : paths) {
+    if (ToLower(ExtensionPart(path)) == TextOf(TCTextId::DocumentExtension)) return OpenDocumentFile(path);
+  }
+  if (!paths.empty()) placement.SetPendingFiles(std::move(paths));
+}
+
+void TCBrevantDoc::AddSongs() {
+  TCAddPlayItems form(EditParts(), editor, placement);
+  if (parts.prompts.EditSetLists(form)) form.Accept();
+}
+
+void TCBrevantDoc::Copy() {
+  if (parts.treeView.HasFocus()) {
+    placement.CopySelectedNode();
+  } else {
+    placement.CopySelectedRows();
+  }
+}
+
+void TCBrevantDoc::Remove() {
+  if (parts.treeView.HasFocus() || parts.playlistView.SelectedRow() < 0) {
+    editor.RemoveSelectedNode();
+  } else {
+    editor.RemoveSelectedRows();
+  }
+}
+
+void TCBrevantDoc::ShowSongProperties() {
+  const std::int32_t row = parts.treeView.HasFocus() ? -1 : parts.playlistView.SelectedRow();
+  const TCPlaylistPosition current = parts.record.setLists.CurrentPosition();
+  const TCSongPosition song =
+      row < 0 ? tree.SelectedEntry().Song() : TCSongPosition{current.group, current.playlist, row};
+  if (SongAt(parts.record.setLists, song) == nullptr) return;
+  TCSongPropertiesForm form(EditParts(), song);
+  if (parts.prompts.EditSongProperties(form)) form.Apply();
 }
 
 }  // namespace brevant

@@ -5,10 +5,15 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "document/entry_mover.h"
 #include "document/frame_display.h"
 #include "document/playlist_presenter.h"
 #include "document/prompts.h"
+#include "document/set_list_editor.h"
+#include "document/song_placement.h"
+#include "document/tree_presenter.h"
 #include "model/app_record.h"
 #include "model/document_file.h"
 #include "model/message_display.h"
@@ -25,6 +30,7 @@ struct TCDocumentParts {
   TCFileSystem& files;
   TCPlayer* player = nullptr;  // null when there is none
   TCPlaylistDisplay& playlistView;
+  TCTreeDisplay& treeView;
   TCMessageDisplay& messages;
   TCFrameDisplay& frame;
   TCPrompts& prompts;
@@ -66,6 +72,28 @@ class TCBrevantDoc {
 
   // A row of the playlist was double-clicked (-1: none): it becomes current and may start.
   void PickRow(std::int32_t row);
+  // A row was dragged to the place of another.
+  void MoveRow(std::int32_t from, std::int32_t to) { mover.MoveRow(from, to); }
+
+  // A node of the tree was double-clicked: a playlist becomes current, and of a song its playlist and itself.
+  void PickNode(TCTreeNode node);
+  // Enter in the tree does the same for the selected node and opens its playlist.
+  void EnterOnNode();
+  // False when the name is blank or the node stands for nothing: what was typed stays on the screen alone.
+  bool RenameNode(TCTreeNode node, std::u16string_view name) { return editor.Rename(node, name); }
+  void MoveNode(TCTreeNode source, TCTreeNode target) { mover.Move(source, target); }
+
+  // Rows dragged with Ctrl were dropped: on the tree, whose selected node says where, or on the playlist
+  // itself.
+  void DropRowsOnTree() { mover.CopySelectedRowsToNode(); }
+  void DropRowsOnPlaylist();
+
+  // Files dropped on the window (model paths): a document among them is opened and ends the drop; songs wait
+  // for the click into the tree that places them.
+  void DropFiles(std::vector<std::u16string> paths);
+  // The click.
+  void PlacePendingFiles() { placement.PlacePendingFiles(); }
+
   // Every 300 ms.
   void OnPlayTimerTick();
 
@@ -92,6 +120,13 @@ class TCBrevantDoc {
   void FileNew();
   void FileOpen();
   void Cancel();
+  void AddSongs();
+  void Copy();
+  void Remove();
+  void ShowSongProperties();
+  void ShowTreeSelection();
+  void MakePlaylistCurrent(TCPlaylistPosition playlist);
+  [[nodiscard]] TCEditParts EditParts();
   // False when the user cancelled.
   bool Save();
   bool SaveAs();
@@ -99,6 +134,10 @@ class TCBrevantDoc {
   TCDocumentParts parts;
   TCDocumentFile documentFile;
   TCPlaylistPresenter presenter;
+  TCTreePresenter tree;
+  TCSetListEditor editor;
+  TCEntryMover mover;
+  TCSongPlacement placement;
   TCTransport transport;
   TCVolumeAndSeek volumeAndSeek;
   std::u16string pathName;

@@ -1,13 +1,15 @@
 #include "document/playlist_presenter.h"
 
 #include "model/play_marks.h"
+#include "model/set_list_edit.h"
 #include "resources/string_table.h"
 #include "text/numbers.h"
 
 namespace brevant {
 
-TCPlaylistPresenter::TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView)
-    : record(appRecord), view(playlistView) {}
+TCPlaylistPresenter::TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView,
+                                         TCTreeDisplay& treeView)
+    : record(appRecord), view(playlistView), tree(treeView) {}
 
 void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist) {
   const TCPlayList* shown = record.setLists.PlaylistAt(group, playlist);
@@ -15,9 +17,9 @@ void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist
   if (shown == nullptr || shown->items.empty()) return;
   record.setLists.RecordLastShownNames();
 
-  const bool sameAsBefore = group == shownGroup && playlist == shownPlaylist;
-  shownGroup = group;
-  shownPlaylist = playlist;
+  const TCPlaylistPosition position{group, playlist};
+  const bool sameAsBefore = position == record.setLists.shown;
+  record.setLists.shown = position;
   if (UpdatePlayMarks(record.setLists)) rowToMove = record.setLists.currentSong;
 
   std::vector<TCPlaylistRow> rows;
@@ -45,7 +47,7 @@ void TCPlaylistPresenter::Recolour() {
 
 void TCPlaylistPresenter::ShowColours() {
   // Of what stands on the screen: while an empty playlist is current that is the one before.
-  const TCPlayList* playlist = record.setLists.PlaylistAt(shownGroup, shownPlaylist);
+  const TCPlayList* playlist = PlaylistAt(record.setLists, record.setLists.shown);
   if (playlist == nullptr) return;
   std::vector<TCRowColours> colours;
   colours.reserve(playlist->items.size());
@@ -57,6 +59,7 @@ void TCPlaylistPresenter::HighlightCurrentSong() {
   Recolour();
   if (record.setLists.IsValidSongIndex(record.setLists.currentSong)) {
     view.ScrollToRow(record.setLists.currentSong);
+    tree.FollowNode(record.setLists.GetSongTreeNode(record.setLists.currentSong));
   }
 }
 
@@ -77,8 +80,7 @@ void TCPlaylistPresenter::FocusPlaylist() {
 }
 
 void TCPlaylistPresenter::Clear() {
-  shownGroup = -1;
-  shownPlaylist = -1;
+  record.setLists.shown = {};
   rowToMove = -1;
   view.ClearRows();
   view.SetPlaylistHeader(TextOf(TCTextId::PlayListColumn));

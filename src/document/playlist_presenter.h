@@ -7,6 +7,7 @@
 
 #include "document/frame_display.h"
 #include "document/playlist_display.h"
+#include "document/tree_display.h"
 #include "model/app_record.h"
 #include "playback/set_list_display.h"
 
@@ -14,7 +15,7 @@ namespace brevant {
 
 class TCPlaylistPresenter final : public TCSetListDisplay {
  public:
-  TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView);
+  TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView, TCTreeDisplay& treeView);
 
   void ShowPlaylist(std::int32_t group, std::int32_t playlist) override;
   void HighlightCurrentSong() override;
@@ -39,8 +40,7 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
 
   TCAppRecord& record;
   TCPlaylistDisplay& view;
-  std::int32_t shownGroup = -1;
-  std::int32_t shownPlaylist = -1;
+  TCTreeDisplay& tree;
   std::int32_t rowToMove = -1;
 };
 

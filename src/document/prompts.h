@@ -5,8 +5,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace brevant {
+
+class TCAddPlayItems;
+class TCSongPropertiesForm;
 
 enum class TCSaveAnswer { Save, Discard, Cancel };
 
@@ -25,6 +29,15 @@ struct TCTextPrompt {
   std::u16string text;          // what stands in the field at first
 };
 
+enum class TCChooseFiles { One, Several };
+
+struct TCMediaFileQuestion {
+  TCChooseFiles count = TCChooseFiles::Several;
+  std::vector<std::u16string> types;  // without dots; all others are hidden at first
+  std::u16string defaultType;         // may be empty
+  std::u16string initialPath;         // of the file chosen last; may be empty
+};
+
 class TCPrompts {
  public:
   virtual ~TCPrompts() = default;
@@ -38,6 +51,15 @@ class TCPrompts {
   [[nodiscard]] virtual std::optional<std::u16string> ChooseDocumentToOpen() = 0;
   [[nodiscard]] virtual std::optional<std::u16string> ChooseDocumentToSave(
       std::u16string_view suggestedPath) = 0;
+  // Model paths in the order of the chooser; none when the user cancelled.
+  [[nodiscard]] virtual std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion& question) = 0;
+
+  // A question with Yes and No; true is Yes.
+  [[nodiscard]] virtual bool ConfirmRemove(std::u16string_view question) = 0;
+
+  // The two larger dialogs show a form and work on it; true when they were closed with OK.
+  [[nodiscard]] virtual bool EditSetLists(TCAddPlayItems& form) = 0;
+  [[nodiscard]] virtual bool EditSongProperties(TCSongPropertiesForm& form) = 0;
 };
 
 }  // namespace brevant

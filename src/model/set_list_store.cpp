@@ -50,6 +50,7 @@ void TCSetListStore::ClearSetLists() {
   currentGroup = 0;
   currentPlaylist = 0;
   currentSong = 0;
+  shown = {};
 }
 
 std::int32_t TCSetListStore::FindGroupByName(std::u16string_view name) const {

@@ -12,6 +12,14 @@
 
 namespace brevant {
 
+// -1, -1 is none.
+struct TCPlaylistPosition {
+  std::int32_t group = -1;
+  std::int32_t playlist = -1;
+
+  [[nodiscard]] bool operator==(const TCPlaylistPosition&) const = default;
+};
+
 struct TCSetListStore {
   std::vector<TCPlayGroups> groups;  // in display order
 
@@ -20,6 +28,10 @@ struct TCSetListStore {
   std::int32_t currentGroup = 0;
   std::int32_t currentPlaylist = 0;
   std::int32_t currentSong = 0;
+
+  // The playlist whose songs stand in the view: not the current one while that has no songs. None before the
+  // first and when it was removed.
+  TCPlaylistPosition shown;
 
   // The path of the document last opened or saved, in three parts; the type is lower-cased by a save.
   std::u16string documentFileName;
@@ -34,12 +46,14 @@ struct TCSetListStore {
   std::u16string validMediaExtensions = u"mid mp3 wav wma";  // without dots, separated by blanks
   std::int32_t songLatencySeconds = 15;                      // the nominal gap between two songs of a set
 
-  // Drops all groups and sets the current position to 0, 0, 0.
+  // Drops all groups and sets the current position to 0, 0, 0; none is shown.
   void ClearSetLists();
 
   // Index of the first one whose name is equal but for upper and lower case; -1 when there is none.
   [[nodiscard]] std::int32_t FindGroupByName(std::u16string_view name) const;
   [[nodiscard]] static std::int32_t FindPlaylistByName(const TCPlayGroups& group, std::u16string_view name);
+
+  [[nodiscard]] TCPlaylistPosition CurrentPosition() const { return {currentGroup, currentPlaylist}; }
 
   // `group` and `playlist` name an existing playlist.
   [[nodiscard]] bool IsValidPlaylist(std::int32_t group, std::int32_t playlist) const;

@@ -113,6 +113,10 @@ bool TCTransport::StepPlaylist(const TCPlaylistStep& step) {
   return true;
 }
 
+void TCTransport::SelectPlaylist(std::int32_t group, std::int32_t playlist) {
+  StepPlaylist({store.IsValidPlaylist(group, playlist), group, playlist});
+}
+
 void TCTransport::SelectSong(std::int32_t index, TCSelect select) {
   if (!store.IsValidSongIndex(index)) return;
   store.currentSong = index;

@@ -54,6 +54,9 @@ class TCTransport {
   // False, with nothing changed, behind the last playlist of all.
   bool NextPlaylist();
   void PriorPlaylist();
+  // Makes a playlist current and shows it; the current song's number stays. A playlist that is not there
+  // does nothing.
+  void SelectPlaylist(std::int32_t group, std::int32_t playlist);
   // An index that names no song of the current playlist does nothing.
   void SelectSong(std::int32_t index, TCSelect select);
 

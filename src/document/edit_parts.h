@@ -1,0 +1,36 @@
+// What the commands that edit set lists share: everything they read, change and show. Handed by value; all of
+// it outlives them.
+#pragma once
+
+#include <functional>
+
+#include "document/frame_display.h"
+#include "document/playlist_presenter.h"
+#include "document/prompts.h"
+#include "document/tree_presenter.h"
+#include "model/app_record.h"
+#include "model/message_display.h"
+#include "text/file_system.h"
+
+namespace brevant {
+
+struct TCEditParts {
+  TCAppRecord& record;
+  TCFileSystem& files;
+  TCTreePresenter& tree;
+  TCPlaylistPresenter& playlist;
+  TCPlaylistDisplay& view;
+  TCFrameDisplay& frame;
+  TCMessageDisplay& messages;
+  TCPrompts& prompts;
+  std::function<void()> setModified;  // the set lists are not as they were saved any more
+
+  [[nodiscard]] TCSetListStore& Store() const { return record.setLists; }
+
+  // The songs of `touched` are not what they were: their total, and the view when it shows them or should.
+  void ShowChangedPlaylist(TCPlaylistPosition touched) const;
+  // The view shows the current playlist, whichever that is now.
+  void ShowCurrentPlaylist() const;
+};
+
+}  // namespace brevant

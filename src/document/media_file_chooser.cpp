@@ -1,0 +1,41 @@
+#include "document/media_file_chooser.h"
+
+#include "text/case_folding.h"
+#include "text/path_parts.h"
+#include "text/quoted_words.h"
+
+namespace brevant {
+
+TCMediaFileChooser::TCMediaFileChooser(TCAppRecord& appRecord, TCPrompts& userPrompts)
+    : record(appRecord), prompts(userPrompts) {}
+
+std::vector<std::u16string> TCMediaFileChooser::Choose(TCChooseFiles count) {
+  TCSettings& settings = record.settings;
+  std::vector<std::u16string> paths =
+      prompts.ChooseMediaFiles({count, SplitQuotedWords(ToLower(record.setLists.validMediaExtensions)),
+                                settings.lastMediaFileExtSpec, settings.lastMediaFileName});
+  if (paths.empty()) settings.lastMediaFileName.clear();
+  return paths;
+}
+
+std::u16string TCMediaFileChooser::ChooseSongs() {
+  const std::vector<std::u16string> paths = Choose(TCChooseFiles::Several);
+  if (paths.empty()) return {};
+  std::u16string text;
+  for (const std::u16string& path : paths) {
+    if (!text.empty()) text += u' ';
+    text += u'"' + path + u'"';
+  }
+  record.settings.lastMediaFileName = paths.front();
+  record.settings.lastMediaFileExtSpec = ExtensionPart(paths.front());
+  return text;
+}
+
+std::optional<std::u16string> TCMediaFileChooser::ChooseSong() {
+  const std::vector<std::u16string> paths = Choose(TCChooseFiles::One);
+  if (paths.empty()) return std::nullopt;
+  record.settings.lastMediaFileExtSpec = ExtensionPart(paths.front());
+  return paths.front();
+}
+
+}  // namespace brevant

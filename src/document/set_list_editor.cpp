@@ -1,0 +1,162 @@
+#include "document/set_list_editor.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "lyrics/lyric_file.h"
+#include "model/media_check.h"
+#include "resources/string_table.h"
+#include "text/path_parts.h"
+#include "text/white_space.h"
+
+namespace brevant {
+
+std::u16string CleanName(std::u16string_view typed) {
+  std::u16string name(typed);
+  std::erase(name, u'"');
+  return std::u16string(Trim(name));
+}
+
+TCSetListEditor::TCSetListEditor(const TCEditParts& editParts) : parts(editParts) {}
+
+bool TCSetListEditor::CreateGroup(std::u16string_view name) {
+  TCPlayGroups group;
+  group.name = CleanName(name);
+  if (group.name.empty()) return false;
+  TCSetListStore& store = parts.Store();
+  auto place = static_cast<std::int32_t>(store.groups.size());
+  if (parts.tree.Tree().SelectedNode() != TCTreeNode::None) {
+    const TCNodeEntry selected = parts.tree.SelectedEntry();
+    if (selected.kind == TCNodeKind::None) return false;
+    place = selected.group + 1;
+  }
+  InsertGroup(store, place, std::move(group));
+  parts.tree.AddGroupNode(place);
+  parts.setModified();
+  return true;
+}
+
+bool TCSetListEditor::CreatePlaylist(std::u16string_view name) {
+  TCPlayList playlist;
+  playlist.name = CleanName(name);
+  const TCNodeEntry selected = parts.tree.SelectedEntry();
+  if (playlist.name.empty() || selected.kind == TCNodeKind::None) return false;
+  TCSetListStore& store = parts.Store();
+  const auto count = static_cast<std::int32_t>(GroupAt(store, selected.group)->playlists.size());
+  const TCPlaylistPosition place{selected.group,
+                                 selected.kind == TCNodeKind::Group ? count : selected.playlist + 1};
+  InsertPlaylist(store, place, std::move(playlist));
+  parts.tree.AddPlaylistNode(place);
+  parts.setModified();
+  return true;
+}
+
+bool TCSetListEditor::AskForGroup() {
+  const auto name = parts.prompts.EnterText({TCTextPromptMode::CreateGroup,
+                                             TextOf(TCTextId::GroupNamePrompt),
+                                             TextOf(TCTextId::GroupNameExample),
+                                             {}});
+  return name && CreateGroup(*name);
+}
+
+bool TCSetListEditor::AskForPlaylist() {
+  if (parts.tree.SelectedEntry().kind == TCNodeKind::None) return false;
+  const auto name = parts.prompts.EnterText({TCTextPromptMode::CreateSetList,
+                                             TextOf(TCTextId::PlayListNamePrompt),
+                                             TextOf(TCTextId::PlayListNameExample),
+                                             {}});
+  return name && CreatePlaylist(*name);
+}
+
+bool TCSetListEditor::Rename(TCTreeNode node, std::u16string_view typed) {
+  const std::u16string name = CleanName(typed);
+  const TCNodeEntry entry = parts.tree.EntryOf(node);
+  if (name.empty()) return false;
+  TCSetListStore& store = parts.Store();
+  switch (entry.kind) {
+    case TCNodeKind::None:
+      return false;
+    case TCNodeKind::Group:
+      GroupAt(store, entry.group)->name = name;
+      break;
+    case TCNodeKind::Playlist:
+      PlaylistAt(store, entry.Playlist())->name = name;
+      parts.ShowChangedPlaylist(entry.Playlist());  // its name stands in the header
+      break;
+    case TCNodeKind::Song:
+      RenameSong(entry.Song(), name);
+      break;
+  }
+  parts.tree.Tree().SetNodeText(node, name);
+  parts.setModified();
+  return true;
+}
+
+void TCSetListEditor::RenameSong(TCSongPosition at, std::u16string_view name) {
+  TCPlayListItem& song = *SongAt(parts.Store(), at);
+  song.fileName = name;
+  song.extension = ExtensionPart(name);
+  CheckSongFile(parts.files, song);
+  song.lyrics = {};
+  LoadLyrics(parts.files, song.FullPath(), song.lyrics);
+  if (at.Playlist() == parts.Store().shown) parts.playlist.RefreshSongRow(at.song, song);
+}
+
+void TCSetListEditor::AskForNewName() {
+  const TCTreeNode node = parts.tree.Tree().SelectedNode();
+  if (parts.tree.EntryOf(node).kind == TCNodeKind::None) return;
+  const auto name =
+      parts.prompts.EnterText({TCTextPromptMode::Property, TextOf(TCTextId::RenamePrompt), {}, {}});
+  if (name) Rename(node, *name);
+}
+
+void TCSetListEditor::RemoveSelectedRows() {
+  TCSetListStore& store = parts.Store();
+  const TCPlaylistPosition current = store.CurrentPosition();
+  const std::vector<std::int32_t> rows = parts.view.SelectedRows();
+  std::vector<TCTreeNode> nodes;
+  for (const std::int32_t row : rows) nodes.push_back(store.GetSongTreeNode(row));
+  if (!RemoveSongs(store, current, rows)) return;
+  for (const TCTreeNode node : nodes) parts.tree.Tree().DeleteNode(node);
+  parts.ShowChangedPlaylist(current);
+  parts.view.ResetMouseState();
+  parts.setModified();
+}
+
+bool TCSetListEditor::UserWantsRemoved(const TCNodeEntry& entry) const {
+  if (!parts.record.settings.confirmFileRemove) return true;
+  std::u16string question(TextOf(TCTextId::RemoveQuestion));
+  question += u" ";
+  question += parts.tree.NameOf(entry);
+  return parts.prompts.ConfirmRemove(question);
+}
+
+void TCSetListEditor::RemoveSelectedNode() {
+  const TCTreeNode node = parts.tree.Tree().SelectedNode();
+  const TCNodeEntry asked = parts.tree.EntryOf(node);
+  if (asked.kind == TCNodeKind::None || !UserWantsRemoved(asked)) return;
+  // The tick goes on while the question stands there, and may have moved the entry's number.
+  const TCNodeEntry entry = parts.tree.EntryOf(node);
+  TCSetListStore& store = parts.Store();
+  const TCPlaylistPosition current = store.CurrentPosition();
+  parts.tree.Tree().DeleteNode(node);
+  switch (entry.kind) {
+    case TCNodeKind::None:
+      return;
+    case TCNodeKind::Group:
+      RemoveGroup(store, entry.group);
+      if (entry.group == current.group) parts.ShowCurrentPlaylist();
+      break;
+    case TCNodeKind::Playlist:
+      RemovePlaylist(store, entry.Playlist());
+      if (entry.Playlist() == current) parts.ShowCurrentPlaylist();
+      break;
+    case TCNodeKind::Song:
+      RemoveSong(store, entry.Song());
+      parts.ShowChangedPlaylist(entry.Playlist());
+      break;
+  }
+  parts.setModified();
+}
+
+}  // namespace brevant

@@ -1,0 +1,134 @@
+#include "document/song_placement.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "lyrics/lyric_file.h"
+#include "model/media_check.h"
+#include "resources/string_table.h"
+#include "text/numbers.h"
+#include "text/path_parts.h"
+#include "text/quoted_words.h"
+
+namespace brevant {
+
+namespace {
+
+std::u16string Quoted(std::u16string_view text) {
+  std::u16string quoted = u"\"";
+  quoted += text;
+  quoted += u'"';
+  return quoted;
+}
+
+std::u16string WaitingHint(std::size_t files) {
+  if (files == 0) return u"No dropped files to place, Esc to cancel";
+  return u"Click a playlist in the Play List Manager to place " +
+         FormatDecimal(static_cast<std::int64_t>(files)) + (files == 1 ? u" file" : u" files") +
+         u", Esc to cancel";
+}
+
+}  // namespace
+
+TCSongPlacement::TCSongPlacement(const TCEditParts& editParts, TCSetListEditor& setListEditor)
+    : parts(editParts), editor(setListEditor) {}
+
+void TCSongPlacement::CopySelectedRows() {
+  const std::vector<std::int32_t> rows = parts.view.SelectedRows();
+  if (rows.empty()) return;
+  copyText.clear();
+  for (const std::int32_t row : rows) {
+    if (const TCPlayListItem* song = parts.Store().SongAt(row)) copyText += Quoted(song->FullPath());
+  }
+}
+
+void TCSongPlacement::CopySelectedNode() {
+  const TCNodeEntry entry = parts.tree.SelectedEntry();
+  if (entry.kind != TCNodeKind::Song) return;
+  const std::u16string path = SongAt(parts.Store(), entry.Song())->FullPath();
+  if (!path.empty()) copyText = Quoted(path);
+}
+
+void TCSongPlacement::Paste() {
+  pendingText = copyText;
+  pending = true;
+  ShowPending();
+}
+
+void TCSongPlacement::SetPendingFiles(std::vector<std::u16string> paths) {
+  pendingFiles = std::move(paths);
+  pending = true;
+  ShowPending();
+}
+
+void TCSongPlacement::ShowPending() {
+  if (pending) {
+    parts.frame.ShowPlacing(TCPlacing::Waiting, WaitingHint(pendingFiles.size()));
+  } else {
+    parts.frame.ShowPlacing(TCPlacing::Nothing, {});
+  }
+}
+
+void TCSongPlacement::PlacePendingFiles() {
+  if (!pending || pendingFiles.empty()) return;
+  pending = false;
+  pendingText.clear();
+  ShowPending();
+  PlaceFiles(std::vector(pendingFiles));  // a prompt on the way leaves time for the next drop
+  parts.ShowCurrentPlaylist();
+}
+
+void TCSongPlacement::Cancel() {
+  pendingText.clear();
+  pendingFiles.clear();
+  pending = false;
+  ShowPending();
+}
+
+void TCSongPlacement::PlaceText(std::u16string_view text) {
+  std::vector<std::u16string> paths = SplitQuotedWords(text);
+  for (std::u16string& path : paths) std::replace(path.begin(), path.end(), u'/', u'\\');
+  PlaceFiles(paths);
+}
+
+void TCSongPlacement::PlaceFiles(const std::vector<std::u16string>& paths) {
+  if (paths.empty() || !MakeStoreReady()) return;
+  const auto placed =
+      std::find_if_not(paths.begin(), paths.end(),
+                       [this](const std::u16string& path) { return PlaceFile(path) == Placed::Yes; }) -
+      paths.begin();
+  // The last song placed is selected, and all of them went into its playlist.
+  if (placed > 0) parts.ShowChangedPlaylist(parts.tree.SelectedEntry().Playlist());
+}
+
+bool TCSongPlacement::MakeStoreReady() {
+  const std::vector<TCPlayGroups>& groups = parts.Store().groups;
+  if (groups.empty() && !editor.AskForGroup()) return false;
+  return !groups.front().playlists.empty() || editor.AskForPlaylist();
+}
+
+TCSongPlacement::Placed TCSongPlacement::PlaceFile(std::u16string_view path) {
+  if (parts.tree.SelectedEntry().kind == TCNodeKind::None) return Placed::No;
+  TCSetListStore& store = parts.Store();
+  TCPlayListItem song;
+  song.SetPath(path);
+  if (!IsValidMediaExtension(store, song.extension)) {
+    parts.messages.AppendMessage(TCTextId::InvalidMediaType, path);
+    return Placed::No;
+  }
+  if (parts.tree.SelectedEntry().kind == TCNodeKind::Group && !editor.AskForPlaylist()) return Placed::No;
+  const TCNodeEntry selected = parts.tree.SelectedEntry();
+  const TCPlayList* playlist = PlaylistAt(store, selected.Playlist());
+  if (playlist == nullptr) return Placed::No;
+  TCSongPosition place{selected.group, selected.playlist, selected.song + 1};
+  if (selected.kind == TCNodeKind::Playlist) place.song = static_cast<std::int32_t>(playlist->items.size());
+
+  CheckSongFile(parts.files, song);
+  LoadLyrics(parts.files, song.FullPath(), song.lyrics);
+  InsertSong(store, place, std::move(song));
+  parts.tree.AddSongNodes(place, 1);
+  parts.setModified();
+  return Placed::Yes;
+}
+
+}  // namespace brevant

@@ -1,0 +1,91 @@
+#include "document/song_properties.h"
+
+#include <algorithm>
+
+#include "document/set_list_editor.h"
+#include "lyrics/lyric_file.h"
+#include "model/media_check.h"
+#include "text/path_parts.h"
+
+namespace brevant {
+
+namespace {
+
+template <typename Entry>
+std::u16string FileOf(const Entry& entry) {
+  return std::u16string(std::u16string_view(entry.folder)) + entry.name + u"." + entry.extension;
+}
+
+// As the model holds folders: backslashes, one of them at the end. An empty folder stays empty.
+std::u16string CleanFolder(std::u16string_view typed) {
+  std::u16string folder = CleanName(typed);
+  std::replace(folder.begin(), folder.end(), u'/', u'\\');
+  if (!folder.empty() && folder.back() != u'\\') folder += u'\\';
+  return folder;
+}
+
+// Nothing of another file's lyrics stays.
+void ReadLyricsAgain(TCFileSystem& files, TCPlayListItem& song) {
+  song.lyrics = {};
+  LoadLyrics(files, song.FullPath(), song.lyrics);
+}
+
+}  // namespace
+
+TCSongPropertiesForm::TCSongPropertiesForm(const TCEditParts& editParts, TCSongPosition at)
+    : parts(editParts), position(at), chooser(parts.record, parts.prompts) {
+  TCSetListStore& store = parts.Store();
+  const TCPlayListItem* song = SongAt(store, position);
+  if (song == nullptr) return;
+  const TCPlayList& list = *PlaylistAt(store, position.Playlist());
+  songPath = std::u16string_view(song->folder);
+  songName = song->fileName;
+  songTime = song->time;
+  playlistName = FileOf(list);
+  groupName = FileOf(*GroupAt(store, position.group));
+  pathForAll = list.state2 != 0;
+  extensionForAll = list.state3 != 0;
+}
+
+void TCSongPropertiesForm::SetDir() {
+  if (const auto path = chooser.ChooseSong()) songPath = FolderPart(*path);
+}
+
+void TCSongPropertiesForm::Apply() {
+  TCPlayListItem* song = SongAt(parts.Store(), position);
+  if (song == nullptr) return;
+  TCPlayList& list = *PlaylistAt(parts.Store(), position.Playlist());
+  list.state2 = pathForAll ? 1 : 0;
+  list.state3 = extensionForAll ? 1 : 0;
+  ApplyToSong(*song);
+  if (pathForAll || extensionForAll) {
+    ApplyToAll(list, *song);
+    parts.ShowChangedPlaylist(position.Playlist());
+  } else {
+    parts.tree.RenameSongNode(*song);
+    if (position.Playlist() == parts.Store().shown) parts.playlist.RefreshSongRow(position.song, *song);
+  }
+  parts.setModified();
+}
+
+void TCSongPropertiesForm::ApplyToSong(TCPlayListItem& song) const {
+  song.folder = TCSharedText(CleanFolder(songPath));
+  if (std::u16string name = CleanName(songName); !name.empty()) song.fileName = std::move(name);
+  song.extension = ExtensionPart(song.fileName);
+  CheckSongFile(parts.files, song);
+  ReadLyricsAgain(parts.files, song);
+}
+
+void TCSongPropertiesForm::ApplyToAll(TCPlayList& list, const TCPlayListItem& song) {
+  // Copies: the song is one of those that change.
+  const std::u16string folder{std::u16string_view(song.folder)};
+  const std::u16string fileName = song.fileName;
+  if (pathForAll) SetFolderForAllSongs(parts.files, list, folder);
+  if (extensionForAll) SetExtensionForAllSongs(parts.files, list, fileName);
+  for (TCPlayListItem& item : list.items) {
+    ReadLyricsAgain(parts.files, item);
+    parts.tree.RenameSongNode(item);
+  }
+}
+
+}  // namespace brevant

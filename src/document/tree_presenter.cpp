@@ -1,0 +1,173 @@
+#include "document/tree_presenter.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace brevant {
+
+namespace {
+
+template <typename Entry>
+std::int32_t IndexOfNode(const std::vector<Entry>& list, TCTreeNode node) {
+  const auto found =
+      std::find_if(list.begin(), list.end(), [node](const Entry& entry) { return entry.treeNode == node; });
+  return found == list.end() ? -1 : static_cast<std::int32_t>(found - list.begin());
+}
+
+// Adds one node for each entry from `first` on, and hands each entry its own.
+template <typename Entry, typename TextOfEntry>
+void AddNodesFor(TCTreeDisplay& tree, TCTreeNode parent, std::vector<Entry>& list, std::size_t first,
+                 std::size_t count, const TextOfEntry& textOf) {
+  std::vector<std::u16string> texts;
+  texts.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) texts.push_back(textOf(list[first + i]));
+  const std::vector<TCTreeNode> nodes = tree.AddNodes(parent, first, std::move(texts));
+  for (std::size_t i = 0; i < count; ++i) {
+    list[first + i].treeNode = i < nodes.size() ? nodes[i] : TCTreeNode::None;
+  }
+}
+
+template <typename Entry>
+const std::u16string& NameOfEntry(const Entry& entry) {
+  return entry.name;
+}
+
+const std::u16string& FileNameOf(const TCPlayListItem& song) {
+  return song.fileName;
+}
+
+}  // namespace
+
+TCTreePresenter::TCTreePresenter(TCSetListStore& setLists, TCTreeDisplay& treeDisplay)
+    : store(setLists), tree(treeDisplay) {}
+
+void TCTreePresenter::Clear() {
+  tree.ClearNodes();
+}
+
+void TCTreePresenter::BuildAll() {
+  tree.ClearNodes();
+  AddNodesFor(tree, TCTreeNode::None, store.groups, 0, store.groups.size(), NameOfEntry<TCPlayGroups>);
+  for (TCPlayGroups& group : store.groups) AddPlaylistNodes(group);
+}
+
+void TCTreePresenter::AddPlaylistNodes(TCPlayGroups& group) {
+  AddNodesFor(tree, group.treeNode, group.playlists, 0, group.playlists.size(), NameOfEntry<TCPlayList>);
+  for (TCPlayList& playlist : group.playlists) AddAllSongNodes(playlist);
+}
+
+void TCTreePresenter::AddAllSongNodes(TCPlayList& playlist) {
+  AddNodesFor(tree, playlist.treeNode, playlist.items, 0, playlist.items.size(), FileNameOf);
+}
+
+bool TCTreePresenter::AddGroupNode(std::int32_t index) {
+  TCPlayGroups* group = GroupAt(store, index);
+  if (group == nullptr) return false;
+  AddNodesFor(tree, TCTreeNode::None, store.groups, static_cast<std::size_t>(index), 1,
+              NameOfEntry<TCPlayGroups>);
+  AddPlaylistNodes(*group);
+  tree.SelectNode(group->treeNode);
+  return true;
+}
+
+bool TCTreePresenter::AddPlaylistNode(TCPlaylistPosition at) {
+  TCPlayList* playlist = PlaylistAt(store, at);
+  if (playlist == nullptr) return false;
+  TCPlayGroups& group = *GroupAt(store, at.group);
+  AddNodesFor(tree, group.treeNode, group.playlists, static_cast<std::size_t>(at.playlist), 1,
+              NameOfEntry<TCPlayList>);
+  AddAllSongNodes(*playlist);
+  tree.SelectNode(playlist->treeNode);
+  return true;
+}
+
+bool TCTreePresenter::AddSongNodes(TCSongPosition first, std::int32_t count) {
+  const TCSongPosition last{first.group, first.playlist, first.song + count - 1};
+  if (count < 1 || SongAt(store, first) == nullptr || SongAt(store, last) == nullptr) return false;
+  TCPlayList& playlist = *PlaylistAt(store, first.Playlist());
+  AddNodesFor(tree, playlist.treeNode, playlist.items, static_cast<std::size_t>(first.song),
+              static_cast<std::size_t>(count), FileNameOf);
+  tree.SelectNode(SongAt(store, first)->treeNode);
+  return true;
+}
+
+void TCTreePresenter::RenameSongNode(const TCPlayListItem& song) {
+  tree.SetNodeText(song.treeNode, song.fileName);
+}
+
+void TCTreePresenter::MoveGroupNode(std::int32_t index) {
+  const TCPlayGroups* group = GroupAt(store, index);
+  if (group == nullptr) return;
+  tree.MoveNode(group->treeNode, TCTreeNode::None, static_cast<std::size_t>(index));
+  tree.SelectNode(group->treeNode);
+}
+
+void TCTreePresenter::MovePlaylistNode(TCPlaylistPosition at) {
+  const TCPlayList* playlist = PlaylistAt(store, at);
+  if (playlist == nullptr) return;
+  tree.MoveNode(playlist->treeNode, GroupAt(store, at.group)->treeNode,
+                static_cast<std::size_t>(at.playlist));
+  tree.SelectNode(playlist->treeNode);
+}
+
+void TCTreePresenter::MoveSongNode(TCSongPosition at) {
+  const TCPlayListItem* song = SongAt(store, at);
+  if (song == nullptr) return;
+  tree.MoveNode(song->treeNode, PlaylistAt(store, at.Playlist())->treeNode,
+                static_cast<std::size_t>(at.song));
+  tree.SelectNode(song->treeNode);
+}
+
+TCNodeKind TCTreePresenter::KindOf(TCTreeNode node) const {
+  if (node == TCTreeNode::None) return TCNodeKind::None;
+  const TCTreeNode parent = tree.ParentOf(node);
+  if (parent == TCTreeNode::None) return TCNodeKind::Group;
+  return tree.ParentOf(parent) == TCTreeNode::None ? TCNodeKind::Playlist : TCNodeKind::Song;
+}
+
+TCNodeEntry TCTreePresenter::EntryOf(TCTreeNode node) const {
+  switch (KindOf(node)) {
+    case TCNodeKind::None:
+      break;
+    case TCNodeKind::Group: {
+      const std::int32_t group = IndexOfNode(store.groups, node);
+      if (group >= 0) return {TCNodeKind::Group, group};
+      break;
+    }
+    case TCNodeKind::Playlist: {
+      const TCNodeEntry group = EntryOf(tree.ParentOf(node));
+      if (group.kind == TCNodeKind::None) break;
+      const std::int32_t playlist = IndexOfNode(GroupAt(store, group.group)->playlists, node);
+      if (playlist >= 0) return {TCNodeKind::Playlist, group.group, playlist};
+      break;
+    }
+    case TCNodeKind::Song: {
+      const TCNodeEntry playlist = EntryOf(tree.ParentOf(node));
+      if (playlist.kind == TCNodeKind::None) break;
+      const std::int32_t song = IndexOfNode(PlaylistAt(store, playlist.Playlist())->items, node);
+      if (song >= 0) return {TCNodeKind::Song, playlist.group, playlist.playlist, song};
+      break;
+    }
+  }
+  return {};
+}
+
+std::u16string TCTreePresenter::NameOf(const TCNodeEntry& entry) const {
+  switch (entry.kind) {
+    case TCNodeKind::None:
+      break;
+    case TCNodeKind::Group:
+      if (const TCPlayGroups* group = GroupAt(store, entry.group)) return group->name;
+      break;
+    case TCNodeKind::Playlist:
+      if (const TCPlayList* playlist = PlaylistAt(store, entry.Playlist())) return playlist->name;
+      break;
+    case TCNodeKind::Song:
+      if (const TCPlayListItem* song = SongAt(store, entry.Song())) return song->fileName;
+      break;
+  }
+  return {};
+}
+
+}  // namespace brevant

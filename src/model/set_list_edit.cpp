@@ -1,0 +1,182 @@
+#include "model/set_list_edit.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+namespace brevant {
+
+namespace {
+
+template <typename Entry>
+bool Holds(const std::vector<Entry>& list, std::int32_t index) {
+  return index >= 0 && static_cast<std::size_t>(index) < list.size();
+}
+
+template <typename Entry>
+bool HasRoomAt(const std::vector<Entry>& list, std::int32_t index) {
+  return index >= 0 && static_cast<std::size_t>(index) <= list.size();
+}
+
+template <typename Entry>
+Entry* At(std::vector<Entry>& list, std::int32_t index) {
+  return Holds(list, index) ? &list[static_cast<std::size_t>(index)] : nullptr;
+}
+
+template <typename Entry>
+Entry TakeOut(std::vector<Entry>& list, std::int32_t index) {
+  Entry entry = std::move(list[static_cast<std::size_t>(index)]);
+  list.erase(list.begin() + index);
+  return entry;
+}
+
+template <typename Entry>
+void PutIn(std::vector<Entry>& list, std::int32_t index, Entry entry) {
+  list.insert(list.begin() + index, std::move(entry));
+}
+
+// Where the entry at `index` is found after the change.
+constexpr std::int32_t AfterInsert(std::int32_t index, std::int32_t at) {
+  return index >= at ? index + 1 : index;
+}
+constexpr std::int32_t AfterRemove(std::int32_t index, std::int32_t at) {
+  return index > at ? index - 1 : index;
+}
+constexpr std::int32_t AfterMove(std::int32_t index, std::int32_t from, std::int32_t to) {
+  return index == from ? to : AfterInsert(AfterRemove(index, from), to);
+}
+
+void FollowRemovedPlaylist(TCPlaylistPosition& position, TCPlaylistPosition at) {
+  if (position.group == at.group) position.playlist = AfterRemove(position.playlist, at.playlist);
+}
+
+void FollowMovedPlaylist(TCPlaylistPosition& position, TCPlaylistPosition from, TCPlaylistPosition to) {
+  if (position == from) {
+    position = to;
+    return;
+  }
+  FollowRemovedPlaylist(position, from);
+  if (position.group == to.group) position.playlist = AfterInsert(position.playlist, to.playlist);
+}
+
+}  // namespace
+
+TCPlayGroups* GroupAt(TCSetListStore& store, std::int32_t group) {
+  return At(store.groups, group);
+}
+
+TCPlayList* PlaylistAt(TCSetListStore& store, TCPlaylistPosition at) {
+  return store.PlaylistAt(at.group, at.playlist);
+}
+
+TCPlayListItem* SongAt(TCSetListStore& store, TCSongPosition at) {
+  TCPlayList* playlist = PlaylistAt(store, at.Playlist());
+  return playlist == nullptr ? nullptr : At(playlist->items, at.song);
+}
+
+// An index that names no entry follows none, so "valid" is asked before each change.
+
+bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry) {
+  if (!HasRoomAt(store.groups, group)) return false;
+  if (Holds(store.groups, store.currentGroup)) store.currentGroup = AfterInsert(store.currentGroup, group);
+  if (Holds(store.groups, store.shown.group)) store.shown.group = AfterInsert(store.shown.group, group);
+  PutIn(store.groups, group, std::move(entry));
+  return true;
+}
+
+bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList entry) {
+  TCPlayGroups* group = GroupAt(store, at.group);
+  if (group == nullptr || !HasRoomAt(group->playlists, at.playlist)) return false;
+  if (store.currentGroup == at.group && Holds(group->playlists, store.currentPlaylist))
+    store.currentPlaylist = AfterInsert(store.currentPlaylist, at.playlist);
+  if (store.shown.group == at.group) store.shown.playlist = AfterInsert(store.shown.playlist, at.playlist);
+  PutIn(group->playlists, at.playlist, std::move(entry));
+  return true;
+}
+
+bool InsertSong(TCSetListStore& store, TCSongPosition at, TCPlayListItem entry) {
+  TCPlayList* playlist = PlaylistAt(store, at.Playlist());
+  if (playlist == nullptr || !HasRoomAt(playlist->items, at.song)) return false;
+  if (store.CurrentPosition() == at.Playlist() && store.IsValidSongIndex(store.currentSong))
+    store.currentSong = AfterInsert(store.currentSong, at.song);
+  PutIn(playlist->items, at.song, std::move(entry));
+  return true;
+}
+
+bool RemoveGroup(TCSetListStore& store, std::int32_t group) {
+  if (!Holds(store.groups, group)) return false;
+  if (store.shown.group == group) store.shown = {};
+  store.shown.group = AfterRemove(store.shown.group, group);
+  store.currentGroup = AfterRemove(store.currentGroup, group);
+  TakeOut(store.groups, group);
+  return true;
+}
+
+bool RemovePlaylist(TCSetListStore& store, TCPlaylistPosition at) {
+  if (PlaylistAt(store, at) == nullptr) return false;
+  if (store.shown == at) store.shown = {};
+  FollowRemovedPlaylist(store.shown, at);
+  TCPlaylistPosition current = store.CurrentPosition();
+  FollowRemovedPlaylist(current, at);
+  store.currentPlaylist = current.playlist;
+  TakeOut(GroupAt(store, at.group)->playlists, at.playlist);
+  return true;
+}
+
+bool RemoveSong(TCSetListStore& store, TCSongPosition at) {
+  return RemoveSongs(store, at.Playlist(), {at.song});
+}
+
+bool RemoveSongs(TCSetListStore& store, TCPlaylistPosition at, const std::vector<std::int32_t>& songs) {
+  TCPlayList* playlist = PlaylistAt(store, at);
+  if (playlist == nullptr) return false;
+  std::vector<TCPlayListItem>& items = playlist->items;
+  std::int32_t before = 0;  // removed ahead of the current song
+  auto next = songs.begin();
+  std::int32_t song = 0;
+  const auto removed = std::remove_if(items.begin(), items.end(), [&](const TCPlayListItem&) {
+    while (next != songs.end() && *next < song) ++next;
+    const bool goes = next != songs.end() && *next == song;
+    if (goes && song < store.currentSong) ++before;
+    ++song;
+    return goes;
+  });
+  if (removed == items.end()) return false;
+  items.erase(removed, items.end());
+  if (store.CurrentPosition() == at) store.currentSong -= before;
+  return true;
+}
+
+bool MoveGroup(TCSetListStore& store, std::int32_t from, std::int32_t to) {
+  if (!Holds(store.groups, from) || !Holds(store.groups, to)) return false;
+  if (Holds(store.groups, store.shown.group)) store.shown.group = AfterMove(store.shown.group, from, to);
+  if (store.currentGroup == from) store.currentGroup = to;
+  PutIn(store.groups, to, TakeOut(store.groups, from));
+  return true;
+}
+
+bool MovePlaylist(TCSetListStore& store, TCPlaylistPosition from, TCPlaylistPosition to) {
+  if (PlaylistAt(store, from) == nullptr || PlaylistAt(store, to) == nullptr) return false;
+  FollowMovedPlaylist(store.shown, from, to);
+  TCPlaylistPosition current = store.CurrentPosition();
+  FollowMovedPlaylist(current, from, to);
+  store.currentGroup = current.group;
+  store.currentPlaylist = current.playlist;
+  TCPlayList entry = TakeOut(GroupAt(store, from.group)->playlists, from.playlist);
+  PutIn(GroupAt(store, to.group)->playlists, to.playlist, std::move(entry));
+  return true;
+}
+
+bool MoveSong(TCSetListStore& store, TCSongPosition from, TCSongPosition to) {
+  if (SongAt(store, from) == nullptr || SongAt(store, to) == nullptr) return false;
+  const bool follows = store.CurrentPosition() == from.Playlist() && from.Playlist() == to.Playlist();
+  const std::int32_t current = follows ? AfterMove(store.currentSong, from.song, to.song) : store.currentSong;
+  TCPlayListItem entry = std::move(*SongAt(store, from));
+  RemoveSong(store, from);
+  InsertSong(store, to, std::move(entry));
+  if (follows) store.currentSong = current;
+  return true;
+}
+
+}  // namespace brevant
