@@ -16,6 +16,7 @@
 #include "views/playlist_row_delegate.h"
 #include "views/row_colours.h"
 #include "views/text_conversion.h"
+#include "views/under_pointer.h"
 
 namespace brevant {
 
@@ -51,6 +52,7 @@ TCBrevantView::TCBrevantView(QWidget* parent)
   setShowGrid(false);
   setFrameShape(NoFrame);
   setCornerButtonEnabled(false);
+  viewport()->setMouseTracking(true);
 
   // Rows are never measured one by one: with large playlists that takes seconds.
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -82,6 +84,15 @@ void TCBrevantView::SetBackground(const QColor& text, const QColor& background) 
   colours.setColor(QPalette::AlternateBase, background);
   colours.setColor(QPalette::Text, text);
   setPalette(colours);
+}
+
+void TCBrevantView::SetCursors(const TCStageCursors& stageCursors) {
+  cursors = stageCursors;
+}
+
+void TCBrevantView::SetPlacing(TCPlacing state) {
+  placing = state;
+  ShowPointer(TCPointer::Arrow);
 }
 
 void TCBrevantView::SaveColumnWidths(QSettings& settings) const {
@@ -191,8 +202,11 @@ void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points
 }
 
 void TCBrevantView::ResetMouseState() {
-  dragDropped = true;
+  const bool wasCopyDrag = drag.IsCopyDrag();
+  drag.Cancel();
   setState(NoState);
+  ShowPointer(TCPointer::Arrow);
+  if (wasCopyDrag) Q_EMIT ctrlDragEnded();
 }
 
 void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
@@ -204,20 +218,111 @@ void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
   horizontalScrollBar()->setValue(place);
 }
 
+QItemSelectionModel::SelectionFlags TCBrevantView::selectionCommand(const QModelIndex& index,
+                                                                    const QEvent* event) const {
+  if (event == nullptr || event->type() != QEvent::MouseButtonPress) {
+    return QTableView::selectionCommand(index, event);
+  }
+  // A press with Ctrl on a selected row may begin to drag the selection away, so it stays for now.
+  const auto* press = static_cast<const QMouseEvent*>(event);
+  const bool mayDrag = press->button() == Qt::LeftButton && press->modifiers() == Qt::ControlModifier;
+  return mayDrag && selectionModel()->isSelected(index) ? QItemSelectionModel::NoUpdate
+                                                        : QTableView::selectionCommand(index, event);
+}
+
 void TCBrevantView::mousePressEvent(QMouseEvent* event) {
-  dragDropped = false;
+  if (event->button() == Qt::LeftButton) {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    drag.Press(index.row(), event->modifiers(), selectionModel()->isSelected(index));
+    pressPlace = event->position().toPoint();
+  }
   QTableView::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton) {
+    ShowPointer(drag.PressedRow() >= 0 ? TCPointer::Pressed : TCPointer::Arrow);
+  }
   if (event->button() == Qt::RightButton) Q_EMIT contextMenuWanted(event->globalPosition().toPoint());
 }
 
 void TCBrevantView::mouseMoveEvent(QMouseEvent* event) {
-  if (dragDropped && event->buttons() != Qt::NoButton) return;
-  QTableView::mouseMoveEvent(event);
+  // With a button down the toolkit would select all rows on the way.
+  if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
+  if (event->buttons().testFlag(Qt::LeftButton)) {
+    MoveDrag(*event);
+  } else {
+    ShowPointer(drag.PointerOver(RowUnder(*event)));
+  }
+}
+
+void TCBrevantView::MoveDrag(const QMouseEvent& event) {
+  const int row = RowUnder(event);
+  const QPoint way = event.position().toPoint() - pressPlace;
+  // A click with an unsteady hand copies and moves nothing.
+  const bool isClick = row == drag.PressedRow() && way.manhattanLength() < QApplication::startDragDistance();
+  if (isClick && !drag.IsDragging()) return;
+  switch (drag.Move(row, event.modifiers())) {
+    case TCRowDrag::TCMoved::Nothing:
+      break;
+    case TCRowDrag::TCMoved::SelectsRow:
+      clearSelection();
+      SelectRow(row);
+      break;
+    case TCRowDrag::TCMoved::CopyDrags:
+      Q_EMIT ctrlDragMoved(event.globalPosition().toPoint());
+      break;
+  }
+  const bool overOtherPane = drag.IsCopyDrag() && !IsUnder(*viewport(), event.globalPosition().toPoint());
+  ShowPointer(overOtherPane ? TCPointer::Busy : drag.PointerOver(row));
+}
+
+void TCBrevantView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    QTableView::mouseReleaseEvent(event);
+    return;
+  }
+  // After a drag the toolkit would still take it for the end of a click.
+  if (drag.IsDragging()) {
+    setState(NoState);
+  } else {
+    QTableView::mouseReleaseEvent(event);
+  }
+  ReleaseDrag(*event);
+}
+
+void TCBrevantView::ReleaseDrag(const QMouseEvent& event) {
+  const int row = RowUnder(event);
+  const TCRowDrag::TCRelease release = drag.Release(row, event.modifiers());
+  ShowPointer(drag.PointerOver(row));
+  switch (release.what) {
+    case TCRowDrag::TCReleased::Nothing:
+      break;
+    case TCRowDrag::TCReleased::MovesRow:
+      Q_EMIT rowMoved(release.from, release.to);
+      break;
+    case TCRowDrag::TCReleased::DropsCopies:
+      Q_EMIT ctrlDragEnded();
+      Q_EMIT ctrlDragReleased(event.globalPosition().toPoint());
+      break;
+    case TCRowDrag::TCReleased::TogglesRow:
+      selectionModel()->select(playlistModel->index(row, 0),
+                               QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+      break;
+  }
+}
+
+int TCBrevantView::RowUnder(const QMouseEvent& event) const {
+  // While a button is down, positions outside of the view come in too.
+  if (!IsUnder(*viewport(), event.globalPosition().toPoint())) return -1;
+  return indexAt(event.position().toPoint()).row();
+}
+
+void TCBrevantView::ShowPointer(TCPointer pointer) {
+  viewport()->setCursor(cursors.Of(placing == TCPlacing::Waiting ? TCPointer::Busy : pointer));
 }
 
 void TCBrevantView::mouseDoubleClickEvent(QMouseEvent* event) {
   QTableView::mouseDoubleClickEvent(event);
   if (event->button() != Qt::LeftButton) return;
+  drag.Cancel();
   const std::int32_t row = SelectedRow();
   SelectRow(row);
   Q_EMIT rowPicked(row);

@@ -5,14 +5,18 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QItemSelectionModel>
 #include <QPoint>
 #include <QSettings>
 #include <QTableView>
 #include <QTimer>
 #include <vector>
 
+#include "document/frame_display.h"
 #include "document/playlist_display.h"
 #include "views/column_fitter.h"
+#include "views/row_drag.h"
+#include "views/stage_cursors.h"
 
 namespace brevant {
 
@@ -26,6 +30,10 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void SetRowPicture(const QIcon& picture);
   // Of the header and of what no row covers. The background follows the rows' own from then on.
   void SetBackground(const QColor& text, const QColor& background);
+
+  void SetCursors(const TCStageCursors& stageCursors);
+  // While placing waits the busy cursor shows, whatever the mouse does.
+  void SetPlacing(TCPlacing state);
 
   // Widths that the user dragged; the other columns follow the font.
   void SaveColumnWidths(QSettings& settings) const;
@@ -53,18 +61,32 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void pollDue();
   // A double-click: the selected row, or -1 when none is.
   void rowPicked(int row);
+  // The song of one row was dragged onto another.
+  void rowMoved(int from, int to);
+  // The selected songs are dragged with Ctrl, wherever the mouse goes, to be copied where they are dropped.
+  void ctrlDragMoved(QPoint globalPosition);
+  // That is over, dropped or given up; before ctrlDragReleased.
+  void ctrlDragEnded();
+  void ctrlDragReleased(QPoint globalPosition);
   // A press of the right button, or the keyboard's menu key.
   void contextMenuWanted(QPoint globalPosition);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(
+      const QModelIndex& index, const QEvent* event = nullptr) const override;
 
  private:
+  void MoveDrag(const QMouseEvent& event);
+  void ReleaseDrag(const QMouseEvent& event);
+  void ShowPointer(TCPointer pointer);
+  [[nodiscard]] int RowUnder(const QMouseEvent& event) const;
   void CountPollTick();
   void FollowBackgroundOf(const TCRowColours& colours);
   [[nodiscard]] bool IsInView(std::int32_t row, int viewHeight) const;
@@ -77,7 +99,10 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   QTimer pollTimer{this};
   int pollTicks = 0;                // 0 to 2
   std::int32_t rowKeptInView = -1;  // stays in view while window or font changes, unless scrolled away
-  bool dragDropped = false;         // the mouse does nothing more until its button is pressed anew
+  TCRowDrag drag;
+  QPoint pressPlace;
+  TCStageCursors cursors;
+  TCPlacing placing = TCPlacing::Nothing;
 };
 
 }  // namespace brevant
