@@ -33,6 +33,7 @@ class TCLineCounter final : public TCMessageDisplay {
   void Clear() override {}
   void Append(std::u16string_view) override { ++lines; }
   void SetLineRole(TCLineRole) override {}
+  void KeepFirstInView() override {}
 };
 
 // Of the current playlist.

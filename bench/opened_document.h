@@ -15,6 +15,7 @@ class TCNoMessages final : public TCMessageDisplay {
   void Clear() override {}
   void Append(std::u16string_view) override {}
   void SetLineRole(TCLineRole) override {}
+  void KeepFirstInView() override {}
 };
 
 struct TCOpenedDocument {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "document/playlist_presenter.h"
+#include "support/fake_tree.h"
 #include "views/brevant_view.h"
 
 namespace brevant {
@@ -50,13 +51,14 @@ void PaintOnce(TCBrevantView& view, QImage& picture) {
 
 void ShowTheFirstPlaylist(benchmark::State& state) {
   TCAppRecord record = RecordOfSongs();
+  TCFakeTree tree;
   QImage picture(1200, 800, QImage::Format_RGB32);
   for (auto _ : state) {
     state.PauseTiming();
     auto view = std::make_unique<TCBrevantView>();
     Prepare(*view, record.settings);
     PaintOnce(*view, picture);
-    TCPlaylistPresenter presenter(record, *view);
+    TCPlaylistPresenter presenter(record, *view, tree);
     state.ResumeTiming();
     presenter.ShowPlaylist(0, 0);
     PaintOnce(*view, picture);
@@ -68,10 +70,11 @@ void ShowTheFirstPlaylist(benchmark::State& state) {
 
 void ShowTheOtherPlaylist(benchmark::State& state) {
   TCAppRecord record = RecordOfSongs();
+  TCFakeTree tree;
   QImage picture(1200, 800, QImage::Format_RGB32);
   TCBrevantView view;
   Prepare(view, record.settings);
-  TCPlaylistPresenter presenter(record, view);
+  TCPlaylistPresenter presenter(record, view, tree);
   for (auto _ : state) {
     record.setLists.currentPlaylist = 1 - record.setLists.currentPlaylist;
     presenter.ShowPlaylist(0, record.setLists.currentPlaylist);
@@ -81,19 +84,21 @@ void ShowTheOtherPlaylist(benchmark::State& state) {
 
 void PaintWhatIsSeen(benchmark::State& state) {
   TCAppRecord record = RecordOfSongs();
+  TCFakeTree tree;
   QImage picture(1200, 800, QImage::Format_RGB32);
   TCBrevantView view;
   Prepare(view, record.settings);
-  TCPlaylistPresenter(record, view).ShowPlaylist(0, 0);
+  TCPlaylistPresenter(record, view, tree).ShowPlaylist(0, 0);
   for (auto _ : state) PaintOnce(view, picture);
 }
 
 void MakeTheNextSongCurrent(benchmark::State& state) {
   TCAppRecord record = RecordOfSongs();
+  TCFakeTree tree;
   QImage picture(1200, 800, QImage::Format_RGB32);
   TCBrevantView view;
   Prepare(view, record.settings);
-  TCPlaylistPresenter presenter(record, view);
+  TCPlaylistPresenter presenter(record, view, tree);
   presenter.ShowPlaylist(0, 0);
   for (auto _ : state) {
     record.setLists.currentSong = (record.setLists.currentSong + 1) % kSongs;

@@ -6,6 +6,7 @@
 #include "playback/transport.h"
 #include "support/fake_player.h"
 #include "support/fake_playlist_view.h"
+#include "support/fake_tree.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
 
@@ -48,7 +49,8 @@ class Stage {
   TCFakePlayer player;
   TCMessageLog messages;
   TCFakePlaylistView view;
-  TCPlaylistPresenter presenter{record, view};
+  TCFakeTree tree;
+  TCPlaylistPresenter presenter{record, view, tree};
   TCTransport transport{{record, files, presenter, messages, &player}};
 };
 

@@ -6,6 +6,7 @@
 #include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextCursor>
+#include <algorithm>
 
 #include "resources/string_table.h"
 #include "views/display_font.h"
@@ -62,7 +63,12 @@ void TCGeneralReportsTab::SetDisplayFont(const QString& face, int points, const 
   colours.setColor(QPalette::Text, text);
   setPalette(colours);
   normalText = RgbOf(text);
-  look = text.lightness() > background.lightness() ? TCPaneLook::WhiteOnBlack : TCPaneLook::BlackOnWhite;
+  Rebuild();
+}
+
+void TCGeneralReportsTab::SetLook(TCPaneLook newLook) {
+  if (newLook == look) return;
+  look = newLook;
   Rebuild();
 }
 
@@ -70,36 +76,43 @@ void TCGeneralReportsTab::Clear() {
   if (!ring.Enabled()) return;
   ring.Clear();
   role = TCLineRole::Normal;
+  firstInView = false;
   Rebuild();
 }
 
 void TCGeneralReportsTab::Append(std::u16string_view text) {
   if (!ring.Enabled()) return;
+  firstInView = false;
   ring.Append(text, role);
   AddToBox(std::u16string(text) + u"\r\n", role);
   while (blocksOfLine.size() > static_cast<std::size_t>(ring.Count())) DropOldestFromBox();
-  ScrollToNewest();
+  ScrollIntoView();
 }
 
 void TCGeneralReportsTab::SetLineRole(TCLineRole newRole) {
   role = newRole;
 }
 
+void TCGeneralReportsTab::KeepFirstInView() {
+  firstInView = true;
+  ScrollIntoView();
+}
+
 void TCGeneralReportsTab::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
-  ScrollToNewest();
+  ScrollIntoView();
 }
 
 void TCGeneralReportsTab::showEvent(QShowEvent* event) {
   QPlainTextEdit::showEvent(event);
-  ScrollToNewest();
+  ScrollIntoView();
 }
 
 void TCGeneralReportsTab::Rebuild() {
   clear();
   blocksOfLine.clear();
   for (const TCReportLine& line : ring.Lines()) AddToBox(line.text, line.role);
-  ScrollToNewest();
+  ScrollIntoView();
 }
 
 void TCGeneralReportsTab::AddToBox(std::u16string_view text, TCLineRole lineRole) {
@@ -119,9 +132,17 @@ void TCGeneralReportsTab::DropOldestFromBox() {
   blocksOfLine.pop_front();
 }
 
-void TCGeneralReportsTab::ScrollToNewest() {
+// Blank lines that stand above it are no loss.
+int TCGeneralReportsTab::FirstTextLine() const {
+  QTextBlock block = document()->firstBlock();
+  while (block.isValid() && block.text().isEmpty()) block = block.next();
+  return block.isValid() ? block.blockNumber() : 0;
+}
+
+void TCGeneralReportsTab::ScrollIntoView() {
   // Behind the newest line's end stands an empty one; in a low pane it would take the newest one's place.
-  verticalScrollBar()->setValue(verticalScrollBar()->maximum() - 1);
+  const int newest = verticalScrollBar()->maximum() - 1;
+  verticalScrollBar()->setValue(firstInView ? std::min(newest, FirstTextLine()) : newest);
   horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
 }
 

@@ -48,6 +48,10 @@ void TCKeyFilter::LetKeep(QWidget& widget, TCKeepsKey keeps) {
 }
 
 TCKeyVerdict TCKeyFilter::VerdictOn(const QKeyEvent& event, const QWidget* focus) const {
+  return DecideKey(PressOf(event, focus));
+}
+
+TCKeyPress TCKeyFilter::PressOf(const QKeyEvent& event, const QWidget* focus) const {
   const TCCommandActions::TCBoundCommand bound = actions.CommandOfKey(event.key(), event.modifiers());
   TCKeyPress press;
   press.key = event.key();
@@ -56,8 +60,27 @@ TCKeyVerdict TCKeyFilter::VerdictOn(const QKeyEvent& event, const QWidget* focus
   press.widgetKeepsIt = WidgetKeeps(focus, event);
   press.bound = bound.command != TCCommandId::None;
   press.held = heldKeys.IsHeld(event.key(), event.timestamp(), event.isAutoRepeat());
+  press.heldFromElsewhere = press.held && focus != nullptr && !PressedInWindowOf(*focus, event.key());
   press.commandRepeats = bound.repeats;
-  return DecideKey(press);
+  return press;
+}
+
+void TCKeyFilter::NotePlaceOf(const QWidget& receiver, const QKeyEvent& event) {
+  if (heldKeys.IsHeld(event.key(), event.timestamp(), event.isAutoRepeat())) return;
+  pressedIn[event.key()] = WindowOf(receiver);
+}
+
+bool TCKeyFilter::PressedInWindowOf(const QWidget& receiver, int key) const {
+  const auto pressed = pressedIn.find(key);
+  // The window may be gone by now.
+  return pressed != pressedIn.end() && pressed->second == WindowOf(receiver);
+}
+
+// The main window and its floating panes count as one.
+const QWidget* TCKeyFilter::WindowOf(const QWidget& widget) const {
+  const QWidget* window = widget.window();
+  const bool floats = window->windowType() == Qt::Tool && IsPartOf(mainWindow, window);
+  return floats ? &mainWindow : window;
 }
 
 TCKeyFilter::TCKeyPlace TCKeyFilter::PlaceOf(const QWidget& widget) const {
@@ -92,6 +115,7 @@ bool TCKeyFilter::eventFilter(QObject* receiver, QEvent* event) {
   auto& key = *static_cast<QKeyEvent*>(event);
   const int swallowed = std::exchange(swallowedKey, 0);
   if (event->type() == QEvent::KeyPress) return key.key() == swallowed;
+  NotePlaceOf(*widget, key);
   switch (PlaceOf(*widget)) {
     case TCKeyPlace::Elsewhere:
       return false;
@@ -134,8 +158,9 @@ bool TCKeyFilter::FilterOverride(const QWidget& receiver, QKeyEvent& event) {
 // The main window's shortcuts do not act in front of it, so what is the table's is fired from here.
 bool TCKeyFilter::FilterInDialog(const QWidget& receiver, QKeyEvent& event) {
   const QWidget* focus = receiver.window()->focusWidget();
-  if (FocusKind(focus) != TCKeyFocus::Typing) return false;
-  switch (VerdictOn(event, focus)) {
+  TCKeyPress press = PressOf(event, focus != nullptr ? focus : &receiver);
+  press.focus = TCKeyFocus::Typing;  // its buttons belong to the entry of a text as much as its field
+  switch (DecideKey(press)) {
     case TCKeyVerdict::Untouched:
     case TCKeyVerdict::Widget:
       return false;

@@ -1,6 +1,7 @@
 // Sees every key before it becomes a shortcut and says who has it: see key_rules.h. One for the application,
-// for the main window and its floating panes. A dialog keeps its keys to itself, but where text is typed into
-// one the function and media keys still perform the show; the window behind it has none at all.
+// for the main window and its floating panes. A dialog keeps its keys to itself, but the function and media
+// keys still perform the show, and nothing of the key that opened it reaches it; the window behind it has no
+// keys at all.
 #pragma once
 
 #include <QKeyEvent>
@@ -8,6 +9,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -34,6 +36,10 @@ class TCKeyFilter : public QObject {
   enum class TCKeyPlace { Elsewhere, MainWindow, BehindDialog, Dialog };
   [[nodiscard]] TCKeyPlace PlaceOf(const QWidget& widget) const;
   [[nodiscard]] bool WidgetKeeps(const QWidget* widget, const QKeyEvent& event) const;
+  [[nodiscard]] TCKeyPress PressOf(const QKeyEvent& event, const QWidget* focus) const;
+  void NotePlaceOf(const QWidget& receiver, const QKeyEvent& event);
+  [[nodiscard]] bool PressedInWindowOf(const QWidget& receiver, int key) const;
+  [[nodiscard]] const QWidget* WindowOf(const QWidget& widget) const;
   bool FilterOverride(const QWidget& receiver, QKeyEvent& event);
   bool FilterInDialog(const QWidget& receiver, QKeyEvent& event);
   bool Swallow(QKeyEvent& event);
@@ -42,6 +48,7 @@ class TCKeyFilter : public QObject {
   QWidget& mainWindow;
   std::vector<std::pair<QPointer<QWidget>, TCKeepsKey>> keepers;
   TCHeldKeys heldKeys;
+  std::map<int, QPointer<const QWidget>> pressedIn;  // the window in which each key went down last
   int swallowedKey = 0;  // its press, if one follows the swallowed shortcut, goes the same way
 };
 

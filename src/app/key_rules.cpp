@@ -40,8 +40,13 @@ TCKeyVerdict DecideOwner(const TCKeyPress& press) {
 
 TCKeyVerdict DecideKey(const TCKeyPress& press) {
   const TCKeyVerdict owner = DecideOwner(press);
-  const bool wouldActAgain = owner == TCKeyVerdict::Table && press.bound && press.held;
-  return wouldActAgain && !press.commandRepeats ? TCKeyVerdict::Swallow : owner;
+  if (owner == TCKeyVerdict::Table) {
+    const bool wouldActAgain = press.bound && press.held;
+    return wouldActAgain && !press.commandRepeats ? TCKeyVerdict::Swallow : owner;
+  }
+  // The press has opened or closed a window, and its repeats mean nothing to the one that is there now: they
+  // would be typed into a prompt, or press the button of a question.
+  return press.heldFromElsewhere ? TCKeyVerdict::Swallow : owner;
 }
 
 void TCHeldKeys::Released(int key, unsigned long time) {

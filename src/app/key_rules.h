@@ -18,10 +18,11 @@ struct TCKeyPress {
   int key = 0;  // Qt::Key
   Qt::KeyboardModifiers modifiers;
   TCKeyFocus focus = TCKeyFocus::Ordinary;
-  bool widgetKeepsIt = false;   // the focused widget has claimed this very key
-  bool bound = false;           // the key belongs to a command that exists
-  bool held = false;            // the key is down already and this is the keyboard repeating it
-  bool commandRepeats = false;  // the command may act again and again while its key is held
+  bool widgetKeepsIt = false;      // the focused widget has claimed this very key
+  bool bound = false;              // the key belongs to a command that exists
+  bool held = false;               // the key is down already and this is the keyboard repeating it
+  bool heldFromElsewhere = false;  // ... since it was pressed in another window
+  bool commandRepeats = false;     // the command may act again and again while its key is held
 };
 
 enum class TCKeyVerdict {

@@ -148,15 +148,27 @@ void TCMainFrame::ShowTitle(std::u16string_view name, TCModifiedMark modified) {
 }
 
 void TCMainFrame::ShowOptions() {
-  // Of the application, not of this window alone: menus and dialogs are windows of their own.
-  QApplication::setPalette(StagePalette(settings.textColour, settings.backgroundColour));
-  QApplication::setPalette(MenuPalette(settings.textColour, settings.backgroundColour), "QMenu");
-  const QColor text = ToColour(settings.textColour);
-  const QColor background = ToColour(settings.backgroundColour);
-  view->SetBackground(text, background);
-  view->SetDisplayFont(settings.playListFontTypeName, settings.playListFontSize);
-  messageDisplay->SetDisplayFont(ToQString(settings.lyricsFontTypeName), settings.lyricsFontSize, text,
-                                 background);
+  // Whatever is set is drawn anew, the same value too, and a window that flickers at every option distracts
+  // on a stage.
+  const TCShownLook look{settings.textColour, settings.backgroundColour, settings.whiteOnBlack};
+  const TCShownType playlistType{settings.playListFontTypeName, settings.playListFontSize};
+  const TCShownType lyricType{settings.lyricsFontTypeName, settings.lyricsFontSize};
+  const bool lookChanged = shownLook != look;
+  const QColor text = ToColour(look.text);
+  const QColor background = ToColour(look.background);
+  if (lookChanged) {
+    // Of the application, not of this window alone: menus and dialogs are windows of their own.
+    QApplication::setPalette(StagePalette(look.text, look.background));
+    QApplication::setPalette(MenuPalette(look.text, look.background), "QMenu");
+    view->SetBackground(text, background);
+    messageDisplay->SetLook(look.whiteOnBlack ? TCPaneLook::WhiteOnBlack : TCPaneLook::BlackOnWhite);
+  }
+  if (shownPlaylistType != playlistType) view->SetDisplayFont(playlistType.face, playlistType.points);
+  if (lookChanged || shownLyricType != lyricType)
+    messageDisplay->SetDisplayFont(ToQString(lyricType.face), lyricType.points, text, background);
+  shownLook = look;
+  shownPlaylistType = playlistType;
+  shownLyricType = lyricType;
   Q_EMIT marksChanged();
 }
 

@@ -6,6 +6,9 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QSettings>
+#include <cstdint>
+#include <optional>
+#include <string>
 
 #include "app/general_reports_tab.h"
 #include "app/play_controls_bar.h"
@@ -64,7 +67,23 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   void PlaceOnScreen();
   [[nodiscard]] QDockWidget* PaneOf(TCCommandId command) const;
 
+  // The options that colours and fonts come from, as they are shown.
+  struct TCShownLook {
+    TCRgb text = 0;
+    TCRgb background = 0;
+    bool whiteOnBlack = false;
+    friend bool operator==(const TCShownLook&, const TCShownLook&) = default;
+  };
+  struct TCShownType {
+    std::u16string face;
+    std::int32_t points = 0;
+    friend bool operator==(const TCShownType&, const TCShownType&) = default;
+  };
+
   const TCSettings& settings;
+  std::optional<TCShownLook> shownLook;
+  std::optional<TCShownType> shownPlaylistType;
+  std::optional<TCShownType> shownLyricType;
 
   // The panes and the playlist live in a window of their own inside this one, so that their layout and the
   // command bars' can be kept and restored apart. The toolkit owns every child.

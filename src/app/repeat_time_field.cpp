@@ -16,7 +16,7 @@ constexpr int kSecondsInMinute = 60;
 }  // namespace
 
 TCRepeatTimeField::TCRepeatTimeField(const QString& name, const QString& toolTip, QWidget* parent)
-    : QTimeEdit(kStart, parent), timeOnFocus(kStart) {
+    : QTimeEdit(kStart, parent), timeBeforeTyping(kStart) {
   setDisplayFormat(QStringLiteral("mm':'ss"));
   setTimeRange(kStart, kLast);
   setAccessibleName(name);
@@ -33,6 +33,7 @@ std::int32_t TCRepeatTimeField::Seconds() const {
 void TCRepeatTimeField::SetSeconds(std::int32_t seconds) {
   const TCFieldTime shown = RepeatFieldTime(seconds);
   setTime(QTime(0, shown.minutes, shown.seconds));
+  timeBeforeTyping = time();  // what was typed until now is gone, and what it replaced with it
 }
 
 QSize TCRepeatTimeField::sizeHint() const {
@@ -47,7 +48,7 @@ void TCRepeatTimeField::focusInEvent(QFocusEvent* event) {
   QTimeEdit::focusInEvent(event);
   // Back from another window, or from the field's own menu, the typing goes on where it was.
   if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-  timeOnFocus = time();
+  timeBeforeTyping = time();
   // After the press that brought the focus, which puts the cursor where it points: four digits set the time
   // wherever the field was clicked.
   QMetaObject::invokeMethod(
@@ -61,7 +62,7 @@ void TCRepeatTimeField::keyPressEvent(QKeyEvent* event) {
       interpretText();
       break;
     case Qt::Key_Escape:
-      setTime(timeOnFocus);
+      setTime(timeBeforeTyping);
       break;
     case Qt::Key_Left:
     case Qt::Key_Right:

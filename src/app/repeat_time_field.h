@@ -17,7 +17,8 @@ class TCRepeatTimeField final : public QTimeEdit {
 
   // Of the time that is shown, 0 to 3599. While a time is being typed, the last that was complete.
   [[nodiscard]] std::int32_t Seconds() const;
-  // Shows what RepeatFieldTime makes of any number of seconds.
+  // Shows what RepeatFieldTime makes of any number of seconds. While the field is typed into, the typing
+  // begins again from here: this is also what Esc brings back.
   void SetSeconds(std::int32_t seconds);
 
   [[nodiscard]] QSize sizeHint() const override;
@@ -34,7 +35,7 @@ class TCRepeatTimeField final : public QTimeEdit {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  QTime timeOnFocus;
+  QTime timeBeforeTyping;
 };
 
 }  // namespace brevant

@@ -88,7 +88,7 @@ void TCAddPlayItems::Create() {
 
 void TCAddPlayItems::Accept() {
   RememberNames();
-  parts.setModified();
+  parts.Changed();
 }
 
 }  // namespace brevant

@@ -98,6 +98,7 @@ class TCBrevantDoc {
   void OnPlayTimerTick();
 
   [[nodiscard]] const TCTransport& Transport() const { return transport; }
+  [[nodiscard]] const TCSongPlacement& Placement() const { return placement; }
   [[nodiscard]] TCPlaylistPresenter& Presenter() { return presenter; }
 
  private:

@@ -2,6 +2,11 @@
 
 namespace brevant {
 
+void TCEditParts::Changed() const {
+  if (Store().CurrentPosition() != Store().shown) ShowCurrentPlaylist();
+  setModified();
+}
+
 void TCEditParts::ShowChangedPlaylist(TCPlaylistPosition touched) const {
   TCSetListStore& store = Store();
   if (TCPlayList* list = PlaylistAt(store, touched)) store.RecalcPlaylistTotalTime(*list);

@@ -27,6 +27,10 @@ struct TCEditParts {
 
   [[nodiscard]] TCSetListStore& Store() const { return record.setLists; }
 
+  // Closes every change of the set lists: the view shows the current playlist, which an index may name only
+  // now, and the document is modified.
+  void Changed() const;
+
   // The songs of `touched` are not what they were: their total, and the view when it shows them or should.
   void ShowChangedPlaylist(TCPlaylistPosition touched) const;
   // The view shows the current playlist, whichever that is now.

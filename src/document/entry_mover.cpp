@@ -42,7 +42,7 @@ void TCEntryMover::Duplicate() {
       parts.ShowChangedPlaylist(entry.Playlist());
       break;
   }
-  parts.setModified();
+  parts.Changed();
 }
 
 void TCEntryMover::Move(TCTreeNode source, TCTreeNode target) {
@@ -63,15 +63,12 @@ void TCEntryMover::Move(TCTreeNode source, TCTreeNode target) {
       MoveSongs(from.Song(), to.Song());
       break;
   }
-  parts.setModified();
+  parts.Changed();
 }
 
 void TCEntryMover::MoveGroups(std::int32_t from, std::int32_t to) {
-  TCSetListStore& store = parts.Store();
-  MoveGroup(store, from, to);
+  MoveGroup(parts.Store(), from, to);
   parts.tree.MoveGroupNode(to);
-  // The index may name the neighbour now; what would be played stands on the screen.
-  if (store.CurrentPosition() != store.shown) parts.ShowCurrentPlaylist();
 }
 
 void TCEntryMover::MovePlaylists(TCPlaylistPosition from, TCPlaylistPosition to) {
@@ -125,7 +122,7 @@ void TCEntryMover::CopySelectedRowsToNode() {
   const auto count = static_cast<std::int32_t>(songs.size());
   parts.tree.AddSongNodes(AppendSongs(store, target.Playlist(), std::move(songs)), count);
   parts.ShowChangedPlaylist(target.Playlist());
-  parts.setModified();
+  parts.Changed();
 }
 
 }  // namespace brevant

@@ -32,7 +32,7 @@ bool TCSetListEditor::CreateGroup(std::u16string_view name) {
   }
   InsertGroup(store, place, std::move(group));
   parts.tree.AddGroupNode(place);
-  parts.setModified();
+  parts.Changed();
   return true;
 }
 
@@ -47,7 +47,7 @@ bool TCSetListEditor::CreatePlaylist(std::u16string_view name) {
                                  selected.kind == TCNodeKind::Group ? count : selected.playlist + 1};
   InsertPlaylist(store, place, std::move(playlist));
   parts.tree.AddPlaylistNode(place);
-  parts.setModified();
+  parts.Changed();
   return true;
 }
 
@@ -88,7 +88,7 @@ bool TCSetListEditor::Rename(TCTreeNode node, std::u16string_view typed) {
       break;
   }
   parts.tree.Tree().SetNodeText(node, name);
-  parts.setModified();
+  parts.Changed();
   return true;
 }
 
@@ -120,7 +120,7 @@ void TCSetListEditor::RemoveSelectedRows() {
   for (const TCTreeNode node : nodes) parts.tree.Tree().DeleteNode(node);
   parts.ShowChangedPlaylist(current);
   parts.view.ResetMouseState();
-  parts.setModified();
+  parts.Changed();
 }
 
 bool TCSetListEditor::UserWantsRemoved(const TCNodeEntry& entry) const {
@@ -138,25 +138,22 @@ void TCSetListEditor::RemoveSelectedNode() {
   // The tick goes on while the question stands there, and may have moved the entry's number.
   const TCNodeEntry entry = parts.tree.EntryOf(node);
   TCSetListStore& store = parts.Store();
-  const TCPlaylistPosition current = store.CurrentPosition();
   parts.tree.Tree().DeleteNode(node);
   switch (entry.kind) {
     case TCNodeKind::None:
       return;
     case TCNodeKind::Group:
       RemoveGroup(store, entry.group);
-      if (entry.group == current.group) parts.ShowCurrentPlaylist();
       break;
     case TCNodeKind::Playlist:
       RemovePlaylist(store, entry.Playlist());
-      if (entry.Playlist() == current) parts.ShowCurrentPlaylist();
       break;
     case TCNodeKind::Song:
       RemoveSong(store, entry.Song());
       parts.ShowChangedPlaylist(entry.Playlist());
       break;
   }
-  parts.setModified();
+  parts.Changed();
 }
 
 }  // namespace brevant

@@ -127,7 +127,7 @@ TCSongPlacement::Placed TCSongPlacement::PlaceFile(std::u16string_view path) {
   LoadLyrics(parts.files, song.FullPath(), song.lyrics);
   InsertSong(store, place, std::move(song));
   parts.tree.AddSongNodes(place, 1);
-  parts.setModified();
+  parts.Changed();
   return Placed::Yes;
 }
 

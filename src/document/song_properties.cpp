@@ -65,7 +65,7 @@ void TCSongPropertiesForm::Apply() {
     parts.tree.RenameSongNode(*song);
     if (position.Playlist() == parts.Store().shown) parts.playlist.RefreshSongRow(position.song, *song);
   }
-  parts.setModified();
+  parts.Changed();
 }
 
 void TCSongPropertiesForm::ApplyToSong(TCPlayListItem& song) const {

@@ -21,6 +21,9 @@ class TCMessageDisplay {
   virtual void Append(std::u16string_view text) = 0;
   // Of the lines appended from now on, until the next call or Clear, which returns to Normal.
   virtual void SetLineRole(TCLineRole role) = 0;
+  // The lines appended since the last Clear are read from the first on: where there is no room for all of
+  // them it is the last ones that are out of view. Until the next Append, which has the newest in view again.
+  virtual void KeepFirstInView() = 0;
 
   void AppendMessage(TCTextId id);
   // The message text, one blank, `detail`.

@@ -24,23 +24,12 @@ std::int32_t FindByName(const List& list, std::u16string_view name) {
 }
 
 bool HasPath(const TCPlayListItem& song, std::u16string_view path) {
-  if (song.fileName.size() > path.size()) return false;
-  const std::size_t folderLength = path.size() - song.fileName.size();
-  return std::equal(song.fileName.begin(), song.fileName.end(), path.substr(folderLength).begin()) &&
+  // Asked at every poll, perhaps of a hundred thousand songs: the two lengths are at hand, the letters of the
+  // name are far away in memory, and the lengths alone rule nearly every song out.
+  const std::size_t folderLength = song.folder.size();
+  if (folderLength + song.fileName.size() != path.size()) return false;
+  return path.substr(folderLength) == song.fileName &&
          path.substr(0, folderLength) == std::u16string_view(song.folder);
-}
-
-// In model order; null when none passes.
-template <typename Test>
-const TCPlayListItem* FirstSong(const std::vector<TCPlayGroups>& groups, const Test& test) {
-  for (const TCPlayGroups& group : groups) {
-    for (const TCPlayList& playlist : group.playlists) {
-      for (const TCPlayListItem& song : playlist.items) {
-        if (test(song)) return &song;
-      }
-    }
-  }
-  return nullptr;
 }
 
 }  // namespace
@@ -90,15 +79,14 @@ TCPlayListItem* TCSetListStore::SongAt(std::int32_t song) {
 }
 
 const TCPlayListItem* TCSetListStore::FindSongByPath(std::u16string_view path) const {
-  // Asked at every poll, perhaps of a hundred thousand songs. The length of a name stands in the song itself,
-  // its letters and the folder far away in memory, and the length alone rules nearly every song out.
-  const std::size_t nameLength = FileNamePart(path).size();
-  const TCPlayListItem* found = FirstSong(groups, [path, nameLength](const TCPlayListItem& song) {
-    return song.fileName.size() == nameLength && HasPath(song, path);
-  });
-  if (found != nullptr) return found;
-  // Folder and name as they were typed by hand may meet anywhere in the path.
-  return FirstSong(groups, [path](const TCPlayListItem& song) { return HasPath(song, path); });
+  for (const TCPlayGroups& group : groups) {
+    for (const TCPlayList& playlist : group.playlists) {
+      for (const TCPlayListItem& song : playlist.items) {
+        if (HasPath(song, path)) return &song;
+      }
+    }
+  }
+  return nullptr;
 }
 
 TCTreeNode TCSetListStore::GetSongTreeNode(std::int32_t song) const {

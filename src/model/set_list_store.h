@@ -67,8 +67,8 @@ struct TCSetListStore {
   [[nodiscard]] TCPlayList* CurrentPlaylist();
   [[nodiscard]] TCPlayListItem* SongAt(std::int32_t song);  // of the current playlist
 
-  // The first song of all, in model order, whose folder and file name make exactly this path; null without
-  // one.
+  // The first song of all, in model order, whose folder and file name make exactly this path, wherever the
+  // two meet in it; null without one.
   [[nodiscard]] const TCPlayListItem* FindSongByPath(std::u16string_view path) const;
 
   [[nodiscard]] TCTreeNode GetSongTreeNode(std::int32_t song) const;

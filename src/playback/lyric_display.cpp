@@ -10,6 +10,9 @@ namespace brevant {
 namespace {
 
 constexpr std::int64_t kLeadMs = 500;  // a line appears just before it is sung
+// More than any pane shows. The message display forgets its oldest lines, and the first of these is the one
+// that is sung now.
+constexpr std::int32_t kMostLines = 500;
 
 TCLineRole RoleOf(std::int32_t singer) {
   switch (singer) {
@@ -37,7 +40,7 @@ std::int32_t TCLyricDisplay::ShowLyricsAt(std::int32_t seconds, std::u16string_v
   std::vector<TCLyric> lines;
   const std::int32_t index = FindLyricLines(
       song->lyrics, lines, static_cast<std::int32_t>(std::min<std::int64_t>(timeMs, kEndOfLyrics)),
-      record.settings.numberLyricLines);
+      std::min(record.settings.numberLyricLines, kMostLines));
   if (lines.empty() || index == lastIndex) return lastIndex;
 
   messages.Clear();
@@ -47,6 +50,7 @@ std::int32_t TCLyricDisplay::ShowLyricsAt(std::int32_t seconds, std::u16string_v
     messages.Append(u"\t" + line.text);
   }
   messages.SetLineRole(TCLineRole::Normal);
+  messages.KeepFirstInView();  // the one that is sung now
   return index;
 }
 

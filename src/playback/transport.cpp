@@ -139,9 +139,10 @@ void TCTransport::ForgetSong() {
 }
 
 void TCTransport::StartTimeRun(TCTimeScope scope) {
-  // A song that the player gives up for the measuring has not ended by that.
-  if (playerProbe) state.playing = false;
+  const bool measuredBefore = timeRun.Pending();
   timeRun.Start(scope);
+  // A song that the player gives up for the measuring has not ended by that.
+  if (playerProbe && (measuredBefore || timeRun.Pending())) state.playing = false;
 }
 
 bool TCTransport::StepTimeRun() {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -37,6 +38,7 @@ class TCSharedText {
   }
   operator std::u16string_view() const { return str(); }  // NOLINT(google-explicit-constructor)
   [[nodiscard]] bool empty() const { return held == nullptr; }
+  [[nodiscard]] std::size_t size() const { return held == nullptr ? 0 : held->text.size(); }
 
   friend bool operator==(const TCSharedText& a, const TCSharedText& b) {
     return a.held == b.held || a.str() == b.str();

@@ -526,6 +526,118 @@ TEST_F(BrevantApp, AFontSizeThatWasEnteredShows) {
   EXPECT_EQ(Frame().MessageDisplay().font().pointSize(), 30);
 }
 
+TEST_F(BrevantApp, WhatWasEnteredIsThereAfterTheNextStart) {
+  struct Case {
+    TCCommandId command;
+    const char* typed;
+    const char* key;
+    std::int32_t TCSettings::*option;
+  };
+  const std::vector<Case> cases{
+      {TCCommandId::VolumeStep, "7", "VolumeStep", &TCSettings::volumeStep},
+      {TCCommandId::SeekStep, "12", "FastFowardFastReverseTimeStep", &TCSettings::seekStepSeconds},
+      {TCCommandId::PlaylistFontSize, "33", "PlayListFontSize", &TCSettings::playListFontSize},
+      {TCCommandId::LyricsFontSize, "41", "LyricsFontSize", &TCSettings::lyricsFontSize},
+      {TCCommandId::LyricLines, "4", "NumberLyricLines", &TCSettings::numberLyricLines},
+  };
+  const auto ask = [this](TCCommandId command, std::function<void(QDialog&)> give) {
+    const TCDialogAnswer<QDialog> answer(std::move(give));
+    app->Actions().ActionOf(command)->trigger();
+    QCoreApplication::sendPostedEvents();
+  };
+  const auto enter = [](const char* text) {
+    return [text](QDialog& dialog) {
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), QLatin1String(text));
+      QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    };
+  };
+  const auto expectHeld = [&ask](TCCommandId command, const char* text) {
+    ask(command, [text](QDialog& dialog) {
+      EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), QLatin1String(text));
+      dialog.reject();
+    });
+  };
+  Start(kShow);
+  for (const Case& each : cases) ask(each.command, enter(each.typed));
+  ask(TCCommandId::SongLatency, enter("3"));
+  ask(TCCommandId::MediaFileTypes, enter("mp3 ogg"));
+  EXPECT_EQ(Written(u"VolumeStep"), u"(no file)") << "the file is written at the end";
+  ASSERT_TRUE(Frame().close());
+  for (const Case& each : cases) {
+    const auto text = [](const char* ascii) { return FromQString(QString::fromLatin1(ascii)); };
+    EXPECT_EQ(Written(text(each.key)), text(each.typed)) << each.key;
+  }
+  EXPECT_EQ(Written(u"SongLatencySeconds"), u"3");
+  EXPECT_EQ(Written(u"ValidMediaFileExtensions"), u"mp3 ogg");
+  app.reset();
+
+  Start(kShow);
+  for (const Case& each : cases) {
+    EXPECT_EQ(QString::number(Settings().*each.option), QLatin1String(each.typed)) << each.key;
+    expectHeld(each.command, each.typed);
+  }
+  EXPECT_EQ(Frame().PlaylistView().font().pointSize(), 33);
+  EXPECT_EQ(Frame().MessageDisplay().font().pointSize(), 41);
+  EXPECT_EQ(app->Record().setLists.songLatencySeconds, 3);
+  expectHeld(TCCommandId::SongLatency, "3");
+  expectHeld(TCCommandId::MediaFileTypes, "mp3 ogg");
+}
+
+// How many pixels of the message display have exactly this colour. The letters' edges are smoothed; inside
+// they have their own.
+int PixelsOf(const TCGeneralReportsTab& pane, const QColor& colour) {
+  const QImage image = pane.viewport()->grab().toImage();
+  int found = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) found += image.pixelColor(x, y) == colour ? 1 : 0;
+  }
+  return found;
+}
+
+TEST_F(BrevantApp, EachSingersWordsAreDrawnInTheirColourOnBlackAndOnWhite) {
+  struct Line {
+    const char* words;
+    QColor onBlack;
+    QColor onWhite;
+  };
+  const std::vector<Line> lines{
+      {"M: he sings", QColor(0, 255, 0), QColor(0, 0, 255)},
+      {"F: she sings", QColor(255, 192, 203), QColor(255, 0, 0)},
+      {"D: both sing", QColor(255, 165, 0), QColor(255, 165, 0)},
+      {"nobody sings", QColor(Qt::white), QColor(Qt::black)},
+  };
+  std::string lyrics;
+  for (std::size_t i = 0; i <= lines.size(); ++i) {
+    lyrics += "[00:" + std::to_string(i) + "0.000]" + (i < lines.size() ? lines[i].words : "") + "\r\n";
+  }
+  files.Put(u"\\m\\one.lrc", lyrics);
+  files.Put(kIniPath, "[Brevant]\r\nNumberLyricLines=1\r\nLyricsFontSize=40\r\n");
+  Start(kShow);
+  Press(Qt::Key_P);
+  player.Advance(5.0);
+  for (const Line& line : lines) {
+    app->Document().OnPlayTimerTick();
+    const TCGeneralReportsTab& pane = Frame().MessageDisplay();
+    ASSERT_EQ(pane.toPlainText().trimmed(), QLatin1String(line.words));
+    for (const bool onBlack : {true, false}) {
+      SCOPED_TRACE(std::string(line.words) + (onBlack ? " on black" : " on white"));
+      ASSERT_EQ(Settings().whiteOnBlack, onBlack);
+      const QColor own = onBlack ? line.onBlack : line.onWhite;
+      const QColor background = onBlack ? Qt::black : Qt::white;
+      EXPECT_GT(PixelsOf(pane, own), 100);
+      EXPECT_GT(PixelsOf(pane, background), 10000);
+      for (const Line& other : lines) {
+        for (const QColor& colour : {other.onBlack, other.onWhite}) {
+          if (colour == own || colour == background) continue;
+          EXPECT_EQ(PixelsOf(pane, colour), 0) << other.words;
+        }
+      }
+      Press(Qt::Key_W);
+    }
+    player.Advance(10.0);
+  }
+}
+
 // The views' wishes.
 
 TEST_F(BrevantApp, APickedRowPlays) {

@@ -33,12 +33,29 @@ class TCGeneralReportsTabTest : public testing::Test {
     EXPECT_FALSE(found.isNull()) << text;
     return found.charFormat().foreground().color();
   }
+  [[nodiscard]] bool IsInView(const QTextBlock& line) const {
+    const QRect place = pane.cursorRect(QTextCursor(line));
+    return place.top() >= 0 && place.bottom() <= pane.viewport()->height();
+  }
+  [[nodiscard]] bool IsInView(const char* text) const {
+    const QTextCursor found = pane.document()->find(QString::fromLatin1(text));
+    EXPECT_FALSE(found.isNull()) << text;
+    return IsInView(found.block());
+  }
   // Whether the last line that holds text is wholly in the window.
   [[nodiscard]] bool NewestLineIsInView() const {
     QTextBlock newest = pane.document()->lastBlock();
     while (newest.text().isEmpty() && newest.previous().isValid()) newest = newest.previous();
-    const QRect place = pane.cursorRect(QTextCursor(newest));
-    return place.top() >= 0 && place.bottom() <= pane.viewport()->height();
+    return IsInView(newest);
+  }
+  // As lyrics come: a blank line before each, and the first is the one that is sung.
+  void ShowLyrics(std::initializer_list<std::u16string_view> lines) {
+    pane.Clear();
+    for (const std::u16string_view line : lines) {
+      pane.Append(u"\r\n");
+      pane.Append(std::u16string(u"\t").append(line));
+    }
+    pane.KeepFirstInView();
   }
 
   TCGeneralReportsTab pane;
@@ -130,6 +147,7 @@ TEST_F(TCGeneralReportsTabTest, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
   pane.SetLineRole(TCLineRole::SingerF);
   pane.Append(u"she sings");
   const QString before = Text();
+  pane.SetLook(TCPaneLook::BlackOnWhite);
   pane.SetDisplayFont(QStringLiteral("Times New Roman"), 18, Qt::black, Qt::white);
   EXPECT_EQ(Text(), before);
   EXPECT_EQ(ColourOf("normal"), QColor(Qt::black));
@@ -138,7 +156,18 @@ TEST_F(TCGeneralReportsTabTest, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
   pane.Append(u"she goes on");
   EXPECT_EQ(ColourOf("she goes on"), QColor(255, 0, 0));
   pane.SetDisplayFont(QStringLiteral("Times New Roman"), 18, Qt::white, Qt::black);
+  pane.SetLook(TCPaneLook::WhiteOnBlack);
+  EXPECT_EQ(ColourOf("normal"), QColor(Qt::white));
   EXPECT_EQ(ColourOf("he sings"), QColor(0, 255, 0));
+}
+
+TEST_F(TCGeneralReportsTabTest, TheSingersColoursGoByTheLookNotByTheBackground) {
+  pane.SetLook(TCPaneLook::BlackOnWhite);
+  pane.SetLineRole(TCLineRole::SingerM);
+  pane.Append(u"he sings");
+  EXPECT_EQ(ColourOf("he sings"), QColor(0, 0, 255));
+  pane.SetDisplayFont(QStringLiteral("Times New Roman"), 18, Qt::white, QColor(0x20, 0x20, 0x20));
+  EXPECT_EQ(ColourOf("he sings"), QColor(0, 0, 255));
 }
 
 TEST_F(TCGeneralReportsTabTest, AClearReturnsToTheNormalColour) {
@@ -172,6 +201,45 @@ TEST_F(TCGeneralReportsTabTest, TheNewestLineIsAlwaysInView) {
   pane.hide();
   AppendNumbered(101, 200);
   pane.show();
+  EXPECT_TRUE(NewestLineIsInView());
+}
+
+TEST_F(TCGeneralReportsTabTest, OfLyricLinesThatDoNotFitTheFirstStaysInView) {
+  pane.resize(400, 90);
+  ShowLyrics({u"sung now", u"sung next", u"sung later"});
+  EXPECT_TRUE(IsInView("sung now"));
+  EXPECT_FALSE(IsInView("sung later")) << "there was room for all of them";
+  pane.resize(400, 70);
+  EXPECT_TRUE(IsInView("sung now"));
+  pane.resize(400, 200);
+  pane.SetDisplayFont(QStringLiteral("Times New Roman"), 36, Qt::white, Qt::black);
+  EXPECT_TRUE(IsInView("sung now"));
+  EXPECT_FALSE(IsInView("sung later")) << "there was room for all of them";
+  pane.hide();
+  ShowLyrics({u"sung then", u"sung after", u"sung at last"});
+  pane.show();
+  EXPECT_TRUE(IsInView("sung then"));
+}
+
+TEST_F(TCGeneralReportsTabTest, TheBlankLinesGoOutOfViewBeforeALyricLineDoes) {
+  // Room for four lines of six: the lyric lines are the third and the sixth.
+  const int lineHeight = pane.cursorRect().height();
+  pane.resize(400, 4 * lineHeight + lineHeight / 2 + pane.height() - pane.viewport()->height());
+  ShowLyrics({u"sung now", u"sung next"});
+  EXPECT_TRUE(IsInView("sung now"));
+  EXPECT_TRUE(IsInView("sung next"));
+}
+
+TEST_F(TCGeneralReportsTabTest, AMessageAfterTheLyricsIsInView) {
+  pane.resize(400, 90);
+  ShowLyrics({u"sung now", u"sung next", u"sung later"});
+  pane.Append(u"a message");
+  EXPECT_TRUE(NewestLineIsInView());
+  pane.resize(400, 80);
+  EXPECT_TRUE(NewestLineIsInView());
+  ShowLyrics({u"sung now", u"sung next", u"sung later"});
+  pane.Clear();
+  AppendNumbered(1, 20);
   EXPECT_TRUE(NewestLineIsInView());
 }
 

@@ -145,7 +145,24 @@ TEST_F(KeyFilter, WhileADialogIsTypedIntoTheFunctionAndMediaKeysPerform) {
   EXPECT_EQ(field->text(), QString());
   EXPECT_TRUE(dialog.isVisible());
   Focus(dialogButton);
-  EXPECT_EQ(Type(dialogButton, Qt::Key_F5), Ran{}) << "nothing is typed there";
+  EXPECT_EQ(Type(dialogButton, Qt::Key_F5), Ran{TCCommandId::Play});
+  EXPECT_EQ(Type(dialogButton, Qt::Key_VolumeUp), Ran{TCCommandId::MediaVolumeUp});
+}
+
+TEST_F(KeyFilter, TheButtonsOfADialogKeepTheOtherKeys) {
+  QDialog dialog(&window);
+  auto* dialogButton = new QPushButton(&dialog);
+  dialogButton->setAutoDefault(true);
+  int clicks = 0;
+  QObject::connect(dialogButton, &QPushButton::clicked, [&clicks] { ++clicks; });
+  dialog.open();
+  Activate(dialog);
+  Focus(dialogButton);
+  EXPECT_EQ(Type(dialogButton, Qt::Key_P), Ran{});
+  EXPECT_EQ(Type(dialogButton, Qt::Key_Space), Ran{});
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(Type(dialogButton, Qt::Key_Return), Ran{});
+  EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(KeyFilter, TheWindowBehindADialogHasNoKeys) {
@@ -210,12 +227,13 @@ TEST_F(KeyFilter, AWidgetKeepsTheKeysItHasClaimed) {
 }
 
 // A key event with a time of its own, sent as the display server's events come in.
-void Send(QWidget* widget, QEvent::Type type, Qt::Key key, unsigned long time, bool autoRepeat) {
+void Send(QWidget* widget, QEvent::Type type, Qt::Key key, unsigned long time, bool autoRepeat,
+          const QString& text = {}) {
   if (type == QEvent::KeyPress &&
       qt_sendShortcutOverrideEvent(widget, time, key, Qt::NoModifier, {}, autoRepeat)) {
     return;
   }
-  QKeyEvent event(type, key, Qt::NoModifier, 0, 0, 0, {}, autoRepeat);
+  QKeyEvent event(type, key, Qt::NoModifier, 0, 0, 0, text, autoRepeat);
   event.setTimestamp(time);
   QCoreApplication::sendEvent(widget, &event);
 }
@@ -242,6 +260,58 @@ TEST_F(KeyFilter, AHeldKeyActsOnceUnlessItsCommandMayRepeat) {
     }
   }
   EXPECT_EQ(list->currentRow(), 0) << "what nobody may have is not handed to the list";
+}
+
+TEST_F(KeyFilter, NothingOfAHeldKeyReachesTheDialogThatItOpened) {
+  const QString letter = QStringLiteral("p");
+  for (const bool recognised : {true, false}) {
+    unsigned long time = recognised ? 10000 : 20000;
+    Activate(window);
+    Focus(list);
+    Send(list, QEvent::KeyPress, Qt::Key_P, time, false, letter);
+    QDialog dialog(&window);
+    auto* field = new QLineEdit(&dialog);
+    dialog.open();
+    // The first repeats still come to the window, the later ones to the dialog.
+    for (QWidget* receiver : {static_cast<QWidget*>(list), static_cast<QWidget*>(field)}) {
+      if (receiver == field) {
+        Activate(dialog);
+        Focus(field);
+      }
+      for (int i = 0; i < 4; ++i) {
+        time += 30;
+        Send(receiver, QEvent::KeyRelease, Qt::Key_P, time, recognised);
+        Send(receiver, QEvent::KeyPress, Qt::Key_P, time, recognised, letter);
+      }
+    }
+    EXPECT_EQ(field->text(), QString());
+    Send(field, QEvent::KeyRelease, Qt::Key_P, time + 30, false);
+
+    Send(field, QEvent::KeyPress, Qt::Key_P, time + 100, false, letter);
+    Send(field, QEvent::KeyRelease, Qt::Key_P, time + 130, recognised);
+    Send(field, QEvent::KeyPress, Qt::Key_P, time + 130, recognised, letter);
+    Send(field, QEvent::KeyRelease, Qt::Key_P, time + 160, false);
+    EXPECT_EQ(field->text(), QStringLiteral("pp")) << "pressed anew it is typed, and repeats";
+  }
+}
+
+TEST_F(KeyFilter, AHeldKeyPressesNoButtonOfTheDialogThatItOpened) {
+  Focus(list);
+  Send(list, QEvent::KeyPress, Qt::Key_Space, 1000, false);
+  QDialog dialog(&window);
+  auto* dialogButton = new QPushButton(&dialog);
+  dialog.open();
+  Activate(dialog);
+  Focus(dialogButton);
+  const auto repeat = [dialogButton](unsigned long time) {
+    Send(dialogButton, QEvent::KeyRelease, Qt::Key_Space, time, false);
+    Send(dialogButton, QEvent::KeyPress, Qt::Key_Space, time, false);
+  };
+  repeat(1030);
+  EXPECT_FALSE(dialogButton->isDown());
+  Send(dialogButton, QEvent::KeyRelease, Qt::Key_Space, 1060, false);
+  Send(dialogButton, QEvent::KeyPress, Qt::Key_Space, 1200, false);
+  EXPECT_TRUE(dialogButton->isDown());
 }
 
 TEST_F(KeyFilter, TwoQuickPressesAreTwo) {

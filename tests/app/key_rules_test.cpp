@@ -36,6 +36,11 @@ TCKeyPress Held(TCKeyPress press, bool commandRepeats) {
   return press;
 }
 
+TCKeyPress HeldFromElsewhere(TCKeyPress press, bool commandRepeats = false) {
+  press.heldFromElsewhere = true;
+  return Held(press, commandRepeats);
+}
+
 TCKeyPress Kept(TCKeyPress press) {
   press.widgetKeepsIt = true;
   return press;
@@ -83,6 +88,16 @@ TEST(KeyRules, SayWhoHasAKey) {
        TCKeyVerdict::Swallow},
       {"a held key of no command", Held(Unbound(Qt::Key_PageDown, kOrdinary), false),
        TCKeyVerdict::Untouched},
+
+      {"a letter that opened a prompt", HeldFromElsewhere(Bound(Qt::Key_O, kTyping)), TCKeyVerdict::Swallow},
+      {"a letter of no command that opened a prompt", HeldFromElsewhere(Unbound(Qt::Key_Q, kTyping)),
+       TCKeyVerdict::Swallow},
+      {"Page Down that closed a prompt", HeldFromElsewhere(Unbound(Qt::Key_PageDown, kOrdinary)),
+       TCKeyVerdict::Swallow},
+      {"a volume key held into a prompt", HeldFromElsewhere(Bound(Qt::Key_F9, kTyping), true),
+       TCKeyVerdict::Table},
+      {"an F-key that acts once, held into a prompt", HeldFromElsewhere(Bound(Qt::Key_F5, kTyping)),
+       TCKeyVerdict::Swallow},
   };
   for (const TCCase& each : cases) {
     EXPECT_EQ(static_cast<int>(DecideKey(each.press)), static_cast<int>(each.verdict)) << each.what;

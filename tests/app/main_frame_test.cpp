@@ -115,6 +115,70 @@ TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
   }
 }
 
+TEST_F(MainFrame, TheSingersColoursGoByTheOption) {
+  const auto colour = [this] {
+    return frame.MessageDisplay()
+        .document()
+        ->find(QStringLiteral("he sings"))
+        .charFormat()
+        .foreground()
+        .color();
+  };
+  frame.MessageDisplay().SetLineRole(TCLineRole::SingerM);
+  frame.MessageDisplay().Append(u"he sings");
+  EXPECT_EQ(colour(), QColor(0, 255, 0));
+  settings.whiteOnBlack = false;
+  settings.textColour = kWhite;
+  settings.backgroundColour = kBlack;
+  frame.ShowOptions();
+  EXPECT_EQ(colour(), QColor(0, 0, 255));
+}
+
+// How often a window or a part of it was given other colours or another font.
+class TCLookChanges : public QObject {
+ public:
+  explicit TCLookChanges(QObject& root) {
+    root.installEventFilter(this);
+    for (QObject* part : root.findChildren<QObject*>()) part->installEventFilter(this);
+  }
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::ApplicationPaletteChange:
+      case QEvent::PaletteChange:
+      case QEvent::FontChange:
+      case QEvent::StyleChange:
+        ++count;
+        break;
+      default:
+        break;
+    }
+    return false;
+  }
+};
+
+TEST_F(MainFrame, AnOptionThatChangesNoColourAndNoFontDrawsNothingAnew) {
+  frame.show();
+  QCoreApplication::processEvents();  // the first look comes in its own time
+  TCLookChanges changes(frame);
+  const QSignalSpy text(frame.MessageDisplay().document(), &QTextDocument::contentsChanged);
+  const QSignalSpy marks(&frame, &TCMainFrame::marksChanged);
+  settings.autoRecycle = !settings.autoRecycle;
+  settings.volumeStep = 9;
+  frame.ShowOptions();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(changes.count, 0);
+  EXPECT_EQ(text.count(), 0);
+  EXPECT_EQ(marks.count(), 1) << "the check marks are shown all the same";
+
+  settings.playListFontSize = 40;
+  frame.ShowOptions();
+  EXPECT_GT(changes.count, 0);
+  EXPECT_EQ(text.count(), 0) << "the lyrics have a font of their own";
+}
+
 TEST_F(MainFrame, FontsFollowTheSettings) {
   settings.playListFontSize = 31;
   settings.lyricsFontSize = 27;

@@ -144,6 +144,18 @@ TEST_F(RepeatTimeField, EscapeBringsBackTheTimeItHad) {
   EXPECT_EQ(ended.count(), 1);
 }
 
+TEST_F(RepeatTimeField, EscapeBringsBackATimeThatWasSetMeanwhile) {
+  field.SetSeconds(65);
+  TakeFocus();
+  QTest::keyClicks(&field, QStringLiteral("30"));
+  field.SetSeconds(90);  // by the button beside it
+  EXPECT_EQ(field.text(), QStringLiteral("01:30"));
+  QTest::keyClick(&field, Qt::Key_Up);
+  QTest::keyClick(&field, Qt::Key_Escape);
+  EXPECT_EQ(field.text(), QStringLiteral("01:30"));
+  EXPECT_EQ(field.Seconds(), 90);
+}
+
 TEST_F(RepeatTimeField, EscapeDropsATimeThatIsNotComplete) {
   field.SetSeconds(65);
   TakeFocus();

@@ -8,6 +8,7 @@
 #include "support/fake_player.h"
 #include "support/fake_playlist_view.h"
 #include "support/fake_prompts.h"
+#include "support/fake_tree.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
 
@@ -33,11 +34,12 @@ class BrevantDocTest : public testing::Test {
   TCAppRecord record;
   TCFakePlayer player;
   TCFakePlaylistView view;
+  TCFakeTree tree;
   TCMessageLog messages;
   TCFakeFrame frame;
   TCFakePrompts prompts;
   TCBrevantDoc document{
-      {record, files, &player, view, messages, frame, prompts, {u"", u"", u"\\state\\recovery\\"}}};
+      {record, files, &player, view, tree, messages, frame, prompts, {u"", u"", u"\\state\\recovery\\"}}};
 };
 
 TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
@@ -331,6 +333,38 @@ TEST_F(BrevantDocTest, ATypedOptionIsShownAtOnceAndACancelledPromptShowsNothing)
   document.OnCommand(TCCommandId::PlaylistFontSize);
   EXPECT_EQ(frame.optionShows, 1);
   EXPECT_EQ(record.settings.playListFontSize, 44);
+}
+
+TEST_F(BrevantDocTest, ANewLyricFontSizeAndANewNumberOfLinesAreDrawnAtTheNextPoll) {
+  files.Put(u"C:\\a.lrc", "[00:00.000]one\r\n[01:00.000]two\r\n[02:00.000]three\r\n");
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::Play);
+  const auto poll = [this] {
+    player.Advance(0.3);
+    document.OnPlayTimerTick();
+  };
+  poll();
+  poll();
+  ASSERT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo"));
+  messages.clears = 0;
+  poll();
+  ASSERT_EQ(messages.clears, 0) << "the current line has not changed";
+
+  prompts.texts = {u"40", u"3", u"7"};
+  document.OnCommand(TCCommandId::LyricsFontSize);
+  EXPECT_EQ(document.Transport().State().lastLyricIndex, -1);
+  poll();
+  EXPECT_EQ(messages.clears, 1);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo"));
+
+  document.OnCommand(TCCommandId::LyricLines);
+  EXPECT_EQ(document.Transport().State().lastLyricIndex, -1);
+  poll();
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo", u"\r\n", u"\tthree"));
+
+  document.OnCommand(TCCommandId::VolumeStep);
+  poll();
+  EXPECT_EQ(messages.clears, 2) << "no other prompt draws them anew";
 }
 
 TEST_F(BrevantDocTest, VolumeKeysReachThePlayer) {

@@ -5,6 +5,7 @@
 #include "lyrics/lyrics.h"
 #include "model/play_marks.h"
 #include "support/fake_playlist_view.h"
+#include "support/fake_tree.h"
 #include "support/lyrics_of.h"
 
 namespace brevant {
@@ -41,7 +42,8 @@ class PlaylistPresenterTest : public testing::Test {
   TCAppRecord record;
   TCSetListStore& store = record.setLists;
   TCFakePlaylistView view;
-  TCPlaylistPresenter presenter{record, view};
+  TCFakeTree tree;
+  TCPlaylistPresenter presenter{record, view, tree};
 };
 
 TEST_F(PlaylistPresenterTest, APlaylistIsShownWithItsRowsAndItsTotal) {

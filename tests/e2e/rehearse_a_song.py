@@ -1,6 +1,8 @@
 """Rehearses a song on the built program: louder and softer, to and fro in it, a passage again and again with the words
-on the screen, and the true lengths of all songs at the end.
+on the screen, a run that measures all songs given up while the song plays, and the true lengths at the end.
 """
+
+import os
 
 from rig import accessibility as tree
 from rig import flow, screen, songs
@@ -14,10 +16,13 @@ PITCHES = [330, 370, 415, 466, 523, 587, 659, 740, 831, 932, 1047, 1175]
 
 HEADER_BEFORE = "Rehearsal - Total Playlist Time: 00:40"  # 1 + 8 + 1 seconds as the document has it, two gaps of 15
 HEADER_MEASURED = "Rehearsal - Total Playlist Time: 01:33"  # 60 + 0 + 3 seconds
+SPARES = 40  # songs of another playlist, so that a run over all of them lasts
 
 
 class Rehearsal:
-    """The document: a song that climbs through its tones, one that is gone, a short one; all their times are wrong."""
+    """The document: a song that climbs through its tones, one that is gone, a short one, and a playlist of spare songs;
+    all their times are wrong.
+    """
 
     def __init__(self, folder):
         folder.mkdir()
@@ -25,11 +30,16 @@ class Rehearsal:
         ladder = folder / "Ladder.wav"
         songs.write_ladder(ladder, PITCHES, RUNG)
         songs.write_lyrics(ladder, [(i * RUNG * 1000, line_of(i)) for i in range(len(PITCHES))])
-        songs.write_mp3(folder / "Short Tone.mp3", 660, 3.2)
+        short = folder / "Short Tone.mp3"
+        songs.write_mp3(short, 660, 3.2)
+        spares = [folder / f"Spare {number}.mp3" for number in range(1, SPARES + 1)]
+        for spare in spares:
+            os.link(short, spare)
         songs.write_document(self.document, [
             ("Band", "Rehearsal", ladder, "00:01"),
             ("Band", "Rehearsal", folder / "Lost Song.mp3", "00:08"),
-            ("Band", "Rehearsal", folder / "Short Tone.mp3", "00:01"),
+            ("Band", "Rehearsal", short, "00:01"),
+            *(("Band", "Spare Songs", spare, "00:09") for spare in spares),
         ])
 
 
@@ -78,8 +88,11 @@ def follows_the_words(stage):
 
 
 def seeks(stage):
-    screen.press("o")
-    held = stage.enter_text("Enter property", "Enter the Fast Foward/Fast Reverse time step", str(RUNG))
+    # The key is held well into the prompt that it opens, and nothing of it is typed there.
+    prompt = ("Enter property", "Enter the Fast Foward/Fast Reverse time step")
+    screen.hold("o", lambda: holds_for("a prompt without the key that opened it",
+                                       lambda: stage.prompt_text(*prompt) == "2", 1.5))
+    held = stage.enter_text(*prompt, str(RUNG))
     assert held == "2", f"the prompt began with {held!r}"
     before = stage.elapsed()
     screen.press("ctrl+Right")
@@ -145,6 +158,35 @@ def types_a_time(stage):
     stage.wait_for_silence()
 
 
+def gives_up_a_run_while_the_song_plays(stage):
+    def the_song_sounds():
+        rung = stage.elapsed() // RUNG
+        # A stretch that two rungs share has half of each.
+        return any(stage.listener.sounds(pitch, 0.2) for pitch in PITCHES[max(0, rung - 1):rung + 2])
+
+    screen.press("Return")
+    wait_for("the song to sound", the_song_sounds)
+    rows, header, before = stage.rows(), stage.header(), stage.elapsed()
+    screen.press("alt+r")
+    wait_for("the run to begin", lambda: stage.status().endswith(f" of {SPARES + 3}"))
+    holds_for("the sound of the song that plays", the_song_sounds, 3.0)
+    measured = int(stage.status().split(" of ")[0])
+    assert 3 <= measured < SPARES, f"{measured} songs are measured by now"
+    screen.press("Escape")
+    wait_for("an empty status bar", lambda: stage.status() == "")
+    holds_for("the run's end", lambda: stage.status() == "" and the_song_sounds(), 1.0)
+    assert stage.elapsed() >= before + 3, "the song was held up"
+    assert stage.label("Song") == "Ladder.wav" and stage.label("What the player does") == "Playing"
+    assert (stage.rows(), stage.header()) == (rows, header), stage.rows()
+    screen.press("Right")
+    wait_for("the spare songs", lambda: stage.header().startswith("Spare Songs"))
+    assert {row[2] for row in stage.rows()} == {"00:09"}, stage.rows()
+    screen.press("Left")
+    wait_for("the rehearsal", lambda: stage.header() == header)
+    screen.press("s")
+    stage.wait_for_silence()
+
+
 def measures_all_songs(stage):
     screen.press("i")
     wait_for("an empty message display", lambda: stage.message().strip() == "")
@@ -182,6 +224,7 @@ def perform(evening_flow):
         (lambda: seeks(stage), "seeks to and fro by a step that was entered"),
         (lambda: repeats_a_passage(stage), "repeats a passage set with Z and X"),
         (lambda: types_a_time(stage), "types a time and gets its keys back"),
+        (lambda: gives_up_a_run_while_the_song_plays(stage), "gives up a run while the song plays"),
         (lambda: measures_all_songs(stage), "measures all songs"),
         (lambda: closes_and_keeps_the_times(stage, rehearsal), "closes and keeps the times"),
     )

@@ -274,6 +274,20 @@ TEST(SetListStoreTest, OfSongsWithTheSamePathTheFirstInModelOrderIsFound) {
   EXPECT_EQ(store.FindSongByPath(u"b.mp3"), &first);
 }
 
+TEST(SetListStoreTest, TheFirstInModelOrderIsFoundHoweverItsPathIsDivided) {
+  TCSetListStore store = StoreWithTwoSongs();
+  std::vector<TCPlayListItem>& songs = store.groups[0].playlists[0].items;
+  const std::u16string path = u"C:\\Music\\b.mp3";
+  songs[1].SetPath(path);
+  for (const std::size_t meet : {std::size_t{0}, std::size_t{3}, std::size_t{10}}) {
+    songs[0].folder = path.substr(0, meet);
+    songs[0].fileName = path.substr(meet);
+    EXPECT_EQ(store.FindSongByPath(path), &songs[0]) << meet;
+  }
+  songs[0].folder = u"C:\\Nusic\\";
+  EXPECT_EQ(store.FindSongByPath(path), &songs[1]);
+}
+
 TEST(SetListStoreTest, ASongIsFoundWhereverItsFolderAndNameMeet) {
   TCSetListStore store = StoreWithTwoSongs();
   TCPlayListItem& song = store.groups[0].playlists[0].items[1];

@@ -85,6 +85,24 @@ TEST_F(LyricDisplayTest, ANumberOfLinesBelowTwoShowsTheCurrentOne) {
   }
 }
 
+TEST_F(LyricDisplayTest, TheCurrentLineIsTheOneToKeepInView) {
+  EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
+  EXPECT_TRUE(messages.firstInView);
+  messages.Append(u"a message");
+  EXPECT_EQ(display.ShowLyricsAt(12, kSong, 0), 0);
+  EXPECT_FALSE(messages.firstInView) << "the pane is left as it is";
+}
+
+TEST_F(LyricDisplayTest, NoNumberOfLinesPushesTheCurrentOneOutOfTheDisplay) {
+  std::vector<TCLyric> many;
+  for (int i = 0; i < 2000; ++i) many.push_back({u"line", i * 1000, (i + 1) * 1000, 0});
+  record.setLists.groups[0].playlists[0].items[0].lyrics = LyricsOf(many);
+  record.settings.numberLyricLines = 2147483647;
+  EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 10);
+  EXPECT_GE(messages.lines.size(), 200u);
+  EXPECT_LE(messages.lines.size(), 1024u);
+}
+
 TEST_F(LyricDisplayTest, ASongWithoutLyricsOrOutsideTheSetListsShowsNothing) {
   record.setLists.groups[0].playlists[0].items.emplace_back().SetPath(u"C:\\b.mp3");
   EXPECT_EQ(display.ShowLyricsAt(10, u"C:\\b.mp3", 3), 3);

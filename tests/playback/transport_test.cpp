@@ -449,6 +449,33 @@ TEST_F(TransportTest, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
   EXPECT_EQ(store.currentSong, 1);
 }
 
+TEST_F(TransportTest, ARangeThatDoesNotBeginBeforeItsEndHoldsTheSongAtItsBegin) {
+  settings.autoPlayPlayList = true;
+  for (const std::int32_t begin : {4, 6}) {
+    repeatFields.begin = begin;
+    repeatFields.end = 4;
+    transport.Play();
+    Run(5.0);
+    player.ForgetCalls();
+    for (int poll = 0; poll < 20; ++poll) {
+      Run(0.3);
+      EXPECT_GE(player.GetPosition().value_or(0.0), begin);
+      EXPECT_LE(player.GetPosition().value_or(9.0), begin + 0.7);
+    }
+    EXPECT_GE(player.Calls().size(), 10u) << "it goes back again and again";
+    EXPECT_EQ(store.currentSong, 0);
+  }
+}
+
+TEST_F(TransportTest, ARangeThatBeginsBehindTheSongEndsItAtTheEndOfTheRange) {
+  settings.autoPlayPlayList = true;
+  repeatFields.begin = 60;
+  repeatFields.end = 4;
+  transport.Play();
+  Run(5.2);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3");
+}
+
 TEST_F(TransportTest, WithoutAutoPlayTheSongRunsPastTheRepeatRange) {
   repeatFields.begin = 2;
   repeatFields.end = 4;
@@ -488,6 +515,27 @@ TEST_F(TransportTest, ATimeRunWithThePlayerItselfIsNeverTakenForTheEndOfASong) {
   EXPECT_EQ(store.currentSong, 0);
   EXPECT_EQ(Song(2).time, u"00:10");
   EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
+}
+
+TEST_F(TransportTest, ATimeRunWithNothingToMeasureLeavesTheSongAlone) {
+  transport.Play();
+  Run(2.0);
+  store.currentPlaylist = 9;
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  EXPECT_FALSE(transport.TimeRun().Pending());
+  EXPECT_TRUE(transport.State().playing);
+  store.currentPlaylist = 0;
+  Run(9.0);
+  EXPECT_EQ(store.currentSong, 1) << "its end is noticed";
+}
+
+TEST_F(TransportTest, ATimeRunEndedByOneWithNothingToMeasureIsNoEndOfASong) {
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  Run(0.3);
+  transport.Play();
+  store.currentPlaylist = 9;
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);  // stops the player with the run
+  EXPECT_FALSE(transport.State().playing);
 }
 
 TEST_F(TransportTest, CancelEndsATimeRun) {

@@ -13,6 +13,8 @@ class TCFakeFrame final : public TCFrameDisplay {
   TCModifiedMark mark = TCModifiedMark::Clean;
   int optionShows = 0;
   std::u16string status;
+  TCPlacing placing = TCPlacing::Nothing;
+  std::u16string placingHint;
 
   void ShowTitle(std::u16string_view documentName, TCModifiedMark modifiedMark) override {
     name = documentName;
@@ -20,6 +22,10 @@ class TCFakeFrame final : public TCFrameDisplay {
   }
   void ShowOptions() override { ++optionShows; }
   void ShowStatus(std::u16string_view text) override { status = text; }
+  void ShowPlacing(TCPlacing newPlacing, std::u16string_view hint) override {
+    placing = newPlacing;
+    placingHint = hint;
+  }
 };
 
 }  // namespace brevant

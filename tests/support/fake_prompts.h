@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
+#include <type_traits>
+#include <vector>
 
 #include "document/prompts.h"
 
@@ -23,6 +26,15 @@ class TCFakePrompts final : public TCPrompts {
   std::u16string lastExample;
   std::u16string lastText;
   TCTextPromptMode lastMode = TCTextPromptMode::Property;
+
+  std::deque<std::vector<std::u16string>> mediaAnswers;
+  TCMediaFileQuestion lastMediaQuestion;
+  std::deque<bool> removeAnswers;
+  std::u16string lastRemoveQuestion;
+
+  // What the user does in the larger dialogs; true is OK.
+  std::deque<std::function<bool(TCAddPlayItems&)>> setListEdits;
+  std::deque<std::function<bool(TCSongPropertiesForm&)>> songEdits;
 
   std::optional<std::u16string> EnterText(const TCTextPrompt& prompt) override {
     lastMode = prompt.mode;
@@ -42,10 +54,24 @@ class TCFakePrompts final : public TCPrompts {
     lastName = suggestedPath;
     return Next(saveAsAnswers, std::optional<std::u16string>());
   }
+  std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion& question) override {
+    lastMediaQuestion = question;
+    return Next(mediaAnswers, std::vector<std::u16string>());
+  }
+  bool ConfirmRemove(std::u16string_view question) override {
+    lastRemoveQuestion = question;
+    return Next(removeAnswers, false);
+  }
+  bool EditSetLists(TCAddPlayItems& form) override {
+    return Next(setListEdits, {[](TCAddPlayItems&) { return false; }})(form);
+  }
+  bool EditSongProperties(TCSongPropertiesForm& form) override {
+    return Next(songEdits, {[](TCSongPropertiesForm&) { return false; }})(form);
+  }
 
  private:
   template <typename Answer>
-  static Answer Next(std::deque<Answer>& answers, Answer none) {
+  static Answer Next(std::deque<Answer>& answers, std::type_identity_t<Answer> none) {
     if (answers.empty()) {
       ADD_FAILURE() << "a question was asked that nobody expected";
       return none;

@@ -14,18 +14,22 @@ class TCMessageLog final : public TCMessageDisplay {
   std::vector<std::u16string> lines;
   std::vector<TCLineRole> roles;
   int clears = 0;
+  bool firstInView = false;
 
   void Clear() override {
     lines.clear();
     roles.clear();
     role = TCLineRole::Normal;
+    firstInView = false;
     ++clears;
   }
   void Append(std::u16string_view text) override {
     lines.emplace_back(text);
     roles.push_back(role);
+    firstInView = false;
   }
   void SetLineRole(TCLineRole lineRole) override { role = lineRole; }
+  void KeepFirstInView() override { firstInView = true; }
 
  private:
   TCLineRole role = TCLineRole::Normal;

@@ -46,6 +46,15 @@ def press(*keys):
     subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "30", *keys], check=True)
 
 
+def hold(key, while_held):
+    """Keeps a key down, so that the keyboard repeats it, until `while_held` has run."""
+    subprocess.run(["xdotool", "keydown", key], check=True)
+    try:
+        while_held()
+    finally:
+        subprocess.run(["xdotool", "keyup", key], check=True)
+
+
 def click(x, y, times=1):
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "60", "1"],
                    check=True)

@@ -40,6 +40,11 @@ class Stage:
         """What the player pane's label for something ("Elapsed time", "Volume") shows."""
         return self.program.wait_for("label", description=description).name
 
+    def status(self):
+        """What the status bar says."""
+        said = tree.find(self.program.wait_for("status bar", "Status bar"), "label").name
+        return "" if said == "Status message" else said
+
     def elapsed(self):
         minutes, seconds = self.label("Elapsed time").split(":")
         return int(minutes) * 60 + int(seconds)
@@ -47,12 +52,16 @@ class Stage:
     def wait_for_label(self, description, text, seconds=5):
         wait_for(f"{description} {text!r}", lambda: self.label(description) == text, seconds)
 
-    def enter_text(self, title, prompt, text):
-        """Answers the text prompt that is about to open; returns what its field held."""
+    def prompt_text(self, title, prompt):
+        """What the field of the text prompt holds that is about to open."""
         dialog = self.program.wait_for("dialog", title)
         wait_for("the prompt to have the keys", lambda: screen.active_window_title() == title)
         assert tree.find(dialog, "label", prompt), f"the prompt does not say {prompt!r}"
-        held = tree.text_of(tree.find(dialog, "text", prompt))
+        return tree.text_of(tree.find(dialog, "text", prompt))
+
+    def enter_text(self, title, prompt, text):
+        """Answers the text prompt that is about to open; returns what its field held."""
+        held = self.prompt_text(title, prompt)
         screen.press(*text, "Return")
         wait_for("the prompt to close", lambda: self.program.find("dialog", title) is None)
         wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))

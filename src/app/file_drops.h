@@ -1,0 +1,36 @@
+// Files that are dropped anywhere on the main window. While a dialog is open nothing can be dropped.
+// User-interface thread only.
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QStringList>
+#include <QWidget>
+
+class QMimeData;
+
+namespace brevant {
+
+class TCFileDrops final : public QObject {
+  Q_OBJECT
+
+ public:
+  // Takes drops on `window`, which outlives this.
+  explicit TCFileDrops(QWidget& window);
+
+ Q_SIGNALS:
+  // Native names in the order in which they lay in the drop. Sent when the drop is over, so that whoever
+  // hears it may ask the user something.
+  void filesDropped(const QList<QByteArray>& nativeNames);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // Of what a drag carries; what is no file of this machine is left out.
+  [[nodiscard]] static QList<QByteArray> FilesIn(const QMimeData& data);
+
+  QWidget& window;
+};
+
+}  // namespace brevant
