@@ -21,7 +21,6 @@ namespace brevant {
 namespace {
 
 constexpr QSize kPictureSize(23, 19);
-constexpr int kPlaylistLevel = 2;
 constexpr int kSongLevel = 3;
 constexpr int kArrowRoom = 7;  // pixels that the lines leave free around the middle of an arrow
 
@@ -82,8 +81,8 @@ void TCPlayListManagerTreeView::EndCtrlDrag() {
   ShowPointer(NodeUnder(QCursor::pos()));
 }
 
-int TCPlayListManagerTreeView::SelectedLevel() const {
-  return nodes->LevelOf(SelectedNode());
+TCNodeKind TCPlayListManagerTreeView::SelectedKind() const {
+  return static_cast<TCNodeKind>(nodes->LevelOf(SelectedNode()));
 }
 
 std::vector<TCTreeNode> TCPlayListManagerTreeView::AddNodes(TCTreeNode parent, std::size_t index,
@@ -97,6 +96,8 @@ void TCPlayListManagerTreeView::DeleteNode(TCTreeNode node) {
   QModelIndex selected = nodes->IndexOf(SelectedNode());
   while (selected.isValid() && selected != index) selected = selected.parent();
   if (selected.isValid()) {
+    // What was typed so far goes with the node.
+    if (state() == EditingState) closeEditor(delegate->Editor(), QAbstractItemDelegate::NoHint);
     const int last = nodes->rowCount(index.parent()) - 1;
     QModelIndex neighbour = index.parent();
     if (index.row() < last) {
@@ -183,7 +184,7 @@ void TCPlayListManagerTreeView::ResetMouseState() {
   buttonPressed = false;
   dragging = false;
   ctrlDrag = false;
-  clickMayEdit = false;
+  ForgetClick();
   pressedNode = TCTreeNode::None;
   keyMoveSource = TCTreeNode::None;
   ShowPointer(NodeUnder(QCursor::pos()));
@@ -237,6 +238,7 @@ void TCPlayListManagerTreeView::DragWithin(const QMouseEvent& event) {
     const bool isClick = under == pressedNode && way < QApplication::startDragDistance();
     if (pressedNode == TCTreeNode::None || isClick) return;
     dragging = true;
+    ForgetClick();
     viewport()->setCursor(cursors.Of(TCPointer::Pressed));
   }
   if (under != TCTreeNode::None) setCurrentIndex(nodes->IndexOf(under));
@@ -288,9 +290,16 @@ void TCPlayListManagerTreeView::contextMenuEvent(QContextMenuEvent* event) {
   Q_EMIT contextMenuWanted(viewport()->mapToGlobal(node.isValid() ? node.bottomLeft() : QPoint()));
 }
 
+bool TCPlayListManagerTreeView::EnterActs() const {
+  const TCNodeKind kind = SelectedKind();
+  return kind == TCNodeKind::Playlist || kind == TCNodeKind::Song;
+}
+
 void TCPlayListManagerTreeView::keyPressEvent(QKeyEvent* event) {
+  // What a label's field leaves over, Enter and arrows among it, is meant for the field alone.
+  if (state() == EditingState) return;
   if (IsEnter(*event)) {
-    if (SelectedLevel() < kPlaylistLevel) {
+    if (!EnterActs()) {
       event->ignore();
     } else if (!event->isAutoRepeat()) {
       enterDown = event->key();
@@ -310,7 +319,7 @@ void TCPlayListManagerTreeView::keyReleaseEvent(QKeyEvent* event) {
   if (IsEnter(*event)) {
     if (event->isAutoRepeat() || enterDown != event->key()) return;
     enterDown = 0;
-    if (SelectedLevel() >= kPlaylistLevel) Q_EMIT enterPressed();
+    if (EnterActs()) Q_EMIT enterPressed();
     return;
   }
   QTreeView::keyReleaseEvent(event);
@@ -330,15 +339,18 @@ void TCPlayListManagerTreeView::focusInEvent(QFocusEvent* event) {
 void TCPlayListManagerTreeView::focusOutEvent(QFocusEvent* event) {
   buttonPressed = false;
   enterDown = 0;
+  ForgetClick();
   QTreeView::focusOutEvent(event);
 }
 
 bool TCPlayListManagerTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-  if (trigger == SelectedClicked && !clickMayEdit) return false;
-  // The click was a while ago: the toolkit waits whether it becomes a double-click.
-  const bool tooLate = !hasFocus() || dragging || placing == TCPlacing::Waiting;
-  if (trigger == AllEditTriggers && tooLate) return false;
-  return QTreeView::edit(index, trigger, event);
+  return trigger == SelectedClicked && !clickMayEdit ? false : QTreeView::edit(index, trigger, event);
+}
+
+void TCPlayListManagerTreeView::ForgetClick() {
+  clickMayEdit = false;
+  // The toolkit waits whether the click becomes a double-click; a change of the current node ends that.
+  QTreeView::edit(currentIndex(), CurrentChanged, nullptr);
 }
 
 void TCPlayListManagerTreeView::RenameFromLabel(const QModelIndex& index, const QString& typed) {

@@ -12,6 +12,7 @@
 
 #include "document/frame_display.h"
 #include "document/tree_display.h"
+#include "document/tree_presenter.h"
 #include "views/set_list_tree_model.h"
 #include "views/stage_cursors.h"
 #include "views/tree_node_stream.h"
@@ -36,9 +37,9 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   void FollowCtrlDrag(QPoint globalPosition);
   void EndCtrlDrag();
 
-  // 1 for a group, 2 for a playlist, 3 for a song; 0 when nothing is selected.
-  [[nodiscard]] int SelectedLevel() const;
-  // As it is shown; what a cut-off label's tool tip holds.
+  // None when nothing is selected.
+  [[nodiscard]] TCNodeKind SelectedKind() const;
+  // The label, which is the entry's name unless it was edited to blanks.
   [[nodiscard]] QString NodeText(TCTreeNode node) const { return nodes->TextOf(node); }
 
   std::vector<TCTreeNode> AddNodes(TCTreeNode parent, std::size_t index,
@@ -94,6 +95,8 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
 
  private:
   void RenameFromLabel(const QModelIndex& index, const QString& typed);
+  void ForgetClick();
+  [[nodiscard]] bool EnterActs() const;
   void DragWithin(const QMouseEvent& event);
   void ShowDropTarget(TCTreeNode node);
   void ShowPointer(TCTreeNode under);

@@ -40,9 +40,9 @@ bool TCTreeNodeDelegate::IsCutOff(const QStyleOptionViewItem& option, const QMod
 
 QWidget* TCTreeNodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                           const QModelIndex& index) const {
-  QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-  if (editor != nullptr) editor->setAccessibleName(QStringLiteral("Name"));
-  return editor;
+  labelEditor = QStyledItemDelegate::createEditor(parent, option, index);
+  if (labelEditor != nullptr) labelEditor->setAccessibleName(QStringLiteral("Name"));
+  return labelEditor;
 }
 
 void TCTreeNodeDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*model*/,

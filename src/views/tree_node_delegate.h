@@ -2,7 +2,9 @@
 // label. Part of the tree; user-interface thread only.
 #pragma once
 
+#include <QPointer>
 #include <QStyledItemDelegate>
+#include <QWidget>
 
 namespace brevant {
 
@@ -18,6 +20,9 @@ class TCTreeNodeDelegate final : public QStyledItemDelegate {
   // The label's text does not fit in its row.
   [[nodiscard]] bool IsCutOff(const QStyleOptionViewItem& option, const QModelIndex& index) const;
 
+  // The field that a label is edited in, while one is.
+  [[nodiscard]] QWidget* Editor() const { return labelEditor; }
+
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
@@ -32,6 +37,8 @@ class TCTreeNodeDelegate final : public QStyledItemDelegate {
  private:
   [[nodiscard]] QRect PartOf(const QStyleOptionViewItem& option, const QModelIndex& index,
                              QStyle::SubElement part) const;
+
+  mutable QPointer<QWidget> labelEditor;  // Qt makes it in a const function
 };
 
 }  // namespace brevant
