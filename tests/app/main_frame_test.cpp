@@ -179,6 +179,7 @@ TEST_F(MainFrame, FitsTheScreen) {
 }
 
 TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
+  frame.show();
   for (const bool whiteOnBlack : {false, true}) {
     settings.SetWhiteOnBlack(whiteOnBlack);
     frame.ShowOptions();

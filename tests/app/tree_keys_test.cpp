@@ -119,7 +119,7 @@ TEST_F(TreeAndTable, ShiftWithAnArrowMovesANode) {
 
 TEST_F(TreeAndTable, WhileALabelIsEditedTheTableKeepsOnlyItsFunctionKeys) {
   tree->SelectNode(playlists[0]);
-  tree->edit(tree->currentIndex());
+  static_cast<QAbstractItemView*>(tree)->edit(tree->currentIndex());
   auto* field = tree->findChild<QLineEdit*>();
   ASSERT_NE(field, nullptr);
   ASSERT_EQ(QApplication::focusWidget(), field);
