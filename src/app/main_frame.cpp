@@ -19,7 +19,9 @@ constexpr QSize kDefaultSize(1600, 1000);
 // Kept free for the title bar and borders that a window manager adds.
 constexpr QSize kWindowBorders(16, 48);
 constexpr QSize kPaneSize(400, 200);
-// The panes below the playlist have a third of a tall window: three lyric lines of the usual size.
+constexpr int kManagerWidth = 400;
+// The panes below the playlist have a third of a tall window: three lyric lines of the usual size. The one
+// beside it has a third of a narrow window.
 constexpr int kPaneShare = 3;
 constexpr std::int32_t kMessageLines = 1024;
 constexpr int kFullVolume = 100;
@@ -30,6 +32,7 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
     : settings(programSettings),
       inner(new QMainWindow(this)),
       view(new TCBrevantView(inner)),
+      tree(new TCPlayListManagerTreeView(inner)),
       playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
       messageDisplay(new TCGeneralReportsTab(inner)),
       playControls(new TCPlayControlsBar(this)),
@@ -46,13 +49,14 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
   inner->setContextMenuPolicy(Qt::NoContextMenu);
   inner->setCentralWidget(view);
 
+  managerDock = AddPane(TCCommandId::PlaylistManagerPane, TCTextId::PlaylistManagerPaneTitle, *tree);
   playerDock = AddPane(TCCommandId::PlayerPane, TCTextId::PlayerPaneTitle, *playerPane);
   messageDock = AddPane(TCCommandId::MessagePane, TCTextId::MessagePaneTitle, *messageDisplay);
   PlaceOnScreen();
   ArrangePanes();
 
-  connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
-  view->SetRowPicture(PictureIcon(kRowIcon));
+  ConnectViews();
+  DressViews();
   player.SetVolume(kFullVolume);
   messageDisplay->Enable(kMessageLines);
   ShowTitle({}, TCModifiedMark::Clean);
@@ -62,7 +66,25 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
 
 TCMainFrame::~TCMainFrame() {
   // The panes go with the toolkit's part of this window and tell of it, when nobody is left to be told.
-  for (QDockWidget* pane : {playerDock, messageDock}) pane->disconnect(this);
+  for (QDockWidget* pane : {managerDock, playerDock, messageDock}) pane->disconnect(this);
+}
+
+void TCMainFrame::ConnectViews() {
+  connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
+  // The mouse stays with the playlist while songs are dragged out of it; the tree shows where they would go.
+  connect(view, &TCBrevantView::ctrlDragMoved, tree, &TCPlayListManagerTreeView::FollowCtrlDrag);
+  connect(view, &TCBrevantView::ctrlDragEnded, tree, &TCPlayListManagerTreeView::EndCtrlDrag);
+}
+
+void TCMainFrame::DressViews() {
+  view->SetRowPicture(PictureIcon(kRowIcon));
+  TCSetListTreeModel::TCPictures pictures;
+  std::ranges::transform(kTreeIcons, pictures.begin(), PictureIcon);
+  tree->SetPictures(pictures);
+  const TCStageCursors cursors{PictureCursor(kRowCursor), PictureCursor(kPressedCursor),
+                               PictureCursor(kDragCursor), PictureCursor(kBusyCursor)};
+  view->SetCursors(cursors);
+  tree->SetCursors(cursors);
 }
 
 void TCMainFrame::SaveLayout(QSettings& layout) const {
@@ -85,8 +107,11 @@ QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& conte
 }
 
 void TCMainFrame::ArrangePanes() {
+  inner->addDockWidget(Qt::LeftDockWidgetArea, managerDock);
   inner->addDockWidget(Qt::BottomDockWidgetArea, playerDock);
   inner->splitDockWidget(playerDock, messageDock, Qt::Horizontal);
+  // On a small screen the playlist keeps the most of the width.
+  inner->resizeDocks({managerDock}, {std::min(kManagerWidth, width() / kPaneShare)}, Qt::Horizontal);
   inner->resizeDocks({playerDock, messageDock}, {kPaneSize.width(), kPaneSize.width()}, Qt::Horizontal);
   inner->resizeDocks({playerDock}, {std::max(kPaneSize.height(), height() / kPaneShare)}, Qt::Vertical);
 }
@@ -97,6 +122,7 @@ void TCMainFrame::PlaceOnScreen() {
 
 bool TCMainFrame::Handles(TCCommandId command) {
   switch (command) {
+    case TCCommandId::PlaylistManagerPane:
     case TCCommandId::PlayerPane:
     case TCCommandId::MessagePane:
     case TCCommandId::StatusBarVisible:
@@ -128,6 +154,8 @@ bool TCMainFrame::IsChecked(TCCommandId command) const {
 
 QDockWidget* TCMainFrame::PaneOf(TCCommandId command) const {
   switch (command) {
+    case TCCommandId::PlaylistManagerPane:
+      return managerDock;
     case TCCommandId::PlayerPane:
       return playerDock;
     case TCCommandId::MessagePane:
@@ -175,6 +203,12 @@ void TCMainFrame::ShowOptions() {
 
 void TCMainFrame::ShowStatus(std::u16string_view text) {
   statusLine->ShowMessage(ToQString(text));
+}
+
+void TCMainFrame::ShowPlacing(TCPlacing placing, std::u16string_view hint) {
+  view->SetPlacing(placing);
+  tree->SetPlacing(placing);
+  statusLine->ShowStanding(placing == TCPlacing::Waiting ? ToQString(hint) : QString());
 }
 
 bool TCMainFrame::event(QEvent* event) {

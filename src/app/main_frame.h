@@ -1,6 +1,6 @@
-// The main window: the playlist in the middle, the player and the message display in panes below it, the menu
-// bar, the play controls and the status bar around them. It shows and decides nothing about songs; commands
-// come and go through TCCommandRouter. User-interface thread only.
+// The main window: the playlist in the middle, the playlist manager in a pane beside it, the player and the
+// message display in panes below, the menu bar, the play controls and the status bar around them. It shows
+// and decides nothing about songs; commands come and go through TCCommandRouter. User-interface thread only.
 #pragma once
 
 #include <QDockWidget>
@@ -19,6 +19,7 @@
 #include "playback/player_monitor.h"
 #include "resources/command_id.h"
 #include "views/brevant_view.h"
+#include "views/play_list_manager_tree_view.h"
 #include "views/wmp_pane_container.h"
 
 namespace brevant {
@@ -34,6 +35,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   ~TCMainFrame() override;
 
   [[nodiscard]] TCBrevantView& PlaylistView() { return *view; }
+  [[nodiscard]] TCPlayListManagerTreeView& Tree() { return *tree; }
   [[nodiscard]] TCGeneralReportsTab& MessageDisplay() { return *messageDisplay; }
   [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }
   [[nodiscard]] TCPlayControlsBar& PlayControls() { return *playControls; }
@@ -53,6 +55,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   void ShowTitle(std::u16string_view name, TCModifiedMark mark) override;
   void ShowOptions() override;
   void ShowStatus(std::u16string_view text) override;
+  void ShowPlacing(TCPlacing placing, std::u16string_view hint) override;
 
  Q_SIGNALS:
   // An option or a pane changed: check marks are to be shown anew.
@@ -63,6 +66,8 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
 
  private:
   QDockWidget* AddPane(TCCommandId id, TCTextId title, QWidget& content);
+  void ConnectViews();
+  void DressViews();
   void ArrangePanes();
   void PlaceOnScreen();
   [[nodiscard]] QDockWidget* PaneOf(TCCommandId command) const;
@@ -89,8 +94,10 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   // command bars' can be kept and restored apart. The toolkit owns every child.
   QMainWindow* inner = nullptr;
   TCBrevantView* view = nullptr;
+  TCPlayListManagerTreeView* tree = nullptr;
   TCWMPPaneContainer* playerPane = nullptr;
   TCGeneralReportsTab* messageDisplay = nullptr;
+  QDockWidget* managerDock = nullptr;
   QDockWidget* playerDock = nullptr;
   QDockWidget* messageDock = nullptr;
   TCPlayControlsBar* playControls = nullptr;

@@ -65,6 +65,19 @@ QIcon PictureIcon(std::string_view name) {
   return name.empty() ? QIcon() : QIcon(new TCPictureEngine(ReadPicture(name)));
 }
 
+QCursor PictureCursor(std::string_view name) {
+  QSvgRenderer renderer(ReadPicture(name));
+  // Sharp on a screen with small pixels too; the tip is counted in the picture's own.
+  const qreal scale = qApp->devicePixelRatio();
+  QPixmap picture((QSizeF(renderer.defaultSize()) * scale).toSize());
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  renderer.render(&painter);
+  painter.end();
+  picture.setDevicePixelRatio(scale);
+  return QCursor(picture, kCursorTipX, kCursorTipY);
+}
+
 QIcon ProgramIcon() {
   return QIcon(QString::fromStdString(IconResource(kProgramIcon)));
 }

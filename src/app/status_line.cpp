@@ -41,13 +41,19 @@ void TCStatusLine::ShowMessage(const QString& text) {
   Refresh();
 }
 
+void TCStatusLine::ShowStanding(const QString& text) {
+  standing = text;
+  Refresh();
+}
+
 void TCStatusLine::ShowHint(const QString& text) {
   hint = text;
   Refresh();
 }
 
 void TCStatusLine::Refresh() {
-  messagePane.setText(hint.isEmpty() ? message : hint);
+  const QString& said = standing.isEmpty() ? message : standing;
+  messagePane.setText(hint.isEmpty() ? said : hint);
   messagePane.setAccessibleName(messagePane.text().isEmpty() ? QStringLiteral("Status message")
                                                              : messagePane.text());
   // A message takes what it needs of a narrow bar, up to half; without one the keys have it all.

@@ -17,7 +17,9 @@ class TCStatusLine : public QStatusBar {
 
   // Stands until the next one, or until its time is over.
   void ShowMessage(const QString& text);
-  // Goes before the message as long as it is not empty.
+  // Stands before every message for as long as it is not empty.
+  void ShowStanding(const QString& text);
+  // Goes before both as long as it is not empty.
   void ShowHint(const QString& text);
 
   [[nodiscard]] QString ShownMessage() const { return messagePane.text(); }
@@ -32,6 +34,7 @@ class TCStatusLine : public QStatusBar {
   TCStatusPane messagePane;
   TCStatusPane keyHelpPane;
   QString message;
+  QString standing;
   QString hint;
   QTimer messageEnd;
 };

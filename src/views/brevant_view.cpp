@@ -6,10 +6,8 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QResizeEvent>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "views/display_font.h"
@@ -18,6 +16,7 @@
 #include "views/playlist_row_delegate.h"
 #include "views/row_colours.h"
 #include "views/text_conversion.h"
+#include "views/under_pointer.h"
 
 namespace brevant {
 
@@ -29,16 +28,13 @@ constexpr int kSmallPicture = 16;  // pixels
 constexpr int kLargestPicture = 48;
 constexpr int kPictureMargins = 10;
 
-// Texts that are measured and remembered; a damaged file may hold any number of different ones.
-constexpr int kMostMeasuredTexts = 2000;
-constexpr qsizetype kLongestMeasuredText = 100;
-
-constexpr std::array kTextColumns{TCPlaylistColumn::Number, TCPlaylistColumn::Status, TCPlaylistColumn::Time};
-
 }  // namespace
 
 TCBrevantView::TCBrevantView(QWidget* parent)
-    : QTableView(parent), playlistModel(new TCPlaylistModel(this)), columnHeader(new TCPlaylistHeader(this)) {
+    : QTableView(parent),
+      playlistModel(new TCPlaylistModel(this)),
+      columnHeader(new TCPlaylistHeader(this)),
+      columns(*this, *columnHeader, *playlistModel) {
   setObjectName(QStringLiteral("playlistView"));
   setAccessibleName(QStringLiteral("Playlist"));
   setModel(playlistModel);
@@ -56,22 +52,13 @@ TCBrevantView::TCBrevantView(QWidget* parent)
   setShowGrid(false);
   setFrameShape(NoFrame);
   setCornerButtonEnabled(false);
+  viewport()->setMouseTracking(true);
 
   // Rows are never measured one by one: with large playlists that takes seconds.
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->hide();
 
-  // Qt's own answer to a double-click on a column's edge reads the rows in sight only.
-  disconnect(columnHeader, &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
-  connect(columnHeader, &QHeaderView::sectionHandleDoubleClicked, this, [this](int section) {
-    columnWidths.Release(static_cast<TCPlaylistColumn>(section));
-    FitColumns();
-  });
-  connect(columnHeader, &QHeaderView::sectionResized, this, [this](int section, int, int newSize) {
-    if (fittingColumns) return;
-    columnWidths.SetByUser(static_cast<TCPlaylistColumn>(section), newSize);
-    FitColumns();
-  });
+  columns.FollowUser();
   // The last header is cut where the window ends, which is another place after a scroll.
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, columnHeader->viewport(),
           qOverload<>(&QWidget::update));
@@ -99,13 +86,21 @@ void TCBrevantView::SetBackground(const QColor& text, const QColor& background) 
   setPalette(colours);
 }
 
+void TCBrevantView::SetCursors(const TCStageCursors& stageCursors) {
+  cursors = stageCursors;
+}
+
+void TCBrevantView::SetPlacing(TCPlacing state) {
+  placing = state;
+  ShowPointer(TCPointer::Arrow);
+}
+
 void TCBrevantView::SaveColumnWidths(QSettings& settings) const {
-  columnWidths.Save(settings);
+  columns.Save(settings);
 }
 
 void TCBrevantView::LoadColumnWidths(const QSettings& settings) {
-  columnWidths.Load(settings);
-  FitColumns();
+  columns.Load(settings);
 }
 
 void TCBrevantView::ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) {
@@ -114,11 +109,11 @@ void TCBrevantView::ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) {
   if (mode == TCShowRows::Afresh) {
     rowKeptInView = -1;
     scrollToTop();
-    for (const TCPlaylistColumn column : kTextColumns) columnWidths.SetNeeded(column, 0);
-    MeasureHeaders();
+    columns.MeasureAfresh();
+  } else {
+    columns.MeasureRows();
   }
-  MeasureRows();
-  FitColumns();
+  columns.Fit();
 }
 
 void TCBrevantView::SetRowColours(std::vector<TCRowColours> colours) {
@@ -129,21 +124,21 @@ void TCBrevantView::SetRowColours(std::vector<TCRowColours> colours) {
 void TCBrevantView::SetRowTexts(std::int32_t row, const TCRowTexts& texts) {
   playlistModel->SetTexts(row, texts);
   if (!playlistModel->HasRow(row)) return;
-  MeasureRow(playlistModel->Rows()[static_cast<std::size_t>(row)]);
-  FitColumns();
+  columns.MeasureRow(row);
+  columns.Fit();
 }
 
 void TCBrevantView::SetRowTime(std::int32_t row, std::u16string_view time) {
   if (time.empty() || !playlistModel->HasRow(row)) return;
   playlistModel->SetTime(row, time);
-  MeasureRow(playlistModel->Rows()[static_cast<std::size_t>(row)]);
-  FitColumns();
+  columns.MeasureRow(row);
+  columns.Fit();
 }
 
 void TCBrevantView::SetPlaylistHeader(std::u16string_view text) {
   playlistModel->SetNameHeader(ToQString(text));
-  MeasureHeaders();
-  FitColumns();
+  columns.MeasureHeaders();
+  columns.Fit();
 }
 
 void TCBrevantView::ClearRows() {
@@ -207,8 +202,11 @@ void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points
 }
 
 void TCBrevantView::ResetMouseState() {
-  dragDropped = true;
+  const bool wasCopyDrag = drag.IsCopyDrag();
+  drag.Cancel();
   setState(NoState);
+  ShowPointer(TCPointer::Arrow);
+  if (wasCopyDrag) Q_EMIT ctrlDragEnded();
 }
 
 void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
@@ -220,20 +218,111 @@ void TCBrevantView::scrollTo(const QModelIndex& index, ScrollHint hint) {
   horizontalScrollBar()->setValue(place);
 }
 
+QItemSelectionModel::SelectionFlags TCBrevantView::selectionCommand(const QModelIndex& index,
+                                                                    const QEvent* event) const {
+  if (event == nullptr || event->type() != QEvent::MouseButtonPress) {
+    return QTableView::selectionCommand(index, event);
+  }
+  // A press with Ctrl on a selected row may begin to drag the selection away, so it stays for now.
+  const auto* press = static_cast<const QMouseEvent*>(event);
+  const bool mayDrag = press->button() == Qt::LeftButton && press->modifiers() == Qt::ControlModifier;
+  return mayDrag && selectionModel()->isSelected(index) ? QItemSelectionModel::NoUpdate
+                                                        : QTableView::selectionCommand(index, event);
+}
+
 void TCBrevantView::mousePressEvent(QMouseEvent* event) {
-  dragDropped = false;
+  if (event->button() == Qt::LeftButton) {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    drag.Press(index.row(), event->modifiers(), selectionModel()->isSelected(index));
+    pressPlace = event->position().toPoint();
+  }
   QTableView::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton) {
+    ShowPointer(drag.PressedRow() >= 0 ? TCPointer::Pressed : TCPointer::Arrow);
+  }
   if (event->button() == Qt::RightButton) Q_EMIT contextMenuWanted(event->globalPosition().toPoint());
 }
 
 void TCBrevantView::mouseMoveEvent(QMouseEvent* event) {
-  if (dragDropped && event->buttons() != Qt::NoButton) return;
-  QTableView::mouseMoveEvent(event);
+  // With a button down the toolkit would select all rows on the way.
+  if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
+  if (event->buttons().testFlag(Qt::LeftButton)) {
+    MoveDrag(*event);
+  } else {
+    ShowPointer(drag.PointerOver(RowUnder(*event)));
+  }
+}
+
+void TCBrevantView::MoveDrag(const QMouseEvent& event) {
+  const int row = RowUnder(event);
+  const QPoint way = event.position().toPoint() - pressPlace;
+  // A click with an unsteady hand copies and moves nothing.
+  const bool isClick = row == drag.PressedRow() && way.manhattanLength() < QApplication::startDragDistance();
+  if (isClick && !drag.IsDragging()) return;
+  switch (drag.Move(row, event.modifiers())) {
+    case TCRowDrag::TCMoved::Nothing:
+      break;
+    case TCRowDrag::TCMoved::SelectsRow:
+      clearSelection();
+      SelectRow(row);
+      break;
+    case TCRowDrag::TCMoved::CopyDrags:
+      Q_EMIT ctrlDragMoved(event.globalPosition().toPoint());
+      break;
+  }
+  const bool overOtherPane = drag.IsCopyDrag() && !IsUnder(*viewport(), event.globalPosition().toPoint());
+  ShowPointer(overOtherPane ? TCPointer::Busy : drag.PointerOver(row));
+}
+
+void TCBrevantView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    QTableView::mouseReleaseEvent(event);
+    return;
+  }
+  // After a drag the toolkit would still take it for the end of a click.
+  if (drag.IsDragging()) {
+    setState(NoState);
+  } else {
+    QTableView::mouseReleaseEvent(event);
+  }
+  ReleaseDrag(*event);
+}
+
+void TCBrevantView::ReleaseDrag(const QMouseEvent& event) {
+  const int row = RowUnder(event);
+  const TCRowDrag::TCRelease release = drag.Release(row, event.modifiers());
+  ShowPointer(drag.PointerOver(row));
+  switch (release.what) {
+    case TCRowDrag::TCReleased::Nothing:
+      break;
+    case TCRowDrag::TCReleased::MovesRow:
+      Q_EMIT rowMoved(release.from, release.to);
+      break;
+    case TCRowDrag::TCReleased::DropsCopies:
+      Q_EMIT ctrlDragEnded();
+      Q_EMIT ctrlDragReleased(event.globalPosition().toPoint());
+      break;
+    case TCRowDrag::TCReleased::TogglesRow:
+      selectionModel()->select(playlistModel->index(row, 0),
+                               QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+      break;
+  }
+}
+
+int TCBrevantView::RowUnder(const QMouseEvent& event) const {
+  // While a button is down, positions outside of the view come in too.
+  if (!IsUnder(*viewport(), event.globalPosition().toPoint())) return -1;
+  return indexAt(event.position().toPoint()).row();
+}
+
+void TCBrevantView::ShowPointer(TCPointer pointer) {
+  viewport()->setCursor(cursors.Of(placing == TCPlacing::Waiting ? TCPointer::Busy : pointer));
 }
 
 void TCBrevantView::mouseDoubleClickEvent(QMouseEvent* event) {
   QTableView::mouseDoubleClickEvent(event);
   if (event->button() != Qt::LeftButton) return;
+  drag.Cancel();
   const std::int32_t row = SelectedRow();
   SelectRow(row);
   Q_EMIT rowPicked(row);
@@ -276,7 +365,7 @@ void TCBrevantView::keyPressEvent(QKeyEvent* event) {
 void TCBrevantView::resizeEvent(QResizeEvent* event) {
   const bool keepRow = !event->oldSize().isValid() || IsInView(rowKeptInView, event->oldSize().height());
   QTableView::resizeEvent(event);
-  FitColumns();
+  columns.Fit();
   if (keepRow && playlistModel->HasRow(rowKeptInView)) scrollTo(playlistModel->index(rowKeptInView, 0));
 }
 
@@ -301,87 +390,14 @@ bool TCBrevantView::IsInView(std::int32_t row, int viewHeight) const {
 }
 
 void TCBrevantView::FitToFont() {
-  measuredTexts.clear();
-  const QFontMetrics metrics(font(), this);
-  int widest = 0;
-  for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
-    const int width = metrics.horizontalAdvance(QChar(digit));
-    if (width > widest) widestDigit = QChar(digit);
-    widest = std::max(widest, width);
-  }
-
-  const int line = metrics.height();
+  const int line = QFontMetrics(font(), this).height();
   const int picture = std::clamp(line * 3 / 4, kSmallPicture, kLargestPicture);
   setIconSize({picture, picture});
-  columnWidths.SetNeeded(TCPlaylistColumn::Picture, picture + kPictureMargins);
-  const int rowHeight = std::max(line + std::max(4, line / 6), picture + 2);
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(rowHeight);
-  {
-    // Widens columns that are narrower, which is not the user's doing.
-    const QScopedValueRollback<bool> guard(fittingColumns, true);
-    columnHeader->setMinimumSectionSize(
-        std::max(kSmallPicture + kPictureMargins, widest + columnHeader->TextMargins()));
-  }
-
-  for (const TCPlaylistColumn column : kTextColumns) columnWidths.SetNeeded(column, 0);
-  MeasureHeaders();
-  MeasureRows();
+  verticalHeader()->setDefaultSectionSize(std::max(line + std::max(4, line / 6), picture + 2));
+  columns.MeasureInFont(picture + kPictureMargins);
   updateGeometries();
-  FitColumns();
-}
-
-void TCBrevantView::MeasureRows() {
-  for (const TCPlaylistRow& row : playlistModel->Rows()) MeasureRow(row);
-}
-
-void TCBrevantView::MeasureRow(const TCPlaylistRow& row) {
-  for (const TCPlaylistColumn column : kTextColumns) {
-    MakeRoomFor(column, ToQString(TCPlaylistModel::TextIn(row, column)));
-  }
-}
-
-void TCBrevantView::MeasureHeaders() {
-  for (const TCPlaylistColumn column : kTextColumns) {
-    const QString text =
-        playlistModel->headerData(static_cast<int>(column), Qt::Horizontal, Qt::DisplayRole).toString();
-    MakeRoomFor(column, text);
-  }
-}
-
-void TCBrevantView::MakeRoomFor(TCPlaylistColumn column, const QString& text) {
-  columnWidths.MakeRoomFor(column, CellWidthOf(text), columnHeader->GapBetweenTexts());
-}
-
-void TCBrevantView::FitColumns() {
-  if (fittingColumns) return;
-  const QScopedValueRollback<bool> guard(fittingColumns, true);
-  int others = 0;
-  for (int column = 0; column < kPlaylistColumns - 1; ++column) {
-    const int width = columnWidths.Of(static_cast<TCPlaylistColumn>(column));
-    if (columnHeader->sectionSize(column) != width) columnHeader->resizeSection(column, width);
-    others += columnHeader->sectionSize(column);
-  }
-  // The names take what is left, and the header's total is never cut off for want of a wider column.
-  const int name = static_cast<int>(TCPlaylistColumn::Name);
-  const QString headerText = playlistModel->headerData(name, Qt::Horizontal, Qt::DisplayRole).toString();
-  columnWidths.SetNeeded(TCPlaylistColumn::Name,
-                         std::max(viewport()->width() - others, CellWidthOf(headerText)));
-  const int nameWidth = columnWidths.Of(TCPlaylistColumn::Name);
-  if (columnHeader->sectionSize(name) != nameWidth) columnHeader->resizeSection(name, nameWidth);
-}
-
-int TCBrevantView::CellWidthOf(const QString& text) {
-  QString shape = text.left(kLongestMeasuredText);
-  for (QChar& character : shape) {
-    if (character >= QLatin1Char('0') && character <= QLatin1Char('9')) character = widestDigit;
-  }
-  const auto known = measuredTexts.constFind(shape);
-  if (known != measuredTexts.constEnd()) return *known;
-  if (measuredTexts.size() >= kMostMeasuredTexts) measuredTexts.clear();
-  const int width = QFontMetrics(font(), this).horizontalAdvance(shape) + columnHeader->TextMargins();
-  measuredTexts.insert(shape, width);
-  return width;
+  columns.Fit();
 }
 
 }  // namespace brevant

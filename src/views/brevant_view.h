@@ -4,22 +4,21 @@
 #pragma once
 
 #include <QColor>
-#include <QHash>
 #include <QIcon>
+#include <QItemSelectionModel>
 #include <QPoint>
 #include <QSettings>
-#include <QString>
 #include <QTableView>
 #include <QTimer>
 #include <vector>
 
+#include "document/frame_display.h"
 #include "document/playlist_display.h"
-#include "views/column_widths.h"
+#include "views/column_fitter.h"
+#include "views/row_drag.h"
+#include "views/stage_cursors.h"
 
 namespace brevant {
-
-class TCPlaylistHeader;
-class TCPlaylistModel;
 
 class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   Q_OBJECT
@@ -31,6 +30,10 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void SetRowPicture(const QIcon& picture);
   // Of the header and of what no row covers. The background follows the rows' own from then on.
   void SetBackground(const QColor& text, const QColor& background);
+
+  void SetCursors(const TCStageCursors& stageCursors);
+  // While placing waits the busy cursor shows, whatever the mouse does.
+  void SetPlacing(TCPlacing state);
 
   // Widths that the user dragged; the other columns follow the font.
   void SaveColumnWidths(QSettings& settings) const;
@@ -58,41 +61,48 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void pollDue();
   // A double-click: the selected row, or -1 when none is.
   void rowPicked(int row);
+  // The song of one row was dragged onto another.
+  void rowMoved(int from, int to);
+  // The selected songs are dragged with Ctrl, wherever the mouse goes, to be copied where they are dropped.
+  void ctrlDragMoved(QPoint globalPosition);
+  // That is over, dropped or given up; before ctrlDragReleased.
+  void ctrlDragEnded();
+  void ctrlDragReleased(QPoint globalPosition);
   // A press of the right button, or the keyboard's menu key.
   void contextMenuWanted(QPoint globalPosition);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(
+      const QModelIndex& index, const QEvent* event = nullptr) const override;
 
  private:
+  void MoveDrag(const QMouseEvent& event);
+  void ReleaseDrag(const QMouseEvent& event);
+  void ShowPointer(TCPointer pointer);
+  [[nodiscard]] int RowUnder(const QMouseEvent& event) const;
   void CountPollTick();
   void FollowBackgroundOf(const TCRowColours& colours);
   [[nodiscard]] bool IsInView(std::int32_t row, int viewHeight) const;
 
   void FitToFont();
-  void MeasureRows();
-  void MeasureRow(const TCPlaylistRow& row);
-  void MeasureHeaders();
-  void MakeRoomFor(TCPlaylistColumn column, const QString& text);
-  void FitColumns();
-  [[nodiscard]] int CellWidthOf(const QString& text);
 
   TCPlaylistModel* playlistModel = nullptr;  // a child, as the next one
   TCPlaylistHeader* columnHeader = nullptr;
-  TCColumnWidths columnWidths;
-  QHash<QString, int>
-      measuredTexts;  // pixels of a cell in the present font; every digit counts as the widest
-  QChar widestDigit = QLatin1Char('0');
+  TCColumnFitter columns;
   QTimer pollTimer{this};
   int pollTicks = 0;                // 0 to 2
   std::int32_t rowKeptInView = -1;  // stays in view while window or font changes, unless scrolled away
-  bool dragDropped = false;         // the mouse does nothing more until its button is pressed anew
-  bool fittingColumns = false;      // columns change width by our doing, not the user's
+  TCRowDrag drag;
+  QPoint pressPlace;
+  TCStageCursors cursors;
+  TCPlacing placing = TCPlacing::Nothing;
 };
 
 }  // namespace brevant

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "resources/string_table.h"
+#include "views/one_line_text.h"
 #include "views/row_colours.h"
 #include "views/text_conversion.h"
 
@@ -12,12 +13,8 @@ namespace brevant {
 
 namespace {
 
-// The longest text that is handed to the screen. No window shows more of one line, and laying out a name of
-// a million characters, as a damaged file may hold one, would stop the show.
-constexpr std::size_t kMostCharacters = 1000;
-
 QString CellText(std::u16string_view text) {
-  return ToQString(text.substr(0, kMostCharacters));
+  return OneLineText(QStringView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 }  // namespace

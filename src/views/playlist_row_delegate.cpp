@@ -11,16 +11,6 @@ namespace {
 
 constexpr int kOutline = 2;  // pixels
 
-// A line break inside a name would push the text out of its one line.
-QString OneLine(QString text) {
-  for (QChar& character : text) {
-    const bool breaksLine = character.unicode() < u' ' || character == QChar::LineSeparator ||
-                            character == QChar::ParagraphSeparator;
-    if (breaksLine) character = QLatin1Char(' ');
-  }
-  return text;
-}
-
 }  // namespace
 
 void TCPlaylistRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -40,7 +30,6 @@ void TCPlaylistRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem&
 
 void TCPlaylistRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  option->text = OneLine(std::move(option->text));
   if (option->state.testFlag(QStyle::State_Selected)) {
     const QColor text = option->palette.color(QPalette::Normal, QPalette::Text);
     option->backgroundBrush = ToQColor(SelectedBackground(text.rgb() & 0xFFFFFFU));

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextBlock>
 #include <limits>
 
@@ -57,8 +58,8 @@ TEST_F(MainFrame, ANameThatLooksLikeTheMarkIsShownAsItIs) {
 
 TEST_F(MainFrame, ItsCommandsOpenAndClosePanesAndStatusBar) {
   frame.show();
-  for (const TCCommandId command :
-       {TCCommandId::PlayerPane, TCCommandId::MessagePane, TCCommandId::StatusBarVisible}) {
+  for (const TCCommandId command : {TCCommandId::PlaylistManagerPane, TCCommandId::PlayerPane,
+                                    TCCommandId::MessagePane, TCCommandId::StatusBarVisible}) {
     ASSERT_TRUE(TCMainFrame::Handles(command));
     EXPECT_TRUE(frame.IsChecked(command));
     EXPECT_TRUE(frame.OnCommand(command));
@@ -77,8 +78,8 @@ TEST_F(MainFrame, ThePanesTitlesKeepTheirAmpersandOnTheScreenAndReadOut) {
 }
 
 TEST_F(MainFrame, PanesThatAreNotBuiltAreNotItsOwn) {
-  for (const TCCommandId command : {TCCommandId::PropertiesPane, TCCommandId::PlaylistManagerPane,
-                                    TCCommandId::LiveViewMode, TCCommandId::Play}) {
+  for (const TCCommandId command :
+       {TCCommandId::PropertiesPane, TCCommandId::LiveViewMode, TCCommandId::Play}) {
     EXPECT_FALSE(TCMainFrame::Handles(command));
     EXPECT_FALSE(frame.OnCommand(command));
   }
@@ -89,6 +90,7 @@ TEST_F(MainFrame, APaneClosedByItsOwnButtonIsToldOf) {
   QSignalSpy marks(&frame, &TCMainFrame::marksChanged);
   for (QDockWidget* pane : frame.findChildren<QDockWidget*>()) pane->close();
   EXPECT_GE(marks.count(), 2);
+  EXPECT_FALSE(frame.IsChecked(TCCommandId::PlaylistManagerPane));
   EXPECT_FALSE(frame.IsChecked(TCCommandId::PlayerPane));
   EXPECT_FALSE(frame.IsChecked(TCCommandId::MessagePane));
 }
@@ -108,19 +110,95 @@ TEST_F(MainFrame, ThePanesLieSideBySideBelowThePlaylist) {
   EXPECT_GT(list.height(), pane.height()) << "the playlist has the most room";
 }
 
+TEST_F(MainFrame, ThePlaylistManagerStandsBesideThePlaylist) {
+  frame.resize(1200, 800);
+  frame.show();
+  const auto place = [this](const QWidget& widget) {
+    return QRect(widget.mapTo(&frame, QPoint(0, 0)), widget.size());
+  };
+  const QRect tree = place(frame.Tree());
+  const QRect list = place(frame.PlaylistView());
+  EXPECT_LT(tree.right(), list.left());
+  EXPECT_LT(tree.bottom(), place(frame.PlayerPane()).top());
+  EXPECT_GT(list.width(), tree.width()) << "the playlist has the most room";
+  auto* pane = frame.findChild<QDockWidget*>(QStringLiteral("Pane4002"));
+  ASSERT_NE(pane, nullptr);
+  EXPECT_EQ(pane->windowTitle(), QStringLiteral("Play List Manager"));
+}
+
+TEST_F(MainFrame, APlacingThatWaitsShowsInBothViewsAndStandsInTheStatusBar) {
+  frame.show();
+  frame.Tree().AddNodes(TCTreeNode::None, 0, {u"Gigs"});
+  frame.ShowPlacing(TCPlacing::Waiting, u"Click a playlist");
+  const QSignalSpy places(&frame.Tree(), &TCPlayListManagerTreeView::placeWanted);
+  const auto busy = [](const QWidget& view) { return view.cursor().shape() == Qt::BitmapCursor; };
+  EXPECT_TRUE(busy(*frame.PlaylistView().viewport()));
+  EXPECT_TRUE(busy(*frame.Tree().viewport()));
+  frame.ShowStatus(u"Something else");
+  EXPECT_EQ(frame.StatusLine().ShownMessage(), QStringLiteral("Click a playlist"));
+  QTest::mouseClick(frame.Tree().viewport(), Qt::LeftButton, {}, QPoint(40, 8));
+  EXPECT_EQ(places.count(), 1);
+
+  frame.ShowPlacing(TCPlacing::Nothing, u"Click a playlist");
+  EXPECT_EQ(frame.StatusLine().ShownMessage(), QStringLiteral("Something else"));
+  EXPECT_FALSE(busy(*frame.PlaylistView().viewport()));
+  EXPECT_FALSE(busy(*frame.Tree().viewport()));
+  QTest::mouseClick(frame.Tree().viewport(), Qt::LeftButton, {}, QPoint(40, 8));
+  EXPECT_EQ(places.count(), 1);
+}
+
+// The mouse, with Ctrl and its button held down since it was pressed in the playlist.
+void DragSongs(TCBrevantView& view, QEvent::Type type, QPoint global) {
+  const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, view.viewport()->mapFromGlobal(global), global, button, held, Qt::ControlModifier);
+  QCoreApplication::sendEvent(view.viewport(), &event);
+}
+
+TEST_F(MainFrame, SongsDraggedOverTheTreeFindTheirTargetThere) {
+  frame.resize(1200, 800);
+  frame.show();
+  TCPlayListManagerTreeView& tree = frame.Tree();
+  TCBrevantView& view = frame.PlaylistView();
+  const std::vector<TCTreeNode> groups = tree.AddNodes(TCTreeNode::None, 0, {u"Gigs", u"More gigs"});
+  view.ShowRows({TCPlaylistRow{{u"1", u"Found", u"00:00", u"A.mp3"}, {}}}, TCShowRows::Afresh);
+  const QSignalSpy drops(&view, &TCBrevantView::ctrlDragReleased);
+  const auto onNode = [&tree](int row) {
+    const QRect place = tree.visualRect(tree.model()->index(row, 0));
+    return tree.viewport()->mapToGlobal(place.topLeft() + QPoint(30, place.height() / 2));
+  };
+  const QPoint onRow = view.viewport()->mapToGlobal(view.visualRect(view.model()->index(0, 1)).center());
+  DragSongs(view, QEvent::MouseButtonPress, onRow);
+  DragSongs(view, QEvent::MouseMove, onNode(0));
+  EXPECT_EQ(tree.SelectedNode(), groups[0]);
+  DragSongs(view, QEvent::MouseMove, onNode(1));
+  EXPECT_EQ(tree.SelectedNode(), groups[1]);
+  tree.FollowNode(groups[0]);
+  EXPECT_EQ(tree.SelectedNode(), groups[1]) << "the drag says where";
+  DragSongs(view, QEvent::MouseButtonRelease, onNode(1));
+  ASSERT_EQ(drops.count(), 1);
+  EXPECT_EQ(drops.at(0).at(0).toPoint(), onNode(1));
+  tree.FollowNode(groups[0]);
+  EXPECT_EQ(tree.SelectedNode(), groups[0]);
+}
+
 TEST_F(MainFrame, FitsTheScreen) {
   EXPECT_LE(frame.width(), frame.screen()->availableSize().width());
   EXPECT_LE(frame.height(), frame.screen()->availableSize().height());
 }
 
 TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
+  frame.show();
   for (const bool whiteOnBlack : {false, true}) {
     settings.SetWhiteOnBlack(whiteOnBlack);
     frame.ShowOptions();
     const QColor background = ToColour(settings.backgroundColour);
+    QCoreApplication::processEvents();  // the toolkit tells widgets without colours of their own a turn later
     EXPECT_EQ(QApplication::palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.MessageDisplay().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.PlaylistView().palette().color(QPalette::Base), background);
+    EXPECT_EQ(frame.Tree().palette().color(QPalette::Base), background);
+    EXPECT_EQ(frame.Tree().palette().color(QPalette::Text), ToColour(settings.textColour));
   }
 }
 

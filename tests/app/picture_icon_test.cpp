@@ -44,5 +44,15 @@ TEST(PictureIcon, TheProgramHasOneOfItsOwn) {
   EXPECT_TRUE(InkOf(ProgramIcon()).isValid());
 }
 
+TEST(PictureCursor, IsThePictureInItsOwnColoursWithTheTipOfTheArrow) {
+  for (const std::string_view name : {kRowCursor, kPressedCursor, kDragCursor, kBusyCursor}) {
+    const QCursor cursor = PictureCursor(name);
+    EXPECT_EQ(cursor.shape(), Qt::BitmapCursor);
+    EXPECT_EQ(cursor.hotSpot(), QPoint(kCursorTipX, kCursorTipY));
+    EXPECT_EQ(cursor.pixmap().deviceIndependentSize(), QSizeF(32, 32));
+    EXPECT_GT(cursor.pixmap().toImage().pixelColor(kCursorTipX + 1, kCursorTipY + 4).alpha(), 128);
+  }
+}
+
 }  // namespace
 }  // namespace brevant

@@ -26,6 +26,19 @@ TEST(StatusLine, AHintGoesBeforeTheMessageAndGivesItBack) {
   EXPECT_EQ(line.ShownMessage(), kMessage);
 }
 
+TEST(StatusLine, WhatStandsGoesBeforeEveryMessageAndBehindAHint) {
+  TCStatusLine line(nullptr);
+  line.ShowStanding(QStringLiteral("Waiting"));
+  line.ShowMessage(kMessage);
+  EXPECT_EQ(line.ShownMessage(), QStringLiteral("Waiting"));
+  line.ShowHint(kHint);
+  EXPECT_EQ(line.ShownMessage(), kHint);
+  line.ShowHint({});
+  EXPECT_EQ(line.ShownMessage(), QStringLiteral("Waiting"));
+  line.ShowStanding({});
+  EXPECT_EQ(line.ShownMessage(), kMessage);
+}
+
 TEST(StatusLine, AMessageGoesAwayByItself) {
   TCStatusLine line(nullptr, std::chrono::milliseconds(1));
   line.ShowMessage(kMessage);

@@ -237,16 +237,6 @@ TEST_F(TCBrevantViewTest, TheMenuKeyAsksForTheMenuAtTheSelectedRow) {
   EXPECT_EQ(view.rowAt(place.y()), 2);
 }
 
-TEST_F(TCBrevantViewTest, PressingAndMovingOnlySelects) {
-  view.ShowRows(Rows(9), TCShowRows::Afresh);
-  QTest::mousePress(view.viewport(), Qt::LeftButton, {}, PlaceOf(1));
-  QTest::mouseMove(view.viewport(), PlaceOf(3));
-  QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, PlaceOf(3));
-  EXPECT_EQ(NameIn(1), QStringLiteral("Song 2.mp3"));
-  EXPECT_FALSE(view.dragEnabled());
-  EXPECT_EQ(view.SelectedRow(), 1);
-}
-
 // Counts the keys that the view leaves to whatever holds it.
 class TCKeyCount : public QWidget {
  public:
@@ -396,22 +386,6 @@ TEST_F(TCBrevantViewTest, TakesTheFocusFromNoOtherProgram) {
   view.TakeFocus();
   QCoreApplication::processEvents();
   EXPECT_EQ(QGuiApplication::focusWindow(), &foreign);
-}
-
-TEST_F(TCBrevantViewTest, ADragThatIsDroppedSelectsNoFurtherUntilTheNextPress) {
-  view.ShowRows(Rows(9), TCShowRows::Afresh);
-  QTest::mousePress(view.viewport(), Qt::LeftButton, {}, PlaceOf(1));
-  QTest::mouseMove(view.viewport(), PlaceOf(2));
-  EXPECT_THAT(view.SelectedRows(), ElementsAre(1, 2));
-  view.ResetMouseState();
-  QTest::mouseMove(view.viewport(), PlaceOf(5));
-  EXPECT_THAT(view.SelectedRows(), ElementsAre(1, 2));
-  QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, PlaceOf(5));
-  EXPECT_THAT(view.SelectedRows(), ElementsAre(1, 2));
-  QTest::mousePress(view.viewport(), Qt::LeftButton, {}, PlaceOf(6));
-  QTest::mouseMove(view.viewport(), PlaceOf(7));
-  QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, PlaceOf(7));
-  EXPECT_THAT(view.SelectedRows(), ElementsAre(6, 7));
 }
 
 TEST_F(TCBrevantViewTest, RowsAndHeadersCanBeReadByAssistiveTechnology) {

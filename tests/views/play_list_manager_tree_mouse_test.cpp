@@ -1,0 +1,461 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QContextMenuEvent>
+#include <QScrollBar>
+
+#include "views/tree_rig.h"
+
+namespace brevant {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class TreeMouse : public TCTreeRig {
+ protected:
+  void SetUp() override {
+    TCTreeRig::SetUp();
+    OpenAll();
+    tree.TakeFocus();
+  }
+};
+
+class TreeLabel : public TreeMouse {
+ protected:
+  void SetUp() override {
+    TreeMouse::SetUp();
+    QApplication::setDoubleClickInterval(20);
+    QObject::connect(&tree, &TCPlayListManagerTreeView::labelEdited, &tree,
+                     [this](TCTreeNode node, const QString& text) {
+                       edited.emplace_back(node, text);
+                       return taken;
+                     });
+  }
+  void TearDown() override {
+    QApplication::setDoubleClickInterval(usualInterval);
+    TreeMouse::TearDown();
+  }
+  // The label's field, its text ready to be typed over; null when none opens.
+  QLineEdit* BeginEditing(TCTreeNode node) {
+    tree.SelectNode(node);
+    mouse.Click(Label(node));
+    WaitForEditor();
+    return Editor();
+  }
+  void Type(TCTreeNode node, const QString& text) {
+    QLineEdit* field = BeginEditing(node);
+    ASSERT_NE(field, nullptr);
+    QTest::keyClicks(field, text);
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::qWait(0);
+    EXPECT_EQ(Editor(), nullptr);
+  }
+
+  std::vector<std::pair<TCTreeNode, QString>> edited;
+  bool taken = true;
+  const int usualInterval = QApplication::doubleClickInterval();
+};
+
+TEST_F(TreeMouse, APressSelectsTheNodeAndTellsOfIt) {
+  mouse.Press(Label(first[1]));
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  EXPECT_THAT(NodesOf(presses), ElementsAre(first[1]));
+  mouse.Release(Label(first[1]));
+  mouse.Click(BelowAllNodes());
+  EXPECT_THAT(NodesOf(presses), ElementsAre(first[1]));
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  EXPECT_THAT(Moves(), IsEmpty());
+  EXPECT_EQ(places.count(), 0);
+}
+
+TEST_F(TreeMouse, ANodeIsDraggedToTheNodeItIsReleasedOn) {
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[1]));
+  mouse.Drag(Label(first[2]));
+  EXPECT_THAT(Moves(), IsEmpty());
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[2])));
+}
+
+TEST_F(TreeMouse, WhatKindsOfNodesMeetIsForTheDocumentToJudge) {
+  mouse.Press(Label(setTwo));
+  mouse.Drag(Label(first[1]));
+  mouse.Release(Label(first[1]));
+  EXPECT_THAT(Moves(), ElementsAre(TCMove(setTwo, first[1])));
+}
+
+TEST_F(TreeMouse, TheNodeUnderADragIsSelected) {
+  mouse.Press(Label(first[0]));
+  for (const TCTreeNode under : {first[1], setTwo, rehearsals}) {
+    mouse.Drag(Label(under));
+    EXPECT_EQ(tree.SelectedNode(), under);
+  }
+  mouse.Drag(BelowAllNodes());
+  EXPECT_EQ(tree.SelectedNode(), rehearsals);
+}
+
+TEST_F(TreeMouse, DroppedOnItselfBesideAllNodesOrOutsideANodeStays) {
+  for (const QPoint place : {Label(first[0]), BelowAllNodes(), OutsideOfTheTree(), QPoint(60, 5000)}) {
+    mouse.Press(Label(first[0]));
+    mouse.Drag(Label(first[2]));
+    mouse.Drag(place);
+    mouse.Release(place);
+    EXPECT_THAT(Moves(), IsEmpty());
+  }
+}
+
+TEST_F(TreeMouse, AnUnsteadyClickIsAClick) {
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[0]) + QPoint(2, 1));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Pressed));
+  mouse.Release(Label(first[1]));
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(TreeMouse, WhenTheFocusIsLostADragEndsInNothing) {
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[1]));
+  other.setFocus();
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), IsEmpty());
+
+  tree.TakeFocus();
+  mouse.Press(Label(first[0]));
+  other.setFocus();
+  mouse.Drag(Label(first[1]));
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(TreeMouse, ACancelledDragEndsInNothingAndTheNextOneMoves) {
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[1]));
+  tree.ResetMouseState();
+  mouse.Drag(Label(setTwo));
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), IsEmpty());
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[2]));
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[2])));
+}
+
+TEST_F(TreeMouse, ADragWhoseNodeHasGoneEndsInNothing) {
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[1]));
+  tree.DeleteNode(first[0]);
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(TreeMouse, APressBesideAllNodesDragsNothing) {
+  mouse.Press(BelowAllNodes());
+  mouse.Drag(Label(first[0]));
+  mouse.Drag(Label(first[1]));
+  mouse.Release(Label(first[1]));
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(TreeMouse, ADoubleClickPicksOnPictureOrLabelAlone) {
+  for (const QPoint place : {Picture(first[1]), Label(first[1])}) {
+    picks.clear();
+    mouse.DoubleClick(place);
+    EXPECT_THAT(NodesOf(picks), ElementsAre(first[1]));
+  }
+  picks.clear();
+  mouse.DoubleClick(BesideLabel(first[1]));
+  mouse.DoubleClick(BelowAllNodes());
+  mouse.DoubleClick(QPoint(RowOf(setOne).left() - 8, RowOf(setOne).center().y()));
+  EXPECT_EQ(picks.count(), 0);
+  EXPECT_EQ(Editor(), nullptr);
+}
+
+TEST_F(TreeMouse, ADoubleClickOpensAndClosesAsTreesDo) {
+  mouse.DoubleClick(Label(gigs));
+  EXPECT_FALSE(tree.isExpanded(IndexOf(gigs)));
+  EXPECT_THAT(NodesOf(picks), ElementsAre(gigs));
+  mouse.DoubleClick(Label(gigs));
+  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
+}
+
+TEST_F(TreeMouse, ADoubleClickWithTheRightButtonPicksNothing) {
+  QTest::mouseDClick(tree.viewport(), Qt::RightButton, {}, Label(first[1]));
+  EXPECT_EQ(picks.count(), 0);
+}
+
+TEST_F(TreeMouse, TheRightButtonSelectsTheNodeAndAsksForTheMenu) {
+  const QPoint place = Label(first[1]);
+  QTest::mousePress(tree.viewport(), Qt::RightButton, {}, place);
+  ASSERT_EQ(menus.count(), 1);
+  EXPECT_EQ(menus.at(0).at(0).toPoint(), tree.viewport()->mapToGlobal(place));
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  EXPECT_EQ(presses.count(), 0);
+  QContextMenuEvent announced(QContextMenuEvent::Mouse, place, tree.viewport()->mapToGlobal(place));
+  QCoreApplication::sendEvent(tree.viewport(), &announced);
+  EXPECT_EQ(menus.count(), 1);
+  EXPECT_TRUE(announced.isAccepted());
+}
+
+TEST_F(TreeMouse, TheMenuKeyAsksForTheMenuAtTheSelectedNode) {
+  tree.SelectNode(first[1]);
+  QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+  QCoreApplication::sendEvent(&tree, &key);
+  ASSERT_EQ(menus.count(), 1);
+  const QPoint place = tree.viewport()->mapFromGlobal(menus.at(0).at(0).toPoint());
+  EXPECT_EQ(tree.indexAt(place), IndexOf(first[1]));
+}
+
+TEST_F(TreeMouse, ThePointerSaysWhatTheMouseIsAbout) {
+  mouse.Hover(Label(first[0]));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Row));
+  mouse.Hover(BelowAllNodes());
+  EXPECT_EQ(Pointer(), Qt::ArrowCursor);
+  mouse.Press(Label(first[0]));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Pressed));
+  mouse.Drag(Label(first[1]));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Pressed)) << "where the drag begins";
+  mouse.Drag(Label(first[2]));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Drag));
+  mouse.Drag(BelowAllNodes());
+  EXPECT_EQ(Pointer(), Qt::ArrowCursor);
+  mouse.Release(Label(first[2]));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Row));
+}
+
+TEST_F(TreeMouse, WhilePlacingWaitsThePlaylistUnderTheMouseIsSelectedAndOpened) {
+  tree.collapseAll();
+  tree.SetPlacing(TCPlacing::Waiting);
+  mouse.Hover(Label(gigs));
+  EXPECT_EQ(tree.SelectedNode(), gigs);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
+  mouse.Hover(Label(setOne));
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(setOne)));
+  mouse.Hover(Label(setTwo));
+  mouse.Hover(Label(first[2]));
+  EXPECT_EQ(tree.SelectedNode(), setOne) << "of a song its playlist";
+  mouse.Hover(BelowAllNodes());
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Busy));
+}
+
+TEST_F(TreeMouse, APlaylistScrolledAwayStaysSoWhileTheMouseIsOverItsSongs) {
+  const std::vector<TCTreeNode> songs = tree.AddNodes(setTwo, 0, std::vector<std::u16string>(300, u"S.mp3"));
+  OpenAll();
+  tree.scrollTo(IndexOf(songs[200]));
+  tree.SetPlacing(TCPlacing::Waiting);
+  const int scroll = tree.verticalScrollBar()->value();
+  mouse.Hover(Label(songs[200]));
+  EXPECT_EQ(tree.SelectedNode(), setTwo);
+  EXPECT_EQ(tree.verticalScrollBar()->value(), scroll);
+}
+
+TEST_F(TreeMouse, WhilePlacingWaitsAClickSaysWhereAndNothingElse) {
+  tree.SetPlacing(TCPlacing::Waiting);
+  mouse.Hover(Label(first[1]));
+  mouse.Click(Label(first[1]));
+  EXPECT_EQ(places.count(), 1);
+  EXPECT_EQ(tree.SelectedNode(), first[1]) << "behind this song";
+  EXPECT_EQ(presses.count(), 0);
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[2]));
+  mouse.Release(Label(first[2]));
+  EXPECT_THAT(Moves(), IsEmpty());
+  EXPECT_EQ(places.count(), 2);
+  mouse.DoubleClick(Label(setTwo));
+  EXPECT_EQ(picks.count(), 0);
+  EXPECT_EQ(places.count(), 3);
+}
+
+TEST_F(TreeMouse, ADoubleClickThatBeganByPlacingPicksNothing) {
+  tree.SetPlacing(TCPlacing::Waiting);
+  QObject::connect(&tree, &TCPlayListManagerTreeView::placeWanted, &tree,
+                   [this] { tree.SetPlacing(TCPlacing::Nothing); });
+  mouse.DoubleClick(Label(setTwo));
+  EXPECT_EQ(places.count(), 1);
+  EXPECT_EQ(picks.count(), 0);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
+  mouse.DoubleClick(Label(setTwo));
+  EXPECT_THAT(NodesOf(picks), ElementsAre(setTwo));
+}
+
+TEST_F(TreeMouse, WhenPlacingNoLongerWaitsThePointerIsOrdinaryAgain) {
+  tree.SetPlacing(TCPlacing::Waiting);
+  tree.SetPlacing(TCPlacing::Nothing);
+  mouse.Hover(Label(first[0]));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Row));
+  tree.SelectNode(setTwo);
+  mouse.Hover(Label(first[0]));
+  EXPECT_EQ(tree.SelectedNode(), setTwo);
+}
+
+TEST_F(TreeMouse, SongsDraggedOutOfThePlaylistFindTheirTargetUnderTheMouse) {
+  tree.SelectNode(gigs);
+  tree.collapse(IndexOf(setOne));
+  tree.FollowCtrlDrag(Global(setOne));
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(setOne)));
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Busy));
+  tree.FollowCtrlDrag(Global(rehearsals));
+  EXPECT_EQ(tree.SelectedNode(), rehearsals);
+  tree.FollowCtrlDrag(Global(first[2]));
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  tree.FollowCtrlDrag(tree.viewport()->mapToGlobal(OutsideOfTheTree()));
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  tree.EndCtrlDrag();
+  mouse.Hover(Label(rehearsals));
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Row));
+}
+
+TEST_F(TreeLabel, ASecondClickOnTheLabelOfTheSelectedNodeEditsIt) {
+  mouse.Click(Label(first[1]));
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr) << "the first click selects";
+  mouse.Click(Label(first[1]));
+  WaitForEditor();
+  ASSERT_NE(Editor(), nullptr);
+  EXPECT_EQ(Editor()->text(), QStringLiteral("B.mp3"));
+  EXPECT_EQ(Editor()->selectedText(), QStringLiteral("B.mp3"));
+}
+
+TEST_F(TreeLabel, NeitherPictureNorRowNorDoubleClickNorF2NorTheClickThatBringsTheFocusEdits) {
+  tree.SelectNode(first[1]);
+  mouse.Click(Picture(first[1]));
+  mouse.Click(BesideLabel(first[1]));
+  mouse.Click(BelowAllNodes());
+  mouse.DoubleClick(Label(first[1]));
+  QTest::keyClick(&tree, Qt::Key_F2);
+  other.setFocus();
+  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, Label(first[1]));
+  EXPECT_TRUE(tree.HasFocus());
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr);
+}
+
+TEST_F(TreeLabel, AClickOnALabelEditsNothingOnceTheFocusIsElsewhereOrPlacingWaits) {
+  tree.SelectNode(first[1]);
+  mouse.Click(Label(first[1]));
+  other.setFocus();
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr);
+  tree.TakeFocus();
+  mouse.Click(Label(first[1]));
+  tree.SetPlacing(TCPlacing::Waiting);
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr);
+}
+
+TEST_F(TreeLabel, WhileItIsEditedNoSongIsFollowed) {
+  ASSERT_NE(BeginEditing(first[1]), nullptr);
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  EXPECT_NE(Editor(), nullptr);
+}
+
+TEST_F(TreeLabel, NamesOfEveryKindOfNodeAreHandedOnTrimmed) {
+  for (const TCTreeNode node : {gigs, setOne, first[0]}) {
+    edited.clear();
+    Type(node, QStringLiteral("  New name "));
+    EXPECT_THAT(edited, ElementsAre(std::pair(node, QStringLiteral("New name"))));
+    EXPECT_EQ(Text(node), QStringLiteral("New name"));
+  }
+}
+
+TEST_F(TreeLabel, WhatTheDocumentMakesOfANameIsWhatShows) {
+  QObject::connect(&tree, &TCPlayListManagerTreeView::labelEdited, &tree,
+                   [this](TCTreeNode node, const QString&) {
+                     tree.SetNodeText(node, u"Without quotes");
+                     return true;
+                   });
+  Type(setOne, QStringLiteral("\"Without\" quotes"));
+  EXPECT_EQ(Text(setOne), QStringLiteral("Without quotes"));
+}
+
+TEST_F(TreeLabel, ANameThatNobodyTakesStaysAsItWasTyped) {
+  taken = false;
+  Type(setOne, QStringLiteral(" Typed "));
+  EXPECT_THAT(edited, ElementsAre(std::pair(setOne, QStringLiteral("Typed"))));
+  EXPECT_EQ(Text(setOne), QStringLiteral(" Typed "));
+}
+
+TEST_F(TreeLabel, BlanksStayInTheLabelAndAreToldToNobody) {
+  Type(setOne, QStringLiteral("   "));
+  EXPECT_THAT(edited, IsEmpty());
+  EXPECT_EQ(Text(setOne), QStringLiteral("   "));
+}
+
+TEST_F(TreeLabel, EscLeavesTheNameAsItWas) {
+  QLineEdit* field = BeginEditing(setOne);
+  ASSERT_NE(field, nullptr);
+  QTest::keyClicks(field, QStringLiteral("Never"));
+  QTest::keyClick(field, Qt::Key_Escape);
+  QTest::qWait(0);
+  EXPECT_EQ(Editor(), nullptr);
+  EXPECT_THAT(edited, IsEmpty());
+  EXPECT_EQ(Text(setOne), QStringLiteral("Set 1"));
+}
+
+TEST_F(TreeLabel, AClickElsewhereKeepsWhatWasTyped) {
+  QLineEdit* field = BeginEditing(setOne);
+  ASSERT_NE(field, nullptr);
+  QTest::keyClicks(field, QStringLiteral("Encores"));
+  other.setFocus();
+  QTest::qWait(0);
+  EXPECT_EQ(Editor(), nullptr);
+  EXPECT_THAT(edited, ElementsAre(std::pair(setOne, QStringLiteral("Encores"))));
+}
+
+TEST_F(TreeLabel, AnUntouchedNameIsNotGivenAgain) {
+  ASSERT_NE(BeginEditing(setOne), nullptr);
+  QTest::keyClick(Editor(), Qt::Key_Return);
+  QTest::qWait(0);
+  EXPECT_EQ(Editor(), nullptr);
+  EXPECT_THAT(edited, IsEmpty());
+}
+
+TEST_F(TreeLabel, TheEnterThatEndsTheEditingPicksNothing) {
+  QLineEdit* field = BeginEditing(setOne);
+  ASSERT_NE(field, nullptr);
+  QTest::keyClicks(field, QStringLiteral("Encores"));
+  QTest::keyPress(field, Qt::Key_Return);
+  QTest::qWait(0);
+  ASSERT_TRUE(tree.HasFocus());
+  QTest::keyRelease(&tree, Qt::Key_Return);
+  EXPECT_EQ(enters.count(), 0);
+}
+
+TEST_F(TreeLabel, KeysThatTheFieldLeavesOverMoveNothingInTheTree) {
+  QLineEdit* field = BeginEditing(first[1]);
+  ASSERT_NE(field, nullptr);
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageDown}) {
+    QTest::keyClick(field, key);
+    QTest::keyClick(field, key, Qt::ShiftModifier);
+  }
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  EXPECT_THAT(Moves(), IsEmpty());
+  EXPECT_EQ(Editor(), field);
+}
+
+TEST_F(TreeLabel, OfANodeThatGoesIsNoLongerEdited) {
+  QLineEdit* field = BeginEditing(first[1]);
+  ASSERT_NE(field, nullptr);
+  QTest::keyClicks(field, QStringLiteral("Gone"));
+  tree.DeleteNode(first[1]);
+  QTest::qWait(0);
+  EXPECT_EQ(Editor(), nullptr);
+  EXPECT_THAT(edited, IsEmpty());
+}
+
+TEST_F(TreeLabel, WithoutANodeNothingIsEdited) {
+  tree.ClearNodes();
+  mouse.Click(QPoint(40, 10));
+  mouse.Click(QPoint(40, 10));
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr);
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,393 @@
+#include "views/play_list_manager_tree_view.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QAccessible>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include "views/tree_rig.h"
+
+namespace brevant {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class Tree : public TCTreeRig {};
+
+TEST_F(Tree, ShowsWhatItIsGivenThreeLevelsDeepAndNothingSelectedOrOpened) {
+  EXPECT_EQ(Text(gigs), QStringLiteral("Gigs"));
+  EXPECT_EQ(tree.ParentOf(first[1]), setOne);
+  EXPECT_EQ(tree.ParentOf(setOne), gigs);
+  EXPECT_EQ(tree.ParentOf(gigs), TCTreeNode::None);
+  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
+  EXPECT_EQ(tree.SelectedKind(), TCNodeKind::None);
+  EXPECT_FALSE(tree.isExpanded(IndexOf(gigs)));
+}
+
+TEST_F(Tree, SelectingANodeOpensTheWayToItAndBringsItIntoView) {
+  std::vector<std::u16string> many(300, u"Song.mp3");
+  const std::vector<TCTreeNode> songs = tree.AddNodes(setTwo, 0, many);
+  tree.SelectNode(songs[250]);
+  EXPECT_EQ(tree.SelectedNode(), songs[250]);
+  EXPECT_EQ(tree.SelectedKind(), TCNodeKind::Song);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
+  EXPECT_TRUE(tree.isExpanded(IndexOf(setTwo)));
+  EXPECT_TRUE(tree.viewport()->rect().contains(RowOf(songs[250])));
+}
+
+TEST_F(Tree, OneNodeIsSelectedWhateverKeysAreHeld) {
+  OpenAll();
+  for (const Qt::KeyboardModifiers held :
+       {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ControlModifier),
+        Qt::KeyboardModifiers(Qt::ShiftModifier), Qt::KeyboardModifiers(Qt::ControlModifier)}) {
+    mouse.Click(Label(first[1]), held);
+    EXPECT_EQ(tree.SelectedNode(), first[1]);
+    mouse.Click(Label(setTwo), held);
+    EXPECT_EQ(tree.SelectedNode(), setTwo);
+    mouse.Click(Label(setTwo), held);
+    EXPECT_EQ(tree.SelectedNode(), setTwo) << "a second click takes nothing back";
+    EXPECT_THAT(tree.selectionModel()->selectedIndexes(), SizeIs(1));
+    EndEditing();
+  }
+}
+
+TEST_F(Tree, ANodeThatIsNotThereIsIgnored) {
+  tree.SelectNode(setOne);
+  tree.DeleteNode(first[0]);
+  for (const TCTreeNode gone : {TCTreeNode::None, first[0], static_cast<TCTreeNode>(~0ULL)}) {
+    tree.SelectNode(gone);
+    tree.ExpandNode(gone);
+    tree.DeleteNode(gone);
+    tree.MoveNode(gone, setTwo, 0);
+    tree.SetNodeText(gone, u"X");
+    EXPECT_EQ(tree.ParentOf(gone), TCTreeNode::None);
+    EXPECT_EQ(tree.SelectedNode(), setOne);
+  }
+  EXPECT_THAT(tree.AddNodes(first[0], 0, {u"X"}), IsEmpty());
+}
+
+TEST_F(Tree, ExpandingANodeShowsItsChildren) {
+  tree.ExpandNode(setOne);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
+  EXPECT_TRUE(tree.isExpanded(IndexOf(setOne)));
+  EXPECT_TRUE(RowOf(first[0]).isValid());
+}
+
+TEST_F(Tree, AMovedNodeStaysOpenAndSelected) {
+  OpenAll();
+  tree.SelectNode(setOne);
+  tree.MoveNode(setOne, rehearsals, 0);
+  EXPECT_EQ(tree.ParentOf(setOne), rehearsals);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(setOne)));
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  tree.SelectNode(first[2]);
+  tree.MoveNode(rehearsals, TCTreeNode::None, 0);
+  EXPECT_EQ(tree.SelectedNode(), first[2]);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(setOne)));
+  EXPECT_EQ(IndexOf(rehearsals).row(), 0);
+}
+
+TEST_F(Tree, WhenTheSelectedNodeGoesANeighbourIsSelected) {
+  tree.SelectNode(first[1]);
+  tree.DeleteNode(first[1]);
+  EXPECT_EQ(tree.SelectedNode(), first[2]) << "the next one";
+  tree.DeleteNode(first[2]);
+  EXPECT_EQ(tree.SelectedNode(), first[0]) << "of the last one the one before";
+  tree.DeleteNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), setOne) << "of the only one the one it lay in";
+}
+
+TEST_F(Tree, WhenANodeGoesThatTheSelectedOneLiesInItsNeighbourIsSelected) {
+  tree.SelectNode(first[1]);
+  tree.DeleteNode(gigs);
+  EXPECT_EQ(tree.SelectedNode(), rehearsals);
+  tree.DeleteNode(rehearsals);
+  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
+}
+
+TEST_F(Tree, WhenAnotherNodeGoesTheSelectedOneStays) {
+  tree.SelectNode(first[1]);
+  tree.DeleteNode(first[0]);
+  tree.DeleteNode(setTwo);
+  tree.DeleteNode(rehearsals);
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+}
+
+TEST_F(Tree, ClearingTakesAllNodes) {
+  tree.SelectNode(first[1]);
+  tree.ClearNodes();
+  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
+  EXPECT_EQ(tree.model()->rowCount(), 0);
+  tree.SelectNode(first[1]);
+  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
+}
+
+TEST_F(Tree, FollowsASongOnlyWhileTheUserWorksElsewhere) {
+  other.setFocus();
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), first[0]);
+  tree.TakeFocus();
+  ASSERT_TRUE(tree.HasFocus());
+  tree.FollowNode(first[1]);
+  EXPECT_EQ(tree.SelectedNode(), first[0]);
+  other.setFocus();
+  tree.FollowNode(first[1]);
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+}
+
+TEST_F(Tree, FollowsNoSongWhileANodeOrSongsAreDraggedOrPlacingWaits) {
+  OpenAll();
+  other.setFocus();
+  tree.SetPlacing(TCPlacing::Waiting);
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
+  tree.SetPlacing(TCPlacing::Nothing);
+
+  tree.FollowCtrlDrag(Global(setTwo));
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), setTwo);
+  tree.EndCtrlDrag();
+
+  mouse.Press(Label(first[1]));
+  mouse.Drag(Label(first[2]));
+  other.setFocus();
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), first[2]);
+  mouse.Release(Label(first[2]));
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), first[0]);
+}
+
+TEST_F(Tree, FollowsNoSongBehindADialogThatWasCalledFromIt) {
+  tree.TakeFocus();
+  tree.SelectNode(setTwo);
+  QDialog dialog(&window);
+  dialog.open();
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&dialog] { return QApplication::activeWindow() == &dialog; }));
+  tree.FollowNode(first[0]);
+  EXPECT_EQ(tree.SelectedNode(), setTwo);
+}
+
+TEST_F(Tree, TakesTheFocusButNotIntoAPaneThatIsClosed) {
+  other.setFocus();
+  tree.TakeFocus();
+  EXPECT_TRUE(tree.HasFocus());
+  other.setFocus();
+  tree.hide();
+  tree.TakeFocus();
+  EXPECT_TRUE(other.hasFocus());
+  tree.show();
+  EXPECT_TRUE(other.hasFocus());
+}
+
+TEST_F(Tree, EnterActsOnceForItsPressAndOnceForItsReleaseOnPlaylistsAndSongsAlone) {
+  tree.TakeFocus();
+  for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+    for (const TCTreeNode node : {setOne, first[0]}) {
+      enters.clear();
+      tree.SelectNode(node);
+      QTest::keyPress(&tree, enter);
+      EXPECT_EQ(enters.count(), 1);
+      QTest::keyRelease(&tree, enter);
+      EXPECT_EQ(enters.count(), 2);
+    }
+    enters.clear();
+    tree.SelectNode(gigs);
+    QTest::keyClick(&tree, enter);
+    EXPECT_EQ(enters.count(), 0);
+  }
+}
+
+TEST_F(Tree, EnterOnAGroupOrWithoutANodeIsLeftToTheFrame) {
+  tree.TakeFocus();
+  window.keys = 0;
+  QTest::keyClick(&tree, Qt::Key_Return);
+  EXPECT_EQ(window.keys, 1);
+  tree.SelectNode(gigs);
+  QTest::keyClick(&tree, Qt::Key_Return);
+  EXPECT_EQ(window.keys, 2);
+  tree.SelectNode(setOne);
+  QTest::keyClick(&tree, Qt::Key_Return);
+  EXPECT_EQ(window.keys, 2);
+}
+
+TEST_F(Tree, AHeldEnterActsNoMoreThanAShortOne) {
+  tree.TakeFocus();
+  tree.SelectNode(setOne);
+  const auto send = [this](QEvent::Type type, bool repeat) {
+    QKeyEvent event(type, Qt::Key_Return, {}, QString(), repeat);
+    QCoreApplication::sendEvent(&tree, &event);
+  };
+  send(QEvent::KeyPress, false);
+  for (int i = 0; i < 5; ++i) {
+    send(QEvent::KeyRelease, true);
+    send(QEvent::KeyPress, true);
+  }
+  send(QEvent::KeyRelease, false);
+  EXPECT_EQ(enters.count(), 2);
+}
+
+TEST_F(Tree, TheReleaseOfAnEnterThatWentDownElsewhereIsNoEnter) {
+  tree.SelectNode(setOne);
+  tree.TakeFocus();
+  QTest::keyRelease(&tree, Qt::Key_Return);
+  EXPECT_EQ(enters.count(), 0);
+  QTest::keyPress(&tree, Qt::Key_Return);
+  other.setFocus();
+  tree.TakeFocus();
+  QTest::keyRelease(&tree, Qt::Key_Return);
+  EXPECT_EQ(enters.count(), 1);
+}
+
+TEST_F(Tree, PlainArrowsMoveTheSelectionAndOpenAndCloseNodes) {
+  tree.TakeFocus();
+  tree.SelectNode(gigs);
+  QTest::keyClick(&tree, Qt::Key_Right);
+  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
+  QTest::keyClick(&tree, Qt::Key_Down);
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  QTest::keyClick(&tree, Qt::Key_Down);
+  EXPECT_EQ(tree.SelectedNode(), setTwo);
+  QTest::keyClick(&tree, Qt::Key_Up);
+  EXPECT_EQ(tree.SelectedNode(), setOne);
+  QTest::keyClick(&tree, Qt::Key_Left);
+  QTest::keyClick(&tree, Qt::Key_Left);
+  EXPECT_FALSE(tree.isExpanded(IndexOf(gigs)));
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(Tree, ShiftWithAnArrowMovesTheNodeWhenTheKeyComesUp) {
+  OpenAll();
+  tree.TakeFocus();
+  tree.SelectNode(first[0]);
+  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_THAT(Moves(), IsEmpty());
+  EXPECT_EQ(tree.SelectedNode(), first[1]);
+  QTest::keyRelease(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[1])));
+}
+
+TEST_F(Tree, ShiftHeldWalksANodeAlongAsTheDocumentMovesIt) {
+  OpenAll();
+  tree.TakeFocus();
+  tree.SelectNode(first[0]);
+  LetTheDocumentMove();
+  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(IndexOf(first[0]).row(), 2);
+  EXPECT_EQ(tree.SelectedNode(), first[0]);
+  QTest::keyClick(&tree, Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(IndexOf(first[0]).row(), 1);
+}
+
+TEST_F(Tree, AHeldShiftArrowMovesOnceARepeat) {
+  OpenAll();
+  tree.TakeFocus();
+  tree.SelectNode(first[0]);
+  LetTheDocumentMove();
+  const auto send = [this](QEvent::Type type, bool repeat) {
+    QKeyEvent event(type, Qt::Key_Down, Qt::ShiftModifier, QString(), repeat);
+    QCoreApplication::sendEvent(&tree, &event);
+  };
+  send(QEvent::KeyPress, false);
+  send(QEvent::KeyRelease, true);
+  send(QEvent::KeyPress, true);
+  send(QEvent::KeyRelease, false);
+  EXPECT_EQ(IndexOf(first[0]).row(), 2);
+}
+
+TEST_F(Tree, ShiftDownOnTheLastNodeMovesNothing) {
+  tree.TakeFocus();
+  tree.SelectNode(rehearsals);
+  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  tree.SelectNode(gigs);
+  QTest::keyClick(&tree, Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(Tree, AShiftArrowThatWasGivenUpMovesNothing) {
+  OpenAll();
+  tree.TakeFocus();
+  tree.SelectNode(first[0]);
+  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  tree.ResetMouseState();
+  QTest::keyRelease(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_THAT(Moves(), IsEmpty());
+
+  QTest::keyPress(&tree, Qt::Key_Up, Qt::ShiftModifier);
+  other.setFocus();  // the release goes there
+  tree.TakeFocus();
+  QTest::keyClick(&tree, Qt::Key_Down);
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(Tree, AShiftArrowWhoseNodeHasGoneMovesNothing) {
+  OpenAll();
+  tree.TakeFocus();
+  tree.SelectNode(first[0]);
+  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  tree.DeleteNode(first[0]);
+  QTest::keyRelease(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
+TEST_F(Tree, EveryLevelHasItsPictureAndTheSelectedNodeAnother) {
+  TCSetListTreeModel::TCPictures pictures;
+  for (int i = 0; i < 6; ++i) {
+    QPixmap picture(23, 19);
+    picture.fill(QColor(200, 10 + i * 40, 0));
+    QIcon& icon = pictures[static_cast<std::size_t>(i)];
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) icon.addPixmap(picture, mode);
+  }
+  tree.SetPictures(pictures);
+  OpenAll();
+  const auto green = [this](TCTreeNode node) {
+    return tree.viewport()->grab().toImage().pixelColor(Picture(node)).green();
+  };
+  other.setFocus();
+  const TCTreeNode nodes[] = {gigs, setOne, first[0]};
+  for (int level = 0; level < 3; ++level) {
+    tree.SelectNode(rehearsals);
+    EXPECT_EQ(green(nodes[level]), 10 + level * 80);
+    tree.SelectNode(nodes[level]);
+    EXPECT_EQ(green(nodes[level]), 10 + level * 80 + 40);
+  }
+}
+
+TEST_F(Tree, OnlyACutOffLabelHasAToolTip) {
+  OpenAll();
+  const auto tipAt = [this](TCTreeNode node) {
+    QHelpEvent help(QEvent::ToolTip, Label(node), Global(node));
+    QCoreApplication::sendEvent(tree.viewport(), &help);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(tipAt(first[0]), QString());
+  EXPECT_EQ(tipAt(gigs), QString());
+  tree.SetNodeText(first[0], u"A <b>very</b> long name " + std::u16string(200, u'x') + u".mp3");
+  EXPECT_TRUE(tipAt(first[0]).contains(QStringLiteral("A &lt;b&gt;very&lt;/b&gt; long name xxx")));
+}
+
+TEST_F(Tree, NodesCanBeReadByAssistiveTechnology) {
+  OpenAll();
+  EXPECT_EQ(tree.accessibleName(), QStringLiteral("Play List Manager"));
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&tree);
+  ASSERT_NE(accessible, nullptr);
+  ASSERT_NE(accessible->tableInterface(), nullptr);
+  EXPECT_EQ(accessible->tableInterface()->rowCount(), 7);
+  EXPECT_EQ(accessible->tableInterface()->cellAt(2, 0)->text(QAccessible::Name), QStringLiteral("A.mp3"));
+}
+
+}  // namespace
+}  // namespace brevant
