@@ -2,11 +2,15 @@
 
 #include <QApplication>
 #include <QMenuBar>
+#include <utility>
+#include <vector>
 
 #include "app/about_box.h"
 #include "app/command_menus.h"
 #include "app/picture_icon.h"
 #include "app/refused_name.h"
+#include "app/tree_keys.h"
+#include "views/text_conversion.h"
 
 namespace brevant {
 namespace {
@@ -36,6 +40,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .files = parts.files,
                 .player = &parts.player,
                 .playlistView = frame.PlaylistView(),
+                .treeView = frame.Tree(),
                 .messages = frame.MessageDisplay(),
                 .frame = frame,
                 .prompts = prompts,
@@ -45,8 +50,10 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       router(frame, document, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
+      fileDrops(frame),
       closeGuard(frame, layout, settingsFile, record, document),
-      playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)) {
+      playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
+      treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
   if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
   frame.PlayControls().Fill(actions);
@@ -54,12 +61,62 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
   document.OnNewDocument();
 }
 
-void TCBrevantApp::ConnectParts() {
+void TCBrevantApp::ConnectPlaylist() {
   TCBrevantView& view = frame.PlaylistView();
   connect(&view, &TCBrevantView::pollDue, this, [this] { document.OnPlayTimerTick(); });
   connect(&view, &TCBrevantView::rowPicked, this, [this](int row) { document.PickRow(row); });
+  connect(&view, &TCBrevantView::rowMoved, this, [this](int from, int to) { document.MoveRow(from, to); });
+  connect(&view, &TCBrevantView::ctrlDragReleased, this, &TCBrevantApp::DropRowsAt);
   connect(&view, &TCBrevantView::contextMenuWanted, this,
           [this](QPoint position) { playlistMenu->popup(position); });
+}
+
+void TCBrevantApp::ConnectTree() {
+  using TCTree = TCPlayListManagerTreeView;
+  TCTree& tree = frame.Tree();
+  connect(&tree, &TCTree::nodePicked, this, [this](TCTreeNode node) { document.PickNode(node); });
+  connect(&tree, &TCTree::enterPressed, this, [this] { document.EnterOnNode(); });
+  connect(&tree, &TCTree::labelEdited, this, [this](TCTreeNode node, const QString& text) {
+    return document.RenameNode(node, FromQString(text));
+  });
+  connect(&tree, &TCTree::nodeMoved, this,
+          [this](TCTreeNode source, TCTreeNode target) { document.MoveNode(source, target); });
+  // Queued: the placing may ask for a name, and not inside the click.
+  connect(
+      &tree, &TCTree::placeWanted, this, [this] { document.PlacePendingFiles(); }, Qt::QueuedConnection);
+  connect(&tree, &TCTree::contextMenuWanted, this, [this](QPoint position) { treeMenu->popup(position); });
+  keyFilter.LetKeep(tree, [&tree](int key, Qt::KeyboardModifiers modifiers) {
+    return TreeKeepsKey(key, modifiers, tree.SelectedKind());
+  });
+}
+
+// What is under the mouse decides, although the mouse stays with the playlist until it is released.
+void TCBrevantApp::DropRowsAt(QPoint globalPosition) {
+  const QWidget* target = QApplication::widgetAt(globalPosition);
+  if (target == nullptr) return;
+  if (target == &frame.Tree() || frame.Tree().isAncestorOf(target)) {
+    document.DropRowsOnTree();
+  } else if (target == &frame.PlaylistView() || frame.PlaylistView().isAncestorOf(target)) {
+    document.DropRowsOnPlaylist();
+  }
+}
+
+void TCBrevantApp::DropFiles(const QList<QByteArray>& nativeNames) {
+  std::vector<std::u16string> paths;
+  for (const QByteArray& name : nativeNames) {
+    if (std::optional<std::u16string> path = TCNativePaths::FromNative(name.toStdString())) {
+      paths.push_back(std::move(*path));
+    } else {
+      frame.ShowStatus(RefusedNameText(name.toStdString()));
+    }
+  }
+  document.DropFiles(std::move(paths));
+}
+
+void TCBrevantApp::ConnectParts() {
+  ConnectPlaylist();
+  ConnectTree();
+  connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();
   connect(&pane, &TCWMPPaneContainer::playWanted, this, [this] { router.OnCommand(TCCommandId::Play); });

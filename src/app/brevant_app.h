@@ -11,6 +11,7 @@
 #include "app/close_guard.h"
 #include "app/command_actions.h"
 #include "app/command_router.h"
+#include "app/file_drops.h"
 #include "app/first_paint.h"
 #include "app/key_filter.h"
 #include "app/main_frame.h"
@@ -63,6 +64,10 @@ class TCBrevantApp : public QObject {
 
  private:
   void ConnectParts();
+  void ConnectPlaylist();
+  void ConnectTree();
+  void DropRowsAt(QPoint globalPosition);
+  void DropFiles(const QList<QByteArray>& nativeNames);
   void OpenFirstDocument(const TCStartFile& startFile);
   void LoadLastFile();
 
@@ -77,9 +82,11 @@ class TCBrevantApp : public QObject {
   TCCommandRouter router;
   TCCommandActions actions;
   TCKeyFilter keyFilter;
+  TCFileDrops fileDrops;
   TCCloseGuard closeGuard;
   std::optional<TCFirstPaint> firstPaint;
-  QMenu* playlistMenu = nullptr;  // the frame owns it
+  QMenu* playlistMenu = nullptr;  // the frame owns it, and the next one
+  QMenu* treeMenu = nullptr;
 };
 
 }  // namespace brevant

@@ -96,9 +96,7 @@ void TCMainFrame::RestoreLayout(const QSettings& layout) {
 }
 
 QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& content) {
-  // A single "&" would vanish from the title and from the name that is read out.
-  const QString shownTitle = ToQString(TextOf(title)).replace(QLatin1Char('&'), QStringLiteral("&&"));
-  auto* pane = new QDockWidget(shownTitle, inner);
+  auto* pane = new QDockWidget(ToQString(TextOf(title)), inner);
   // Saved layouts know a pane by this name.
   pane->setObjectName(QStringLiteral("Pane%1").arg(static_cast<int>(id)));
   pane->setWidget(&content);

@@ -14,6 +14,7 @@
 #include "app/refused_name.h"
 #include "app/song_properties_dlg.h"
 #include "resources/string_table.h"
+#include "text/regular_file.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
@@ -130,7 +131,10 @@ void TCQtPrompts::SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& 
   dialog.setDefaultSuffix(ToQString(question.defaultType));
   dialog.setDirectory(!mediaFolder.isEmpty() && QDir(mediaFolder).exists() ? mediaFolder : DocumentFolder());
   if (question.initialPath.empty()) return;
-  const QFileInfo last(QFile::decodeName(paths.FindOnDisk(question.initialPath).c_str()));
+  const std::string written = paths.ToNative(question.initialPath);
+  TCOtherCase otherCase;
+  const TCRegularFile found = FindRegularFile(written, otherCase);
+  const QFileInfo last(QFile::decodeName(found.file.IsOpen() ? found.native.c_str() : written.c_str()));
   if (last.absoluteDir().exists()) dialog.setDirectory(last.absoluteDir());
   dialog.selectFile(last.fileName());
 }

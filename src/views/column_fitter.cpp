@@ -19,7 +19,7 @@ constexpr std::array kTextColumns{TCPlaylistColumn::Number, TCPlaylistColumn::St
 
 }  // namespace
 
-TCColumnFitter::TCColumnFitter(const QTableView& playlistTable, TCPlaylistHeader& header,
+TCColumnFitter::TCColumnFitter(QTableView& playlistTable, TCPlaylistHeader& header,
                                const TCPlaylistModel& model)
     : table(playlistTable), columnHeader(header), playlist(model) {}
 
@@ -99,6 +99,21 @@ void TCColumnFitter::Fit() {
                                                     CellWidthOf(HeaderOf(TCPlaylistColumn::Name))));
   const int nameWidth = widths.Of(TCPlaylistColumn::Name);
   if (columnHeader.sectionSize(name) != nameWidth) columnHeader.resizeSection(name, nameWidth);
+  table.setHorizontalScrollBarPolicy(NamesAreCutOff() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
+bool TCColumnFitter::NamesAreCutOff() {
+  const int name = static_cast<int>(TCPlaylistColumn::Name);
+  const int seen = table.viewport()->width() - columnHeader.sectionPosition(name);
+  if (columnHeader.sectionSize(name) <= seen) return false;
+  const auto& rows = playlist.Rows();
+  // Measuring every name of a long playlist would be felt. The one with the most letters speaks for all.
+  const auto longest =
+      std::max_element(rows.begin(), rows.end(), [](const TCPlaylistRow& a, const TCPlaylistRow& b) {
+        return a.texts.name.size() < b.texts.name.size();
+      });
+  const int nameWidth = longest == rows.end() ? 0 : CellWidthOf(ToQString(longest->texts.name));
+  return std::max(nameWidth, CellWidthOf(HeaderOf(TCPlaylistColumn::Name))) > seen;
 }
 
 void TCColumnFitter::Load(const QSettings& settings) {

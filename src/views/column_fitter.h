@@ -18,7 +18,7 @@ namespace brevant {
 class TCColumnFitter : public QObject {
  public:
   // All three outlive it.
-  TCColumnFitter(const QTableView& playlistTable, TCPlaylistHeader& header, const TCPlaylistModel& model);
+  TCColumnFitter(QTableView& playlistTable, TCPlaylistHeader& header, const TCPlaylistModel& model);
 
   // From now on a column that is dragged keeps its width, and a double-click on its edge releases it. To be
   // called once the table has its header.
@@ -33,7 +33,8 @@ class TCColumnFitter : public QObject {
   void MeasureRow(int row);
   void MeasureHeaders();
 
-  // Gives the columns their widths; the names take what is left of the table.
+  // Gives the columns their widths; the names take what is left of the table. It can be scrolled to the side
+  // only where a name is cut off.
   void Fit();
 
   // Only the user's widths.
@@ -44,8 +45,9 @@ class TCColumnFitter : public QObject {
   void MakeRoomFor(TCPlaylistColumn column, const QString& text);
   [[nodiscard]] QString HeaderOf(TCPlaylistColumn column) const;
   [[nodiscard]] int CellWidthOf(const QString& text);
+  [[nodiscard]] bool NamesAreCutOff();
 
-  const QTableView& table;
+  QTableView& table;
   TCPlaylistHeader& columnHeader;
   const TCPlaylistModel& playlist;
   TCColumnWidths widths;

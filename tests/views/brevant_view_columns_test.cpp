@@ -86,6 +86,16 @@ TEST_F(TCBrevantViewColumnsTest, DoNotJumpBackWhileThePlaylistStays) {
   EXPECT_EQ(Widths(), widths);
 }
 
+TEST_F(TCBrevantViewColumnsTest, ScrollToTheSideOnlyWhereANameIsCutOff) {
+  view.ShowRows(Rows(3), TCShowRows::Afresh);  // short names in a column wider than the window
+  EXPECT_TRUE(view.horizontalScrollBar()->isHidden());
+  std::vector<TCPlaylistRow> rows = Rows(3);
+  rows[1].texts.name = std::u16string(200, u'W');
+  view.ShowRows(rows, TCShowRows::Afresh);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(view.horizontalScrollBar()->isHidden());
+}
+
 TEST_F(TCBrevantViewColumnsTest, TheNamesTakeWhatAWideWindowLeaves) {
   view.resize(3000, 400);
   view.ShowRows(Rows(3), TCShowRows::Afresh);
