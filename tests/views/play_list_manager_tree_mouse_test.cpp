@@ -389,6 +389,17 @@ TEST_F(TreeLabel, AClickOnALabelEditsNothingOnceTheFocusIsElsewhereOrPlacingWait
   EXPECT_EQ(Editor(), nullptr);
 }
 
+TEST_F(TreeLabel, TheClickThatPlacesSongsEditsNothing) {
+  tree.SelectNode(setTwo);
+  tree.SetPlacing(TCPlacing::Waiting);
+  QObject::connect(&tree, &TCPlayListManagerTreeView::placeWanted, &tree,
+                   [this] { tree.SetPlacing(TCPlacing::Nothing); });
+  mouse.Click(Label(setTwo));
+  EXPECT_EQ(places.count(), 1);
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr);
+}
+
 TEST_F(TreeLabel, WhileItIsEditedNoSongIsFollowed) {
   ASSERT_NE(BeginEditing(first[1]), nullptr);
   tree.FollowNode(first[0]);
