@@ -164,12 +164,7 @@ void TCPlayListManagerTreeView::FollowNode(TCTreeNode node) {
 }
 
 bool TCPlayListManagerTreeView::UserWorksHere() const {
-  if (state() == EditingState || dragging || ctrlDrag || placing == TCPlacing::Waiting) return true;
-  const QWidget* focus = window()->focusWidget();
-  if (focus != this && !isAncestorOf(focus)) return false;
-  // Behind a dialog or another program this is still where the next key will go.
-  const QWidget* active = QApplication::activeWindow();
-  return active == window() || active == nullptr || QApplication::activeModalWidget() != nullptr;
+  return state() == EditingState || dragging || ctrlDrag || placing == TCPlacing::Waiting || KeysGoHere();
 }
 
 void TCPlayListManagerTreeView::ExpandNode(TCTreeNode node) {
@@ -195,7 +190,15 @@ void TCPlayListManagerTreeView::TakeFocus() {
 }
 
 bool TCPlayListManagerTreeView::HasFocus() const {
-  return hasFocus();
+  return KeysGoHere();
+}
+
+// To the tree or the field of a label; behind a menu, a dialog or another program this is where they will go.
+bool TCPlayListManagerTreeView::KeysGoHere() const {
+  const QWidget* focus = window()->focusWidget();
+  if (focus != this && !isAncestorOf(focus)) return false;
+  const QWidget* active = QApplication::activeWindow();
+  return active == window() || active == nullptr || QApplication::activeModalWidget() != nullptr;
 }
 
 void TCPlayListManagerTreeView::ResetMouseState() {
@@ -377,8 +380,8 @@ void TCPlayListManagerTreeView::ForgetClick() {
 void TCPlayListManagerTreeView::RenameFromLabel(const QModelIndex& index, const QString& typed) {
   const TCTreeNode node = nodes->NodeAt(index);
   const QString name = ToQString(Trim(FromQString(typed)));
-  nodes->SetText(node, name.isEmpty() ? typed : name);
-  if (!name.isEmpty() && !labelEdited(node, name)) nodes->SetText(node, typed);
+  // Whoever takes the name sets the node's text; else what was typed stays on the screen.
+  if (name.isEmpty() || !labelEdited(node, name)) nodes->SetText(node, typed);
 }
 
 void TCPlayListManagerTreeView::ShowDropTarget(TCTreeNode node) {
