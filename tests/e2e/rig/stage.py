@@ -1,5 +1,7 @@
 """The program's window as the operator sees it: what stands where, and waiting until it does."""
 
+import pyatspi
+
 from rig import accessibility as tree
 from rig import screen
 from rig.waiting import wait_for
@@ -20,13 +22,29 @@ class Stage:
         wait_for("the About box to have the keys", lambda: screen.active_window_title() == "About Brevant")
         screen.press("Return")
         wait_for("the About box to close", lambda: self.program.find("dialog", "About Brevant") is None)
-        wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))
+        self.wait_for_the_keys()
+
+    def wait_for_the_keys(self):
+        """The main window has the keys, and no dialog of its own is left."""
+        def shown():
+            title = screen.active_window_title()
+            # A question is titled as the window of a new document is.
+            return (title.endswith(" - Brevant") or title == "Brevant*" or
+                    (title == "Brevant" and self.program.find("alert") is None))
+
+        wait_for("the main window to have the keys", shown)
 
     def table(self):
         return self.program.wait_for("table", "Playlist")
 
     def rows(self):
         return [row[1:] for row in tree.rows(self.table())]
+
+    def wait_for_rows(self, rows):
+        try:
+            wait_for("the playlist", lambda: self.rows() == rows, 5)
+        except AssertionError:
+            raise AssertionError(f"the playlist shows {self.rows()} instead of {rows}") from None
 
     def header(self):
         return tree.headers(self.table())[4]
@@ -56,18 +74,50 @@ class Stage:
 
     def prompt_text(self, title, prompt):
         """What the field of the text prompt holds that is about to open."""
-        dialog = self.program.wait_for("dialog", title)
-        wait_for("the prompt to have the keys", lambda: screen.active_window_title() == title)
+        dialog = self.wait_for_dialog(title)
         assert tree.find(dialog, "label", prompt), f"the prompt does not say {prompt!r}"
         return tree.text_of(tree.find(dialog, "text", prompt))
 
     def enter_text(self, title, prompt, text):
         """Answers the text prompt that is about to open; returns what its field held."""
         held = self.prompt_text(title, prompt)
-        screen.press(*text, "Return")
+        screen.type_text(text)
+        self.wait_for_text(prompt, text)
+        screen.press("Return")
         wait_for("the prompt to close", lambda: self.program.find("dialog", title) is None)
-        wait_for("the main window to have the keys", lambda: screen.active_window_title().endswith(" - Brevant"))
+        self.wait_for_the_keys()
         return held
+
+    def wait_for_text(self, field, text):
+        """The field of that name holds the text: all that was typed has arrived."""
+        wait_for(f"{text!r} in the field {field!r}",
+                 lambda: tree.text_of(self.program.wait_for("text", field)) == text, 5)
+
+    def wait_for_dialog(self, title):
+        """The dialog, once it has the keys."""
+        dialog = self.program.wait_for("dialog", title)
+        wait_for(f"{title!r} to have the keys", lambda: screen.active_window_title() == title.strip())
+        return dialog
+
+    def has_focus(self, role, name):
+        element = self.program.find(role, name)
+        return element is not None and element.getState().contains(pyatspi.STATE_FOCUSED)
+
+    def wait_for_focus(self, role, name):
+        wait_for(f"the {role} {name!r} to have the keys", lambda: self.has_focus(role, name), 5)
+
+    def press_tab_to(self, title, button):
+        """Goes from control to control of a dialog until the button has the keys."""
+        def focused():
+            return [element.name for element in tree.elements(self.program.find("dialog", title))
+                    if element.getState().contains(pyatspi.STATE_FOCUSED)]
+
+        passed = [focused()]
+        while button not in passed[-1]:
+            assert len(passed) < 12, f"no Tab leads to {button!r}, only to {passed}"
+            screen.press("Tab")
+            wait_for("the next control to have the keys", lambda: focused() not in ([], passed[-1]), 5)
+            passed.append(focused())
 
     def colours(self):
         """The text colour of each row's song name, on black; SELECTED for a row that does not stand on black."""
