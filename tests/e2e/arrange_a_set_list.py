@@ -66,7 +66,6 @@ class Keys:
     def types_five_songs(self, rig):
         screen.press("a")
         self.stage.wait_for_dialog("Create Set Lists")
-        print([e.name for e in tree.elements(self.stage.program.find("dialog","Create Set Lists")) if e.getRoleName()=="combo box"])
         text = " ".join(f'"{self.music.evening / name}"' for name in EVENING)
         screen.type_text(text)
         self.stage.wait_for_text("Song File Names:", text)
@@ -96,6 +95,144 @@ class Keys:
         self.stage.wait_for_the_keys()
         self.stage.wait_for_rows(listed(NIGHT))
 
+    def renames_with_ctrl_r(self):
+        self.stage.wait_for_rows(listed(NIGHT))
+        self.manager.focus()
+        self.walk_to(SECOND, "Up")
+        self.rename_to("Second Set")
+        self.walk_to("Gone.wav", "Up")
+        self.rename_to(SPARE)
+        self.manager.wait_for_outline(GROUP, *songs_below(FIRST, [*EVENING_SHOWN[:-1], SPARE]),
+                                      *songs_below("Second Set", NIGHT))
+        # Its file is looked for under the new name, and is there.
+        screen.press("F3", "Left")
+        self.stage.wait_for_rows(listed([*EVENING_SHOWN[:-1], SPARE]))
+
+    def expect_first(self, songs_of_it):
+        self.manager.wait_for_outline(GROUP, *songs_below(FIRST, songs_of_it), "  Second Set")
+        self.stage.wait_for_rows(listed(songs_of_it))
+
+    def rename_to(self, name):
+        screen.press("ctrl+r")
+        assert self.stage.enter_text(*RENAME_PROMPT, name) == ""
+        self.manager.wait_for_selected(name)
+
+    def walk_to(self, name, key):
+        for _ in range(20):
+            at = self.manager.selected()
+            if at == name:
+                return
+            screen.press(key)
+            wait_for("the next entry to be selected", lambda: self.manager.selected() not in (None, at), 5)
+        raise AssertionError(f"{key} leads to no {name!r}")
+
+    def moves_songs_in_the_playlist(self):
+        screen.press("m", "ctrl+m", "ctrl+m", "shift+m")
+        self.expect(FIRST, [" High.wav", "Harbour Tone.wav", "Two  Blanks.wav", "Zwölf Räder.wav", SPARE],
+                    "Second Set", NIGHT)
+        self.stage.wait_for_selected_rows(1)
+        screen.press("ctrl+m", "ctrl+m", "ctrl+m", "ctrl+m")  # once more than there are places
+        self.expect(FIRST, [" High.wav", "Two  Blanks.wav", "Zwölf Räder.wav", SPARE, "Harbour Tone.wav"],
+                    "Second Set", NIGHT)
+
+    def expect(self, first, first_songs, second, second_songs):
+        self.manager.wait_for_outline(GROUP, *songs_below(first, first_songs), *songs_below(second, second_songs))
+        self.stage.wait_for_rows(listed(first_songs))
+
+    def moves_entries_in_the_tree(self):
+        self.manager.focus()
+        self.manager.wait_for_selected("Harbour Tone.wav")
+        for _ in range(2):
+            screen.press("shift+Up")
+        self.expect(FIRST, [" High.wav", "Two  Blanks.wav", "Harbour Tone.wav", "Zwölf Räder.wav", SPARE],
+                    "Second Set", NIGHT)
+        screen.press("shift+Down", "shift+Down")
+        kept = [" High.wav", "Two  Blanks.wav", "Zwölf Räder.wav", SPARE, "Harbour Tone.wav"]
+        self.expect(FIRST, kept, "Second Set", NIGHT)
+        # The last song has none of its kind below it: the keys go on, the song stays.
+        screen.press("shift+Down")
+        self.manager.wait_for_selected("Second Set")
+        self.expect(FIRST, kept, "Second Set", NIGHT)
+
+        # Folded, the playlists stand one below the other.
+        screen.press("Left")
+        self.manager.wait_for_outline(GROUP, *songs_below(FIRST, kept), "  Second Set")
+        self.walk_to(FIRST, "Up")
+        screen.press("Left")
+        self.manager.wait_for_outline(GROUP, "  " + FIRST, "  Second Set")
+        screen.press("shift+Down")
+        self.manager.wait_for_outline(GROUP, "  Second Set", "  " + FIRST)
+        self.manager.wait_for_selected(FIRST)
+        self.stage.wait_for_rows(listed(kept))
+        screen.press("shift+Up")
+        self.manager.wait_for_outline(GROUP, "  " + FIRST, "  Second Set")
+        screen.press("Right")
+        self.manager.wait_for_outline(GROUP, *songs_below(FIRST, kept), "  Second Set")
+
+    def duplicates_and_removes(self):
+        self.walk_to("Two  Blanks.wav", "Down")
+        screen.press("ctrl+d")
+        kept = [" High.wav", "Two  Blanks.wav", "Zwölf Räder.wav", SPARE, "Harbour Tone.wav"]
+        self.expect_first([*kept, "Two  Blanks.wav"])
+        self.walk_to("Zwölf Räder.wav", "Up")
+
+        for answer, left in (("Return", [*kept, "Two  Blanks.wav"]),
+                             ("y", [*kept[:2], *kept[3:], "Two  Blanks.wav"])):
+            screen.press("Delete")
+            self.stage.wait_for_question("Are you sure you want to remove file: Zwölf Räder.wav")
+            screen.press(answer)
+            self.stage.wait_for_the_keys()
+            self.expect_first(left)
+
+        # The playlist's rows go unasked. The current song's is the one that was first in the beginning.
+        screen.press("F3", "m", "Delete")
+        self.expect_first([" High.wav", "Two  Blanks.wav", SPARE, "Two  Blanks.wav"])
+
+    def saves(self):
+        screen.press("ctrl+s")
+        self.stage.wait_for_dialog("Save As")
+        screen.press("ctrl+a")
+        screen.type_text("Abend mit Gästen")
+        self.stage.wait_for_text("File name:", "Abend mit Gästen")
+        screen.press("Return")
+        wait_for("the title", lambda: screen.active_window_title() == "Abend mit Gästen.brv - Brevant")
+        assert (self.music.home / "Abend mit Gästen.brv").is_file()
+
+    def is_asked_about_a_change(self):
+        self.manager.focus()
+        self.walk_to("Second Set", "Down")
+        screen.press("ctrl+d")
+        songs_left = [" High.wav", "Two  Blanks.wav", SPARE, "Two  Blanks.wav"]
+        self.manager.wait_for_outline(GROUP, *songs_below(FIRST, songs_left), "  Second Set", "  Second Set")
+        # A document tells playlists by their names: two of one name would come back as one.
+        self.rename_to("Late Set")
+        wait_for("the modified mark", lambda: screen.active_window_title() == "Abend mit Gästen.brv* - Brevant")
+        for answer in ("Escape", "Return"):
+            screen.press("alt+F4")
+            self.stage.wait_for_question("Save changes to Abend mit Gästen.brv?")
+            screen.press(answer)
+            if answer == "Escape":
+                self.stage.wait_for_the_keys()
+                assert screen.active_window_title() == "Abend mit Gästen.brv* - Brevant"
+        status = self.stage.program.exit_status()
+        assert status == 0, f"the program ended with status {status}"
+
+    def finds_everything_again(self, stage):
+        self.stage, self.manager = stage, Manager(stage)
+        stage.dismiss_the_about_box()
+        wait_for("the title", lambda: screen.active_window_title() == "Abend mit Gästen.brv - Brevant")
+        songs_left = [" High.wav", "Two  Blanks.wav", SPARE, "Two  Blanks.wav"]
+        stage.wait_for_rows(listed(songs_left))
+        self.manager.wait_for_outline(GROUP)
+        self.manager.focus()
+        screen.press("asterisk")
+        self.manager.wait_for_outline(GROUP, *songs_below(FIRST, songs_left), *songs_below("Second Set", NIGHT),
+                                      *songs_below("Late Set", NIGHT))
+        screen.press("F3", "Right", "Right")
+        stage.wait_for_rows(listed(NIGHT))
+        screen.press("Left", "Left")
+        stage.wait_for_rows(listed(songs_left))
+
 
 def perform(rig):
     music = Music(rig.home)
@@ -107,6 +244,13 @@ def perform(rig):
         (keys.makes_a_group_and_two_playlists, "makes a group and two playlists"),
         (lambda: keys.types_five_songs(rig), "types the names of five songs"),
         (keys.finds_five_more, "finds five more"),
+        (keys.renames_with_ctrl_r, "renames a playlist and a song"),
+        (keys.moves_songs_in_the_playlist, "moves songs in the playlist"),
+        (keys.moves_entries_in_the_tree, "moves songs and playlists in the tree"),
+        (keys.duplicates_and_removes, "duplicates and removes"),
+        (keys.saves, "saves"),
+        (keys.is_asked_about_a_change, "is asked about a change when it closes"),
+        (lambda: keys.finds_everything_again(Stage(rig.start(), rig.listener)), "starts again and finds everything"),
     )
     for action, sentence in steps:
         rig.step(sentence)

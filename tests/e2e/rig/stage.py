@@ -46,6 +46,14 @@ class Stage:
         except AssertionError:
             raise AssertionError(f"the playlist shows {self.rows()} instead of {rows}") from None
 
+    def selected_rows(self):
+        grid = self.table().queryTable()
+        return [row for row in range(grid.nRows)
+                if grid.getAccessibleAt(row, 4).getState().contains(pyatspi.STATE_SELECTED)]
+
+    def wait_for_selected_rows(self, *rows):
+        wait_for(f"the rows {rows} to be selected", lambda: self.selected_rows() == list(rows), 5)
+
     def header(self):
         return tree.headers(self.table())[4]
 
@@ -98,6 +106,13 @@ class Stage:
         dialog = self.program.wait_for("dialog", title)
         wait_for(f"{title!r} to have the keys", lambda: screen.active_window_title() == title.strip())
         return dialog
+
+    def wait_for_question(self, question):
+        """The question that is about to be asked, once it has the keys."""
+        box = self.program.wait_for("alert", "Brevant")
+        wait_for("the question to have the keys", lambda: screen.active_window_title() == "Brevant")
+        assert tree.find(box, "label", question), f"the question is not {question!r}"
+        return box
 
     def has_focus(self, role, name):
         element = self.program.find(role, name)
