@@ -17,9 +17,18 @@ EVENING_SHOWN = ["Harbour Tone.wav", " High.wav", "Two  Blanks.wav", "Zwölf Rä
 SPARE = "Spare.wav"  # what the missing song is renamed to
 NIGHT = ["It's 5 o'clock.wav", "Last One.wav", "Éclair & Tonnerre.wav", "Νύχτα.wav", "Ночь.wav"]  # as choosers sort
 
+DAY = ["Harbour Tone.wav", "Low > High.wav", "Spare.wav", "Two  Blanks.wav", "Zwölf Räder.wav"]  # by the chooser
+DAY_SHOWN = ["Harbour Tone.wav", " High.wav", "Spare.wav", "Two  Blanks.wav", "Zwölf Räder.wav"]
+
 GROUP_PROMPT = ("Create A Group Of Playlists ", "Enter the name of the group of play lists")
 SET_PROMPT = ("Create A Set List", "Enter the name of the song play list")
 RENAME_PROMPT = ("Enter property", "Enter the new folder name")
+
+TREE_MENU = ["Copy Song", "Paste", "Dublicate", "Remove", "Rename", "New Grouplist Folder", "New Playlist Folder",
+             "Create Group List", "Create Playlist", "Add Song(s)", "Properties", "Cancel",
+             "Refresh Playlist Song Times", "Refresh All Song Times", "Refresh Song Time", "Clear Information"]
+PLAYLIST_MENU = ["Copy Song(s)", "Paste", "Remove", "Create Group List", "Create Playlist", "Add Song(s)", "Properties",
+                 "Cancel", "Refresh Playlist Song Times", "Refresh All Song Times", "Refresh Song Time"]
 
 
 class Music:
@@ -234,6 +243,162 @@ class Keys:
         stage.wait_for_rows(listed(songs_left))
 
 
+class Mouse:
+    """The second set lists, made with the mouse alone; only names are typed."""
+
+    def __init__(self, stage, music, rig):
+        self.stage, self.manager, self.music, self.rig = stage, Manager(stage), music, rig
+
+    def begins_a_new_document(self):
+        self.stage.click_in_menu("File", "New")
+        wait_for("the title", lambda: screen.active_window_title() == "Brevant")
+        self.manager.wait_for_outline()
+
+    def makes_a_group_and_two_playlists(self):
+        self.stage.click_in_context_menu(self.manager.below_the_entries(), TREE_MENU, "Create Group List")
+        self.answer(*GROUP_PROMPT, "Matinee")
+        for name in ("Early", "Late"):
+            self.manage("Matinee", "Create Playlist")
+            self.answer(*SET_PROMPT, name)
+            self.manager.wait_for_selected(name)
+        self.manager.wait_for_outline("Matinee", "  Early", "  Late")
+
+    def manage(self, name, command):
+        self.stage.click_in_context_menu(self.manager.label(name), TREE_MENU, command)
+
+    def answer(self, title, prompt, text):
+        self.stage.wait_for_dialog(title)
+        screen.type_text(text)
+        self.stage.wait_for_text(prompt, text)
+        self.stage.click_the_button("OK", title)
+        self.stage.wait_for_the_keys()
+
+    def finds_ten_songs(self):
+        self.manage("Early", "Add Song(s)")
+        self.stage.wait_for_dialog("Create Set Lists")
+        self.find_all_songs_of(self.music.night.name, NIGHT)
+        self.stage.click_the_button("Create", "Create Set Lists")
+        self.manager.wait_for_outline("Matinee", *songs_below("Early", NIGHT), "  Late")
+        screen.click(*tree.middle(self.stage.program.wait_for("combo box", "Early")))
+        screen.click(*tree.middle(self.stage.program.wait_for("list item", "Late")))
+        self.stage.program.wait_for("combo box", "Late")
+        self.find_all_songs_of(self.music.evening.name, DAY)
+        self.stage.click_the_button("Create", "Create Set Lists")
+        self.manager.wait_for_outline("Matinee", *songs_below("Early", NIGHT), *songs_below("Late", DAY_SHOWN))
+        self.stage.click_the_button("OK", "Create Set Lists")
+        self.stage.wait_for_the_keys()
+        self.stage.wait_for_rows(listed(DAY_SHOWN))
+
+    def find_all_songs_of(self, folder, names):
+        self.stage.click_the_button("Find Songs", "Create Set Lists")
+        self.stage.wait_for_dialog("Find Songs")
+        if self.stage.program.find("combo box", str(self.music.home)) is None:
+            self.stage.click_the_button("Parent Directory", "Find Songs")
+        self.click_file("Find Songs", folder, times=2)
+        self.stage.program.wait_for("combo box", str(self.music.home / folder))
+        self.click_file("Find Songs", names[0])
+        with screen.held("shift"):
+            self.click_file("Find Songs", names[-1])
+        self.stage.wait_for_text("File name:", " ".join(f'"{name}"' for name in names))
+        self.stage.click_the_button("Open", "Find Songs")
+        self.stage.wait_for_dialog("Create Set Lists")
+
+    def click_file(self, chooser, name, times=1):
+        file = wait_for(f"{name!r} in the chooser",
+                        lambda: tree.find(self.stage.program.wait_for("dialog", chooser), "table cell", name))
+        left, top, _, height = tree.area(file)
+        screen.click(left + 30, top + height // 2, times)
+
+    def renames_in_place(self):
+        self.manager.click("Late")
+        left, top = self.manager.label("Late")
+        screen.click(left + 12, top)  # a little beside the first click: it is a second one, not a double-click
+        self.manager.wait_for_label_field("Late")
+        self.rig.picture("the-rename-editor")
+        screen.type_text("Evening")
+        screen.press("Return")
+        self.manager.wait_for_outline("Matinee", *songs_below("Early", NIGHT), *songs_below("Evening", DAY_SHOWN))
+
+    def drags_in_the_tree(self):
+        with screen.drag(self.manager.label("Spare.wav"), self.manager.label("Last One.wav")):
+            self.manager.wait_for_selected("Last One.wav")
+            self.rig.picture("a-song-on-its-way-to-another-playlist")
+        self.early = [NIGHT[0], "Spare.wav", *NIGHT[1:]]
+        self.evening = [name for name in DAY_SHOWN if name != "Spare.wav"]
+        self.expect(*songs_below("Early", self.early), *songs_below("Evening", self.evening))
+        self.manager.drag("Evening", "Early")
+        self.expect(*songs_below("Evening", self.evening), *songs_below("Early", self.early))
+
+    def expect(self, *entries):
+        self.manager.wait_for_outline("Matinee", *entries)
+        self.stage.wait_for_rows(listed(self.evening))
+
+    def drags_a_row(self):
+        with screen.drag(self.stage.row_place(0), self.stage.row_place(2)):
+            self.stage.wait_for_selected_rows(2)
+            self.rig.picture("a-row-on-its-way")
+        self.evening = [" High.wav", "Two  Blanks.wav", "Harbour Tone.wav", "Zwölf Räder.wav"]
+        self.expect(*songs_below("Evening", self.evening), *songs_below("Early", self.early))
+
+    def removes_a_row(self):
+        self.stage.click_in_context_menu(self.stage.row_place(0), PLAYLIST_MENU, "Remove")
+        self.evening = self.evening[1:]
+        self.expect(*songs_below("Evening", self.evening), *songs_below("Early", self.early))
+
+    def copies_rows_into_the_tree(self):
+        screen.click(*self.stage.row_place(0))
+        self.stage.wait_for_selected_rows(0)
+        with screen.held("ctrl"):
+            screen.click(*self.stage.row_place(2))
+            self.stage.wait_for_selected_rows(0, 2)
+            with screen.drag(self.stage.row_place(0), self.manager.label("Early")):
+                self.manager.wait_for_selected("Early")
+                self.rig.picture("two-songs-on-their-way-into-the-tree")
+        self.early = [*self.early, self.evening[0], self.evening[2]]
+        self.expect(*songs_below("Evening", self.evening), *songs_below("Early", self.early))
+
+    def saves_and_leaves(self):
+        self.stage.click_in_menu("File", "Save As...")
+        self.stage.wait_for_dialog("Save As")
+        screen.press("ctrl+a")
+        screen.type_text("Matinee")
+        self.stage.wait_for_text("File name:", "Matinee")
+        self.stage.click_the_button("Save", "Save As")
+        wait_for("the title", lambda: screen.active_window_title() == "Matinee.brv - Brevant")
+        screen.click(*tree.middle(self.stage.menu_item("File")))
+        screen.click(*tree.middle(wait_for("Exit", lambda: self.stage.menu_item("Exit"))))
+        status = self.stage.program.exit_status()
+        assert status == 0, f"the program ended with status {status}"
+
+    def repairs_songs_that_were_moved(self, stage):
+        moved = self.music.evening.rename(self.music.home / "Abend > Archiv")
+        self.stage, self.manager = stage(), None
+        self.manager = Manager(self.stage)
+        self.stage.dismiss_the_about_box()
+        lost = [[number, "Not found", time, name] for number, _, time, name in listed(self.evening)]
+        self.stage.wait_for_rows(lost)
+        self.stage.click_in_context_menu(self.stage.row_place(1), PLAYLIST_MENU, "Properties")
+        dialog = self.stage.wait_for_dialog("Song properties")
+        self.stage.click_the_button("Set Dir", "Song properties")
+        self.stage.wait_for_dialog("Choose a Song")
+        self.rig.picture("Set-Dir")
+        self.click_file("Choose a Song", moved.name, times=2)
+        self.stage.program.wait_for("combo box", str(moved))
+        self.click_file("Choose a Song", "Zwölf Räder.wav")
+        self.stage.wait_for_text("File name:", "Zwölf Räder.wav")
+        self.stage.click_the_button("Open", "Choose a Song")
+        self.stage.wait_for_dialog("Song properties")
+        self.stage.wait_for_text("Song File Path:", songs.windows_path(moved) + "\\")
+        self.stage.wait_for_text("Song Name:", self.evening[1])
+        left, top, _, height = tree.area(tree.find(
+            dialog, "check box", "Use this directory/file path to update all songs in this playlist"))
+        screen.click(left + 10, top + height // 2)
+        self.rig.picture("Song-properties")
+        self.stage.click_the_button("OK", "Song properties")
+        self.stage.wait_for_the_keys()
+        self.stage.wait_for_rows(listed(self.evening))
+
+
 def perform(rig):
     music = Music(rig.home)
     screen.offer_letters("us", "ru", "de")
@@ -251,6 +416,28 @@ def perform(rig):
         (keys.saves, "saves"),
         (keys.is_asked_about_a_change, "is asked about a change when it closes"),
         (lambda: keys.finds_everything_again(Stage(rig.start(), rig.listener)), "starts again and finds everything"),
+    )
+    import os
+    if os.environ.get("ONLY"):
+        steps = (steps[0],)
+        mouse = Mouse(stage, music, rig)
+    else:
+        mouse = None
+    def m(name):
+        global M
+        if name == "begins_a_new_document": M = mouse or Mouse(keys.stage, music, rig)
+        getattr(M, name)()
+    steps = (*steps,
+        (lambda: m("begins_a_new_document"), "begins a new document"),
+        (lambda: m("makes_a_group_and_two_playlists"), "makes a group and two playlists with the mouse"),
+        (lambda: m("finds_ten_songs"), "finds ten songs"),
+        (lambda: m("renames_in_place"), "renames in place"),
+        (lambda: m("drags_in_the_tree"), "drags in the tree"),
+        (lambda: m("drags_a_row"), "drags a row"),
+        (lambda: m("removes_a_row"), "removes a row"),
+        (lambda: m("copies_rows_into_the_tree"), "copies rows into the tree"),
+        (lambda: m("saves_and_leaves"), "saves and leaves"),
+        (lambda: M.repairs_songs_that_were_moved(lambda: Stage(rig.start(), rig.listener)), "repairs"),
     )
     for action, sentence in steps:
         rig.step(sentence)

@@ -75,9 +75,24 @@ class Manager:
             passed = passed or text == after
         raise AssertionError(f"the tree shows no {name!r}: {self.outline()}")
 
+    def wait_for_label_field(self, name):
+        """The label of the selected entry is being typed: the field covers what shows the selection behind the label.
+        The accessibility tree has no way to the field."""
+        def opened():
+            x, y, width, height = tree.area(next(element for element, _, text in self.entries() if text == name))
+            picture, middle = screen.Picture(), y + height // 2
+            before, behind = picture.colours((x + 1, middle, 2, 1)), picture.colours((x + width - 9, middle, 2, 1))
+            return before.most_common(1)[0][0] != behind.most_common(1)[0][0]
+
+        wait_for(f"a field to rename {name!r} in", opened, 5)
+
     def click(self, name, after=None):
         screen.click(*self.label(name, after))
         self.wait_for_selected(name)
+
+    def below_the_entries(self):
+        left, top, width, height = tree.area(self.stage.program.wait_for("tree", "Play List Manager"))
+        return left + width // 2, top + height - 20
 
     def drag(self, source, target):
         """Drags an entry onto another, both told by their names, and lets go when the target is shown as such."""

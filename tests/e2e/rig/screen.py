@@ -76,6 +76,18 @@ def right_click(x, y):
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "3"], check=True)
 
 
+def window_under_pointer():
+    answer = subprocess.run(["xdotool", "getmouselocation", "--shell"], check=True, capture_output=True, text=True)
+    return re.search(r"^WINDOW=(\d+)", answer.stdout, re.MULTILINE).group(1)
+
+
+def window_area(window):
+    """(x, y, width, height) on the display, or None when the window is gone."""
+    answer = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window], capture_output=True, text=True)
+    values = dict(re.findall(r"^(\w+)=(-?\d+)", answer.stdout, re.MULTILINE))
+    return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")) if values else None
+
+
 def point_at(x, y):
     subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
 

@@ -161,13 +161,53 @@ class Stage:
 
         wait_for(f"rows on {colour}", lambda: set(seen()) == {colour}, 5)
 
-    def double_click_row(self, row):
+    def row_place(self, row):
+        """Where a row's song name stands."""
         left, top, width, height = tree.cell_area(self.table(), row, 4)
-        screen.click(left + min(width, 80) // 2, top + height // 2, times=2)
+        return left + min(width, 80) // 2, top + height // 2
 
-    def click_the_button(self, name):
-        left, top, width, height = tree.area(self.program.wait_for("push button", name))
-        screen.click(left + width // 2, top + height // 2)
+    def double_click_row(self, row):
+        screen.click(*self.row_place(row), times=2)
+
+    def click_the_button(self, name, window=None):
+        """A button of the main window, or of the dialog of that title."""
+        button = self.program.wait_for("push button", name) if window is None else wait_for(
+            f"{name!r} of {window!r}", lambda: tree.find(self.program.wait_for("dialog", window), "push button", name))
+        screen.click(*tree.middle(button))
+
+    def menu_item(self, text):
+        """The shown entry of a menu with that text, whatever keys stand behind it."""
+        application = tree.application_of(self.program.process.pid)
+        for element in tree.elements(application):
+            try:
+                if (element.getRoleName() == "menu item" and element.name.split("\t")[0].strip() == text and
+                        element.getState().contains(pyatspi.STATE_SHOWING)):
+                    return element
+            except tree.VANISHED:
+                continue
+        return None
+
+    def open_context_menu(self, place):
+        """With the right button; the window of the menu. The accessibility tree has no way to it."""
+        screen.point_at(*place)
+        below = screen.window_under_pointer()
+        screen.right_click(*place)
+        wait_for("a context menu", lambda: screen.window_under_pointer() != below, 5)
+        return screen.window_under_pointer()
+
+    def click_in_context_menu(self, place, entries, text):
+        """Opens a context menu and clicks an entry. Its entries are of one height, and a line between them is next to
+        none."""
+        menu = self.open_context_menu(place)
+        left, top, width, height = screen.window_area(menu)
+        screen.click(left + width // 2, top + round((entries.index(text) + 0.5) * height / len(entries)))
+        wait_for("the context menu to close", lambda: screen.window_under_pointer() != menu, 5)
+
+    def click_in_menu(self, *texts):
+        """Clicks from the menu bar to an entry."""
+        for text in texts:
+            screen.click(*tree.middle(wait_for(f"{text!r} in a menu", lambda: self.menu_item(text))))
+        wait_for("the menu to close", lambda: self.menu_item(texts[-1]) is None)
 
     def wait_for_message(self, text, seconds=5):
         wait_for(f"the message display to show {text!r}", lambda: text in self.message(), seconds)
