@@ -2,11 +2,15 @@
 them, finds them again at the next start, and mends one whose songs have gone to another folder.
 """
 
+import sys
+
 from rig import accessibility as tree
 from rig import flow, screen, songs
 from rig.manager import Manager
 from rig.stage import Stage
 from rig.waiting import holds_for, wait_for
+
+WHITE = (255, 255, 255)
 
 GROUP = "Abend > Гости"
 FIRST, SECOND = "First Set", "Второй"
@@ -28,7 +32,7 @@ TREE_MENU = ["Copy Song", "Paste", "Dublicate", "Remove", "Rename", "New Groupli
              "Create Group List", "Create Playlist", "Add Song(s)", "Properties", "Cancel",
              "Refresh Playlist Song Times", "Refresh All Song Times", "Refresh Song Time", "Clear Information"]
 PLAYLIST_MENU = ["Copy Song(s)", "Paste", "Remove", "Create Group List", "Create Playlist", "Add Song(s)", "Properties",
-                 "Cancel", "Refresh Playlist Song Times", "Refresh All Song Times", "Refresh Song Time"]
+                 "Cancel", "Refresh Playlist Song Times", "Refresh All Song Times", "Refresh Song Time", "Clear Information"]
 
 
 class Music:
@@ -398,6 +402,58 @@ class Mouse:
         self.stage.wait_for_the_keys()
         self.stage.wait_for_rows(listed(self.evening))
 
+    def pastes_in_vain(self):
+        self.manager.unfold("Matinee")
+        screen.click(*self.stage.row_place(0))
+        self.stage.wait_for_selected_rows(0)
+        screen.press("ctrl+c", "ctrl+v")
+        wait_for("what the paste waits for", lambda: self.stage.status() == "No dropped files to place, Esc to cancel")
+        self.manager.click("Early")
+        holds_for("a paste that waits", lambda: self.stage.status().startswith("No dropped files"), 0.5)
+        screen.press("Escape")
+        wait_for("an empty status bar", lambda: self.stage.status() == "")
+        # The playlist unfolded below the mouse, to show where a file would go, and has nothing new.
+        self.manager.wait_for_outline("Matinee", "  Evening", *songs_below("Early", self.early))
+
+    def drops_files_of_another_program(self):
+        files = [self.music.night / NIGHT[4], self.music.night / NIGHT[0], self.music.night / "Missing.wav"]
+        with self.rig.another_program(sys.argv[3], 1200, 700, *files) as process:
+            source = tree.area(wait_for("the other program's window", lambda: find_in(process, "label", "Drag me")))
+            with screen.drag((source[0] + 20, source[1] + 20), self.stage.row_place(1)):
+                self.rig.picture("files-dragged-over-the-playlist")
+            wait_for("the other program to be told", lambda: find_in(process, "label", "Dropped"))
+        wait_for("what the drop waits for", lambda: self.stage.status() ==
+                 "Click a playlist in the Play List Manager to place 3 files, Esc to cancel")
+        self.rig.picture("files-that-wait-for-a-click")
+        screen.click(*self.manager.label("Early"))
+        # The missing one is last, so that it is the one selected.
+        placed = [*self.early, NIGHT[4], NIGHT[0], "Missing.wav"]
+        self.manager.wait_for_outline("Matinee", "  Evening", *songs_below("Early", placed))
+        self.manager.wait_for_selected("Missing.wav")
+        wait_for("an empty status bar", lambda: self.stage.status() == "")
+
+    def looks_at_it_in_black_on_white(self):
+        self.stage.click_in_menu("Options", "White On Black")
+        table = tree.area(self.stage.table())
+        wait_for("a white playlist", lambda: screen.Picture().colours(table).most_common(1)[0][0] == WHITE)
+        for place, name in ((self.manager.label("Early"), "the-tree-s-menu"), (self.stage.row_place(1), "the-playlist-s-menu")):
+            self.stage.open_context_menu(place)
+            self.rig.picture(name + "-black-on-white")
+            screen.press("Escape")
+
+    def leaves_without_saving(self):
+        screen.click(*tree.middle(self.stage.menu_item("File")))
+        screen.click(*tree.middle(wait_for("Exit", lambda: self.stage.menu_item("Exit"))))
+        question = self.stage.wait_for_question("Save changes to Matinee.brv?")
+        screen.click(*tree.middle(tree.find(question, "push button", "Discard")))
+        status = self.stage.program.exit_status()
+        assert status == 0, f"the program ended with status {status}"
+
+
+def find_in(process, role, name):
+    application = tree.application_of(process.pid)
+    return tree.find(application, role, name) if application else None
+
 
 def perform(rig):
     music = Music(rig.home)
@@ -438,6 +494,10 @@ def perform(rig):
         (lambda: m("copies_rows_into_the_tree"), "copies rows into the tree"),
         (lambda: m("saves_and_leaves"), "saves and leaves"),
         (lambda: M.repairs_songs_that_were_moved(lambda: Stage(rig.start(), rig.listener)), "repairs"),
+        (lambda: m("pastes_in_vain"), "pastes in vain"),
+        (lambda: m("drops_files_of_another_program"), "drops"),
+        (lambda: m("looks_at_it_in_black_on_white"), "looks at it in black on white"),
+        (lambda: m("leaves_without_saving"), "leaves"),
     )
     for action, sentence in steps:
         rig.step(sentence)

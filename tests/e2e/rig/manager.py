@@ -9,6 +9,8 @@ from rig.waiting import wait_for
 INDENT = "  "  # before a line of the outline, once for each entry above it
 PICTURE = 23  # pixels from the left of an entry to its label
 INTO_THE_LABEL = 12
+SHADES = 60  # how far apart colours may be that are shades of one, as red, green and blue in sum
+ARROW = 10  # pixels from an entry's arrow to its left
 
 
 class Manager:
@@ -79,10 +81,10 @@ class Manager:
         """The label of the selected entry is being typed: the field covers what shows the selection behind the label.
         The accessibility tree has no way to the field."""
         def opened():
-            x, y, width, height = tree.area(next(element for element, _, text in self.entries() if text == name))
-            picture, middle = screen.Picture(), y + height // 2
-            before, behind = picture.colours((x + 1, middle, 2, 1)), picture.colours((x + width - 9, middle, 2, 1))
-            return before.most_common(1)[0][0] != behind.most_common(1)[0][0]
+            x, y, width, _ = tree.area(next(element for element, _, text in self.entries() if text == name))
+            picture = screen.Picture()
+            before, behind = (next(iter(picture.colours((at, y + 2, 1, 1)))) for at in (x + 1, x + width - 9))
+            return sum(abs(a - b) for a, b in zip(before, behind)) > SHADES
 
         wait_for(f"a field to rename {name!r} in", opened, 5)
 
@@ -93,6 +95,13 @@ class Manager:
     def below_the_entries(self):
         left, top, width, height = tree.area(self.stage.program.wait_for("tree", "Play List Manager"))
         return left + width // 2, top + height - 20
+
+    def unfold(self, name):
+        """Clicks the arrow before an entry."""
+        x, y = self.label(name)
+        folded = len(self.entries())
+        screen.click(x - PICTURE - INTO_THE_LABEL - ARROW, y)
+        wait_for(f"what lies below {name!r}", lambda: len(self.entries()) > folded, 5)
 
     def drag(self, source, target):
         """Drags an entry onto another, both told by their names, and lets go when the target is shown as such."""
