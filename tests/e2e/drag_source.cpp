@@ -1,4 +1,5 @@
-// A window of another program that files can be dragged out of, for the flows: brevant_drag_source X Y FILE...
+// A window of another program that files can be dragged out of, for the flows: brevant_drag_source X Y
+// FILE...
 #include <QApplication>
 #include <QDrag>
 #include <QLabel>
