@@ -27,6 +27,9 @@ class FilesToDrag : public QLabel {
     dragged->setUrls(urls);
     auto& drag = *new QDrag(this);  // the toolkit takes it away when it is over
     drag.setMimeData(dragged);
+    connect(&drag, &QDrag::actionChanged, this, [this](Qt::DropAction action) {
+      setText(action == Qt::CopyAction ? QStringLiteral("Taken") : QStringLiteral("Not taken"));
+    });
     setText(drag.exec(Qt::CopyAction) == Qt::CopyAction ? QStringLiteral("Dropped")
                                                         : QStringLiteral("Not dropped"));
   }

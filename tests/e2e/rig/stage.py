@@ -41,15 +41,20 @@ class Stage:
         return [row[1:] for row in tree.rows(self.table())]
 
     def wait_for_rows(self, rows):
+        def shown():
+            try:
+                return self.rows() == rows
+            except tree.VANISHED:
+                return False  # the playlist changed while it was read
+
         try:
-            wait_for("the playlist", lambda: self.rows() == rows, 5)
+            wait_for("the playlist", shown, 5)
         except AssertionError:
             raise AssertionError(f"the playlist shows {self.rows()} instead of {rows}") from None
 
     def selected_rows(self):
         grid = self.table().queryTable()
-        return [row for row in range(grid.nRows)
-                if grid.getAccessibleAt(row, 4).getState().contains(pyatspi.STATE_SELECTED)]
+        return [row for row in range(grid.nRows) if grid.isRowSelected(row)]
 
     def wait_for_selected_rows(self, *rows):
         wait_for(f"the rows {rows} to be selected", lambda: self.selected_rows() == list(rows), 5)
@@ -124,8 +129,11 @@ class Stage:
     def press_tab_to(self, title, button):
         """Goes from control to control of a dialog until the button has the keys."""
         def focused():
-            return [element.name for element in tree.elements(self.program.find("dialog", title))
-                    if element.getState().contains(pyatspi.STATE_FOCUSED)]
+            try:
+                return [element.name for element in tree.elements(self.program.find("dialog", title))
+                        if element.getState().contains(pyatspi.STATE_FOCUSED)]
+            except tree.VANISHED:
+                return []
 
         passed = [focused()]
         while button not in passed[-1]:
