@@ -4,7 +4,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QImage>
 #include <string>
 
 #include "document/entry_mover.h"
@@ -59,11 +58,8 @@ class TCStudio {
 
   [[nodiscard]] TCPlayListItem& Song(std::size_t index) { return store.CurrentPlaylist()->items[index]; }
 
-  void Paint() {
-    QCoreApplication::processEvents();
-    view.render(&picture);
-    tree.render(&picture);
-  }
+  // Lays out and paints what has changed.
+  void Paint() { QCoreApplication::processEvents(); }
 
   TCAppRecord record;
   TCSetListStore& store = record.setLists;
@@ -91,8 +87,6 @@ class TCStudio {
     song.SetPath(u"C:\\Music\\" + Numbered("A song of some length, number ", number) + u".mp3");
     song.time = u"03:25";
   }
-
-  QImage picture{600, 800, QImage::Format_RGB32};
 };
 
 void MoveASong(benchmark::State& state) {
@@ -136,22 +130,33 @@ void RenameASong(benchmark::State& state) {
   }
 }
 
-void AddAndRemoveASong(benchmark::State& state) {
+// The other half of each round, taking it away again, is not counted.
+void AddASong(benchmark::State& state) {
   TCStudio studio(static_cast<std::int32_t>(state.range(0)));
   studio.record.settings.confirmFileRemove = false;
   for (auto _ : state) {
-    studio.tree.SelectNode(studio.Song(5).treeNode);
     studio.placement.PlaceText(u"C:\\new.mp3");
     studio.Paint();
-    studio.tree.SelectNode(studio.Song(6).treeNode);
+    state.PauseTiming();
     studio.editor.RemoveSelectedNode();
+    studio.tree.SelectNode(studio.Song(5).treeNode);
     studio.Paint();
+    state.ResumeTiming();
   }
 }
 
-void PaintAlone(benchmark::State& state) {
+void RemoveASong(benchmark::State& state) {
   TCStudio studio(static_cast<std::int32_t>(state.range(0)));
-  for (auto _ : state) studio.Paint();
+  studio.record.settings.confirmFileRemove = false;
+  for (auto _ : state) {
+    state.PauseTiming();
+    studio.tree.SelectNode(studio.Song(5).treeNode);
+    studio.placement.PlaceText(u"C:\\new.mp3");
+    studio.Paint();
+    state.ResumeTiming();
+    studio.editor.RemoveSelectedNode();
+    studio.Paint();
+  }
 }
 
 void BuildTheWholeTree(benchmark::State& state) {
@@ -181,8 +186,8 @@ BREVANT_EDIT_BENCHMARK(MoveASong);
 BREVANT_EDIT_BENCHMARK(MoveAPlaylistIntoAnotherGroup);
 BREVANT_EDIT_BENCHMARK(MoveAGroup);
 BREVANT_EDIT_BENCHMARK(RenameASong);
-BREVANT_EDIT_BENCHMARK(AddAndRemoveASong);
-BREVANT_EDIT_BENCHMARK(PaintAlone);
+BREVANT_EDIT_BENCHMARK(AddASong);
+BREVANT_EDIT_BENCHMARK(RemoveASong);
 BREVANT_EDIT_BENCHMARK(BuildTheWholeTree);
 BREVANT_EDIT_BENCHMARK(OpenTheWholeTree);
 

@@ -126,10 +126,9 @@ int Measure(const std::filesystem::path& originals, int songs, bool polled) {
   if (folder.path.empty()) return EXIT_FAILURE;
   TCAppRecord record;
   FillStore(record.setLists, folder.path, kinds, songs);
-  TCDiskFiles files{TCNativePaths()};
   TCNoMessages messages;
   TCGstLengthProbe probe{TCNativePaths()};
-  TCTimeRun run(record, files, &probe, messages);
+  TCTimeRun run(record, &probe, messages);
   RunAsFastAsKnown(run, probe);
   PrintLengths(record.setLists, kinds.size());
   if (polled) RunPolled(run);

@@ -34,7 +34,8 @@ TCBrevantView::TCBrevantView(QWidget* parent)
     : QTableView(parent),
       playlistModel(new TCPlaylistModel(this)),
       columnHeader(new TCPlaylistHeader(this)),
-      columns(*this, *columnHeader, *playlistModel) {
+      columns(*this, *columnHeader, *playlistModel),
+      edgeScroll(*this, [this](QPoint place) { SelectUnderDrag(RowUnder(place)); }) {
   setObjectName(QStringLiteral("playlistView"));
   setAccessibleName(QStringLiteral("Playlist"));
   setModel(playlistModel);
@@ -204,6 +205,7 @@ void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points
 void TCBrevantView::ResetMouseState() {
   const bool wasCopyDrag = drag.IsCopyDrag();
   drag.Cancel();
+  edgeScroll.Stop();
   setState(NoState);
   ShowPointer(TCPointer::Arrow);
   if (wasCopyDrag) Q_EMIT ctrlDragEnded();
@@ -249,12 +251,12 @@ void TCBrevantView::mouseMoveEvent(QMouseEvent* event) {
   if (event->buttons().testFlag(Qt::LeftButton)) {
     MoveDrag(*event);
   } else {
-    ShowPointer(drag.PointerOver(RowUnder(*event)));
+    ShowPointer(drag.PointerOver(RowUnder(event->globalPosition().toPoint())));
   }
 }
 
 void TCBrevantView::MoveDrag(const QMouseEvent& event) {
-  const int row = RowUnder(event);
+  const int row = RowUnder(event.globalPosition().toPoint());
   const QPoint way = event.position().toPoint() - pressPlace;
   // A click with an unsteady hand copies and moves nothing.
   const bool isClick = row == drag.PressedRow() && way.manhattanLength() < QApplication::startDragDistance();
@@ -263,13 +265,14 @@ void TCBrevantView::MoveDrag(const QMouseEvent& event) {
     case TCRowDrag::TCMoved::Nothing:
       break;
     case TCRowDrag::TCMoved::SelectsRow:
-      clearSelection();
-      SelectRow(row);
+      SelectUnderDrag(row);
       break;
     case TCRowDrag::TCMoved::CopyDrags:
       Q_EMIT ctrlDragMoved(event.globalPosition().toPoint());
       break;
   }
+  // The songs of a copying drag go to the tree, and no row of the playlist is their target.
+  if (drag.IsDragging() && !drag.IsCopyDrag()) edgeScroll.Follow(event.globalPosition().toPoint());
   const bool overOtherPane = drag.IsCopyDrag() && !IsUnder(*viewport(), event.globalPosition().toPoint());
   ShowPointer(overOtherPane ? TCPointer::Busy : drag.PointerOver(row));
 }
@@ -289,7 +292,8 @@ void TCBrevantView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TCBrevantView::ReleaseDrag(const QMouseEvent& event) {
-  const int row = RowUnder(event);
+  const int row = RowUnder(event.globalPosition().toPoint());
+  edgeScroll.Stop();
   const TCRowDrag::TCRelease release = drag.Release(row, event.modifiers());
   ShowPointer(drag.PointerOver(row));
   switch (release.what) {
@@ -309,10 +313,19 @@ void TCBrevantView::ReleaseDrag(const QMouseEvent& event) {
   }
 }
 
-int TCBrevantView::RowUnder(const QMouseEvent& event) const {
+void TCBrevantView::SelectUnderDrag(int row) {
+  if (row < 0) return;
+  // A row at the edge, seen in part, stays under the mouse: what is shown is where the song would go.
+  setAutoScroll(false);
+  clearSelection();
+  SelectRow(row);
+  setAutoScroll(true);
+}
+
+int TCBrevantView::RowUnder(QPoint globalPosition) const {
   // While a button is down, positions outside of the view come in too.
-  if (!IsUnder(*viewport(), event.globalPosition().toPoint())) return -1;
-  return indexAt(event.position().toPoint()).row();
+  if (!IsUnder(*viewport(), globalPosition)) return -1;
+  return indexAt(viewport()->mapFromGlobal(globalPosition)).row();
 }
 
 void TCBrevantView::ShowPointer(TCPointer pointer) {

@@ -15,6 +15,7 @@
 #include "document/frame_display.h"
 #include "document/playlist_display.h"
 #include "views/column_fitter.h"
+#include "views/edge_scroll.h"
 #include "views/row_drag.h"
 #include "views/stage_cursors.h"
 
@@ -86,7 +87,8 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void MoveDrag(const QMouseEvent& event);
   void ReleaseDrag(const QMouseEvent& event);
   void ShowPointer(TCPointer pointer);
-  [[nodiscard]] int RowUnder(const QMouseEvent& event) const;
+  void SelectUnderDrag(int row);
+  [[nodiscard]] int RowUnder(QPoint globalPosition) const;
   void CountPollTick();
   void FollowBackgroundOf(const TCRowColours& colours);
   [[nodiscard]] bool IsInView(std::int32_t row, int viewHeight) const;
@@ -100,6 +102,7 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   int pollTicks = 0;                // 0 to 2
   std::int32_t rowKeptInView = -1;  // stays in view while window or font changes, unless scrolled away
   TCRowDrag drag;
+  TCEdgeScroll edgeScroll;
   QPoint pressPlace;
   TCStageCursors cursors;
   TCPlacing placing = TCPlacing::Nothing;

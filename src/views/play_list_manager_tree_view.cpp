@@ -39,7 +39,10 @@ bool IsArrow(const QKeyEvent& event) {
 }  // namespace
 
 TCPlayListManagerTreeView::TCPlayListManagerTreeView(QWidget* parent)
-    : QTreeView(parent), nodes(new TCSetListTreeModel(this)), delegate(new TCTreeNodeDelegate(this)) {
+    : QTreeView(parent),
+      nodes(new TCSetListTreeModel(this)),
+      delegate(new TCTreeNodeDelegate(this)),
+      edgeScroll(*this, [this](QPoint place) { AimAt(place); }) {
   setObjectName(QStringLiteral("playListManagerTree"));
   setAccessibleName(QStringLiteral("Play List Manager"));
   setModel(nodes);
@@ -75,13 +78,28 @@ void TCPlayListManagerTreeView::SetPlacing(TCPlacing state) {
 
 void TCPlayListManagerTreeView::FollowCtrlDrag(QPoint globalPosition) {
   ctrlDrag = true;
+  AimAt(globalPosition);
+  // Nothing scrolls while the songs are elsewhere on their way.
+  if (IsUnder(*viewport(), globalPosition)) {
+    edgeScroll.Follow(globalPosition);
+  } else {
+    edgeScroll.Stop();
+  }
+  ShowPointer(NodeUnder(globalPosition));
+}
+
+void TCPlayListManagerTreeView::AimAt(QPoint globalPosition) {
   const TCTreeNode under = NodeUnder(globalPosition);
-  ShowDropTarget(under);
-  ShowPointer(under);
+  if (ctrlDrag) {
+    ShowDropTarget(under);
+  } else if (under != TCTreeNode::None) {
+    SelectUnscrolled(under);
+  }
 }
 
 void TCPlayListManagerTreeView::EndCtrlDrag() {
   ctrlDrag = false;
+  edgeScroll.Stop();
   ShowPointer(NodeUnder(QCursor::pos()));
 }
 
@@ -189,6 +207,7 @@ void TCPlayListManagerTreeView::ResetMouseState() {
   dragging = false;
   ctrlDrag = false;
   ForgetClick();
+  edgeScroll.Stop();
   pressedNode = TCTreeNode::None;
   keyMoveSource = TCTreeNode::None;
   ShowPointer(NodeUnder(QCursor::pos()));
@@ -245,7 +264,8 @@ void TCPlayListManagerTreeView::DragWithin(const QMouseEvent& event) {
     ForgetClick();
     viewport()->setCursor(cursors.Of(TCPointer::Pressed));
   }
-  if (under != TCTreeNode::None) setCurrentIndex(nodes->IndexOf(under));
+  AimAt(event.globalPosition().toPoint());
+  edgeScroll.Follow(event.globalPosition().toPoint());
 }
 
 void TCPlayListManagerTreeView::mouseReleaseEvent(QMouseEvent* event) {
@@ -265,6 +285,7 @@ void TCPlayListManagerTreeView::mouseReleaseEvent(QMouseEvent* event) {
   dragging = false;
   buttonPressed = false;
   pressedNode = TCTreeNode::None;
+  edgeScroll.Stop();
   ShowPointer(target);
   if (moves && target != TCTreeNode::None) Q_EMIT nodeMoved(source, target);
 }
@@ -380,8 +401,8 @@ void TCPlayListManagerTreeView::ShowDropTarget(TCTreeNode node) {
 }
 
 void TCPlayListManagerTreeView::SelectUnscrolled(TCTreeNode node) {
-  // A playlist that is scrolled away stays so while the mouse is over its songs: what is under the mouse must
-  // not slide away.
+  // What is under the mouse must not slide away: neither a node at the edge, seen in part, nor the songs of a
+  // playlist that is itself scrolled away.
   setAutoScroll(false);
   setCurrentIndex(nodes->IndexOf(node));
   setAutoScroll(true);

@@ -13,6 +13,7 @@
 #include "document/frame_display.h"
 #include "document/tree_display.h"
 #include "document/tree_presenter.h"
+#include "views/edge_scroll.h"
 #include "views/set_list_tree_model.h"
 #include "views/stage_cursors.h"
 #include "views/tree_node_stream.h"
@@ -98,6 +99,8 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   void ForgetClick();
   [[nodiscard]] bool EnterActs() const;
   void DragWithin(const QMouseEvent& event);
+  // What the mouse is over now is the target of the drag of the moment.
+  void AimAt(QPoint globalPosition);
   void ShowDropTarget(TCTreeNode node);
   void ShowPointer(TCTreeNode under);
   void SelectUnscrolled(TCTreeNode node);
@@ -113,6 +116,7 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
 
   TCSetListTreeModel* nodes = nullptr;  // a child, as the next one
   TCTreeNodeDelegate* delegate = nullptr;
+  TCEdgeScroll edgeScroll;
   TCStageCursors cursors;
   TCPlacing placing = TCPlacing::Nothing;
 

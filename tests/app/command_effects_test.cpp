@@ -82,6 +82,42 @@ class CommandEffects : public TCWholeProgram {
     Trigger(id);
   }
 
+  [[nodiscard]] TCPlayListManagerTreeView& Tree() { return Frame().Tree(); }
+
+  void SelectGroup() { Tree().SelectNode(SetLists().groups[0].treeNode); }
+  void SelectRow(std::int32_t row) { Frame().PlaylistView().SelectRow(row); }
+
+  // As the tree shows them.
+  [[nodiscard]] QStringList GroupNames() { return TextsUnder({}); }
+  [[nodiscard]] QStringList PlaylistNames() { return TextsUnder(Tree().model()->index(0, 0)); }
+  [[nodiscard]] QStringList TextsUnder(const QModelIndex& parent) {
+    QStringList texts;
+    const QAbstractItemModel& model = *Tree().model();
+    for (int row = 0; row < model.rowCount(parent); ++row)
+      texts.append(model.index(row, 0, parent).data().toString());
+    return texts;
+  }
+
+  // A dialog of this name opens, and is cancelled.
+  void ExpectDialog(Id id, const QString& name) {
+    QString opened;
+    const TCDialogAnswer<QDialog> answer([&opened](QDialog& dialog) {
+      opened = dialog.objectName();
+      dialog.reject();
+    });
+    Trigger(id);
+    EXPECT_EQ(opened, name);
+  }
+
+  // A prompt opens, and gets this answer.
+  void Answer(Id id, const QString& text) {
+    const TCDialogAnswer<QDialog> answer([&text](QDialog& dialog) {
+      dialog.findChild<QLineEdit*>()->setText(text);
+      dialog.accept();
+    });
+    Trigger(id);
+  }
+
   [[nodiscard]] TCSetListStore& SetLists() { return app->Record().setLists; }
   [[nodiscard]] const TCTimeRun& TimeRun() { return app->Document().Transport().TimeRun(); }
   [[nodiscard]] QString RepeatTime(Id field) { return Frame().PlayControls().FieldOf(field).text(); }
@@ -277,6 +313,106 @@ const std::array kEffects = {
                EXPECT_EQ(p.SetLists().validMediaExtensions, u"ogg");
              }},
 
+    TCEffect{Id::CreateGroupList,
+             [](Program& p) {
+               p.Answer(Id::CreateGroupList, QStringLiteral("Tour"));
+               EXPECT_EQ(p.GroupNames(), (QStringList{QStringLiteral("Band"), QStringLiteral("Tour")}));
+             }},
+    TCEffect{Id::NewGroupFolder,
+             [](Program& p) {
+               p.Trigger(Id::NewGroupFolder);
+               EXPECT_EQ(p.GroupNames().last(), QStringLiteral("New Group Folder"));
+             }},
+    TCEffect{Id::CreatePlaylist,
+             [](Program& p) {
+               p.SelectGroup();
+               p.Answer(Id::CreatePlaylist, QStringLiteral("Encore"));
+               EXPECT_EQ(p.PlaylistNames().last(), QStringLiteral("Encore"));
+             }},
+    TCEffect{Id::NewPlaylistFolder,
+             [](Program& p) {
+               p.SelectGroup();
+               p.Trigger(Id::NewPlaylistFolder);
+               EXPECT_EQ(p.PlaylistNames().last(), QStringLiteral("New Playlist Folder"));
+             }},
+    TCEffect{Id::AddSongs,
+             [](Program& p) { p.ExpectDialog(Id::AddSongs, QStringLiteral("CreateSetLists")); }},
+    TCEffect{Id::SongProperties,
+             [](Program& p) {
+               p.SelectRow(0);
+               p.ExpectDialog(Id::SongProperties, QStringLiteral("SongProperties"));
+             }},
+    TCEffect{Id::Rename,
+             [](Program& p) {
+               p.SelectGroup();
+               p.Answer(Id::Rename, QStringLiteral("Duo"));
+               EXPECT_EQ(p.GroupNames(), QStringList{QStringLiteral("Duo")});
+             }},
+    TCEffect{Id::Remove,
+             [](Program& p) {
+               p.SelectRow(0);
+               p.Trigger(Id::Remove);
+               EXPECT_EQ(p.CellText(0, 4), QStringLiteral("two.mp3"));
+             }},
+    TCEffect{Id::Copy,
+             [](Program& p) {
+               p.SelectRow(1);
+               p.Trigger(Id::Copy);
+               EXPECT_EQ(p.app->Document().Placement().CopyText(), u"\"\\m\\two.mp3\"");
+             }},
+    TCEffect{Id::Paste,
+             [](Program& p) {
+               p.Trigger(Id::Paste);
+               EXPECT_TRUE(p.app->Document().Placement().Pending());
+               EXPECT_EQ(p.Frame().StatusLine().ShownMessage(),
+                         QStringLiteral("No dropped files to place, Esc to cancel"));
+             }},
+    TCEffect{Id::Duplicate,
+             [](Program& p) {
+               p.SelectGroup();
+               p.Trigger(Id::Duplicate);
+               EXPECT_EQ(p.GroupNames(), (QStringList{QStringLiteral("Band"), QStringLiteral("Band")}));
+             }},
+    TCEffect{Id::SelectSongToMove,
+             [](Program& p) {
+               p.Trigger(Id::NextSong);
+               p.Trigger(Id::SelectSongToMove);
+               EXPECT_EQ(p.Frame().PlaylistView().SelectedRow(), 1);
+             }},
+    TCEffect{Id::MoveSongUp,
+             [](Program& p) {
+               p.SelectRow(1);
+               p.Trigger(Id::MoveSongUp);
+               EXPECT_EQ(p.CellText(0, 4), QStringLiteral("two.mp3"));
+               EXPECT_EQ(p.Frame().PlaylistView().SelectedRow(), 0);
+             }},
+    TCEffect{Id::MoveSongDown,
+             [](Program& p) {
+               p.SelectRow(0);
+               p.Trigger(Id::MoveSongDown);
+               EXPECT_EQ(p.CellText(1, 4), QStringLiteral("one.mp3"));
+               EXPECT_EQ(p.Frame().PlaylistView().SelectedRow(), 1);
+             }},
+    TCEffect{Id::ShowTreeSelection,
+             [](Program& p) {
+               p.Tree().SelectNode(p.SetLists().groups[0].playlists[1].treeNode);
+               p.Trigger(Id::ShowTreeSelection);
+               EXPECT_EQ(p.CellText(0, 4), QStringLiteral("three.mp3"));
+             }},
+    TCEffect{Id::FocusPlaylistManager,
+             [](Program& p) {
+               p.Trigger(Id::FocusPlaylistManager);
+               EXPECT_TRUE(p.Tree().HasFocus());
+             }},
+    TCEffect{Id::ConfirmFileRemove,
+             [](Program& p) { p.ExpectToggle(Id::ConfirmFileRemove, &TCSettings::confirmFileRemove); }},
+    TCEffect{Id::DisableEditing,
+             [](Program& p) {
+               p.Trigger(Id::DisableEditing);
+               EXPECT_EQ(p.Settings().disableEditing, 1);
+               EXPECT_TRUE(p.app->Actions().ActionOf(Id::DisableEditing)->isChecked());
+             }},
+    TCEffect{Id::PlaylistManagerPane, [](Program& p) { p.ExpectPane(Id::PlaylistManagerPane, p.Tree()); }},
     TCEffect{Id::PlayerPane, [](Program& p) { p.ExpectPane(Id::PlayerPane, p.Frame().PlayerPane()); }},
     TCEffect{Id::MessagePane, [](Program& p) { p.ExpectPane(Id::MessagePane, p.Frame().MessageDisplay()); }},
     TCEffect{Id::StatusBarVisible,

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "support/timer_tick.h"
 #include "views/brevant_view.h"
 #include "views/playlist_rows.h"
 #include "views/stage_mouse.h"
@@ -85,6 +86,42 @@ TEST_F(PlaylistMouse, APositionOutsideOfTheViewIsNoRowThoughRowsLieThereScrolled
   mouse.Press(On(4));
   mouse.Release(QPoint(100, view.viewport()->height() + 60));
   EXPECT_EQ(moves.count(), 0);
+}
+
+TEST_F(PlaylistMouse, AtTheEdgeOfTheViewADragScrolls) {
+  view.ShowRows(Rows(200), TCShowRows::Afresh);
+  QTimer* timer = TimerOf(view, "edgeScroll");
+  ASSERT_NE(timer, nullptr);
+  mouse.Press(On(1));
+  mouse.Drag(On(3));
+  EXPECT_FALSE(timer->isActive());
+  const QPoint edge(100, view.viewport()->height() - 3);
+  mouse.Drag(edge);
+  EXPECT_TRUE(timer->isActive());
+  for (int i = 0; i < 40; ++i) Tick(*timer);
+  EXPECT_GT(view.rowAt(edge.y()), 40);
+  EXPECT_THAT(view.SelectedRows(), ElementsAre(view.rowAt(edge.y()))) << "the target follows what scrolls by";
+  const int target = view.rowAt(edge.y());
+  mouse.Release(edge);
+  EXPECT_FALSE(timer->isActive());
+  ASSERT_EQ(moves.count(), 1);
+  EXPECT_EQ(moves.at(0).at(1).toInt(), target);
+}
+
+TEST_F(PlaylistMouse, AGivenUpOrCopyingDragScrollsNothing) {
+  view.ShowRows(Rows(200), TCShowRows::Afresh);
+  QTimer* timer = TimerOf(view, "edgeScroll");
+  ASSERT_NE(timer, nullptr);
+  const QPoint edge(100, view.viewport()->height() - 3);
+  mouse.Press(On(1));
+  mouse.Drag(edge);
+  view.ResetMouseState();
+  EXPECT_FALSE(timer->isActive());
+  mouse.Release(edge);
+  mouse.Press(On(1), Qt::ControlModifier);
+  mouse.Drag(edge, Qt::ControlModifier);
+  EXPECT_FALSE(timer->isActive());
+  mouse.Release(edge, Qt::ControlModifier);
 }
 
 TEST_F(PlaylistMouse, ReleasedWithCtrlHeldASongStays) {

@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QScrollBar>
 
+#include "support/timer_tick.h"
 #include "views/tree_rig.h"
 
 namespace brevant {
@@ -140,6 +141,46 @@ TEST_F(TreeMouse, ACancelledDragEndsInNothingAndTheNextOneMoves) {
   mouse.Drag(Label(first[2]));
   mouse.Release(Label(first[2]));
   EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[2])));
+}
+
+TEST_F(TreeMouse, AtTheEdgeOfTheTreeADragScrolls) {
+  const std::vector<TCTreeNode> songs = tree.AddNodes(setTwo, 0, std::vector<std::u16string>(300, u"S.mp3"));
+  OpenAll();
+  QTimer* timer = TimerOf(tree, "edgeScroll");
+  ASSERT_NE(timer, nullptr);
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[2]));
+  EXPECT_FALSE(timer->isActive());
+  mouse.Drag(QPoint(60, tree.viewport()->height() - 3));
+  EXPECT_TRUE(timer->isActive());
+  const int before = tree.verticalScrollBar()->value();
+  for (int i = 0; i < 5; ++i) Tick(*timer);
+  EXPECT_GT(tree.verticalScrollBar()->value(), before + 2);
+  const QPoint edge(60, tree.viewport()->height() - 3);
+  EXPECT_EQ(tree.currentIndex(), tree.indexAt(edge)) << "the target follows what scrolls by";
+  mouse.Drag(QPoint(60, -30));
+  for (int i = 0; i < 20; ++i) Tick(*timer);
+  EXPECT_EQ(tree.verticalScrollBar()->value(), 0) << "above the tree it scrolls up";
+  mouse.Release(Label(first[2]));
+  EXPECT_FALSE(timer->isActive());
+  EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[2])));
+}
+
+TEST_F(TreeMouse, SongsDraggedToTheEdgeOfTheTreeScrollItAndElsewhereTheyDoNot) {
+  tree.AddNodes(setTwo, 0, std::vector<std::u16string>(300, u"S.mp3"));
+  OpenAll();
+  QTimer* timer = TimerOf(tree, "edgeScroll");
+  ASSERT_NE(timer, nullptr);
+  tree.FollowCtrlDrag(tree.viewport()->mapToGlobal(QPoint(60, tree.viewport()->height() - 3)));
+  EXPECT_TRUE(timer->isActive());
+  Tick(*timer);
+  EXPECT_GT(tree.verticalScrollBar()->value(), 0);
+  tree.FollowCtrlDrag(tree.viewport()->mapToGlobal(QPoint(60, tree.viewport()->height() + 30)));
+  EXPECT_FALSE(timer->isActive());
+  tree.FollowCtrlDrag(tree.viewport()->mapToGlobal(QPoint(60, 3)));
+  EXPECT_TRUE(timer->isActive());
+  tree.EndCtrlDrag();
+  EXPECT_FALSE(timer->isActive());
 }
 
 TEST_F(TreeMouse, ADragWhoseNodeHasGoneEndsInNothing) {
@@ -344,6 +385,17 @@ TEST_F(TreeLabel, AClickOnALabelEditsNothingOnceTheFocusIsElsewhereOrPlacingWait
   tree.TakeFocus();
   mouse.Click(Label(first[1]));
   tree.SetPlacing(TCPlacing::Waiting);
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  EXPECT_EQ(Editor(), nullptr);
+}
+
+TEST_F(TreeLabel, TheClickThatPlacesSongsEditsNothing) {
+  tree.SelectNode(setTwo);
+  tree.SetPlacing(TCPlacing::Waiting);
+  QObject::connect(&tree, &TCPlayListManagerTreeView::placeWanted, &tree,
+                   [this] { tree.SetPlacing(TCPlacing::Nothing); });
+  mouse.Click(Label(setTwo));
+  EXPECT_EQ(places.count(), 1);
   QTest::qWait(QApplication::doubleClickInterval() + 50);
   EXPECT_EQ(Editor(), nullptr);
 }

@@ -38,6 +38,14 @@ class Picture:
         return max(found, key=lambda colour: (distance(colour), found[colour])), background
 
 
+def common_area(first, second):
+    """What two areas (x, y, width, height) have in common."""
+    left, top = max(first[0], second[0]), max(first[1], second[1])
+    right = min(first[0] + first[2], second[0] + second[2])
+    bottom = min(first[1] + first[3], second[1] + second[3])
+    return left, top, max(0, right - left), max(0, bottom - top)
+
+
 def save_picture(path):
     subprocess.run(["import", "-silent", "-window", "root", str(path)], check=False)
 

@@ -145,7 +145,9 @@ class Stage:
     def colours(self):
         """The text colour of each row's song name, on black; SELECTED for a row that does not stand on black."""
         table, picture = self.table(), screen.Picture()
-        seen = [picture.text_and_background(tree.cell_area(table, row, 4)) for row in range(len(tree.rows(table)))]
+        in_sight = tree.area(table)  # the last column may reach beyond it
+        seen = [picture.text_and_background(screen.common_area(tree.cell_area(table, row, 4), in_sight))
+                for row in range(len(tree.rows(table)))]
         return [text if background == BLACK else self.SELECTED for text, background in seen]
 
     def wait_for_colours(self, *expected):

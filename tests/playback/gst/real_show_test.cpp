@@ -15,6 +15,7 @@
 #include "support/fake_frame.h"
 #include "support/fake_playlist_view.h"
 #include "support/fake_prompts.h"
+#include "support/fake_tree.h"
 #include "support/message_log.h"
 #include "support/pitch.h"
 #include "support/pulse_server.h"
@@ -72,6 +73,7 @@ class TCShow {
   TCGstPlayer player;
   TCGstLengthProbe probe{TCNativePaths()};
   TCFakePlaylistView view;
+  TCFakeTree tree;
   TCMessageLog messages;
   TCFakeFrame frame;
   TCFakePrompts prompts;
@@ -79,6 +81,7 @@ class TCShow {
                          .files = files,
                          .player = &player,
                          .playlistView = view,
+                         .treeView = tree,
                          .messages = messages,
                          .frame = frame,
                          .prompts = prompts,
