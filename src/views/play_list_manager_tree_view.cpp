@@ -32,6 +32,10 @@ bool IsUpOrDown(const QKeyEvent& event) {
   return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
 }
 
+bool IsArrow(const QKeyEvent& event) {
+  return IsUpOrDown(event) || event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+}
+
 }  // namespace
 
 TCPlayListManagerTreeView::TCPlayListManagerTreeView(QWidget* parent)
@@ -329,6 +333,14 @@ void TCPlayListManagerTreeView::keyPressEvent(QKeyEvent* event) {
       enterDown = event->key();
       Q_EMIT enterPressed();
     }
+    return;
+  }
+  if (IsArrow(*event) && SelectedNode() == TCTreeNode::None) {
+    // The toolkit stands on a node that it does not show as selected, and would go on from there: in a
+    // document just opened the first group would be passed over, or never be selected when it is the only
+    // one.
+    const QModelIndex current = currentIndex();
+    SelectNode(nodes->NodeAt(current.isValid() ? current : nodes->index(0, 0, {})));
     return;
   }
   if (IsUpOrDown(*event)) {
