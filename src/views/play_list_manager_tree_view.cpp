@@ -392,8 +392,8 @@ void TCPlayListManagerTreeView::ForgetClick() {
 void TCPlayListManagerTreeView::RenameFromLabel(const QModelIndex& index, const QString& typed) {
   const TCTreeNode node = nodes->NodeAt(index);
   const QString name = ToQString(Trim(FromQString(typed)));
-  // Whoever takes the name sets the node's text; else what was typed stays on the screen.
-  if (name.isEmpty() || !labelEdited(node, name)) nodes->SetText(node, typed);
+  nodes->SetText(node, name.isEmpty() ? typed : name);
+  if (!name.isEmpty() && !labelEdited(node, name)) nodes->SetText(node, typed);
 }
 
 void TCPlayListManagerTreeView::ShowDropTarget(TCTreeNode node) {

@@ -132,13 +132,12 @@ TEST_F(MainFrame, APlacingThatWaitsShowsInBothViewsAndStandsInTheStatusBar) {
   const auto busy = [](const QWidget& view) { return view.cursor().shape() == Qt::BitmapCursor; };
   EXPECT_TRUE(busy(*frame.PlaylistView().viewport()));
   EXPECT_TRUE(busy(*frame.Tree().viewport()));
-  frame.ShowStatus(u"Something else");
   EXPECT_EQ(frame.StatusLine().ShownMessage(), QStringLiteral("Click a playlist"));
   QTest::mouseClick(frame.Tree().viewport(), Qt::LeftButton, {}, QPoint(40, 8));
   EXPECT_EQ(places.count(), 1);
 
   frame.ShowPlacing(TCPlacing::Nothing, u"Click a playlist");
-  EXPECT_EQ(frame.StatusLine().ShownMessage(), QStringLiteral("Something else"));
+  EXPECT_EQ(frame.StatusLine().ShownMessage(), QString());
   EXPECT_FALSE(busy(*frame.PlaylistView().viewport()));
   EXPECT_FALSE(busy(*frame.Tree().viewport()));
   QTest::mouseClick(frame.Tree().viewport(), Qt::LeftButton, {}, QPoint(40, 8));

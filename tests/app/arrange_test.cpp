@@ -1,0 +1,148 @@
+// What mouse and keys do to the set lists in the whole program: the two views' wishes reach the document, and
+// the keys of the editing commands go to whoever has the focus.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+
+#include "dialog_answer.h"
+#include "views/text_conversion.h"
+#include "whole_program.h"
+
+namespace brevant {
+namespace {
+
+class Arrange : public TCWholeProgram {
+ protected:
+  void SetUp() override {
+    TCWholeProgram::SetUp();
+    Start(kShow);
+    Tree().expandAll();
+  }
+
+  [[nodiscard]] TCPlayListManagerTreeView& Tree() { return Frame().Tree(); }
+  [[nodiscard]] QModelIndex Node(int playlist, int song = -1) {
+    const QAbstractItemModel& model = *Tree().model();
+    const QModelIndex node = model.index(playlist, 0, model.index(0, 0));
+    return song < 0 ? node : model.index(song, 0, node);
+  }
+  // On its label.
+  [[nodiscard]] QPoint PlaceOf(const QModelIndex& node) {
+    const QRect row = Tree().visualRect(node);
+    return {row.left() + 40, row.center().y()};
+  }
+  [[nodiscard]] QStringList Rows() {
+    QStringList names;
+    for (int row = 0; row < Frame().PlaylistView().model()->rowCount(); ++row) names.append(CellText(row, 4));
+    return names;
+  }
+  [[nodiscard]] QString CurrentName() {
+    return ToQString(app->Record().setLists.SongAt(app->Record().setLists.currentSong)->fileName);
+  }
+  void SelectNode(const QModelIndex& node) {
+    Tree().setFocus();
+    Tree().setCurrentIndex(node);
+  }
+};
+
+TEST_F(Arrange, ADoubleClickInTheTreeShowsThePlaylist) {
+  QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, PlaceOf(Node(1)));
+  EXPECT_EQ(Rows(), QStringList{QStringLiteral("three.mp3")});
+}
+
+TEST_F(Arrange, EnterOnASongMakesItCurrentAndPlaysOnlyWithBothOptionsOn) {
+  SelectNode(Node(0, 1));
+  Press(Qt::Key_Return);
+  EXPECT_EQ(CurrentName(), QStringLiteral("two.mp3"));
+  EXPECT_TRUE(player.GetUrl().empty());
+  Settings().playlistManagerImmediatePlay = true;
+  Settings().immediatePlay = false;
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(player.GetUrl().empty());
+  Settings().immediatePlay = true;
+  Press(Qt::Key_Return);
+  EXPECT_EQ(player.GetUrl(), u"\\m\\two.mp3");
+}
+
+TEST_F(Arrange, ShiftDownWalksASongAlongAndStopsAtItsListsEnd) {
+  SelectNode(Node(0, 0));
+  Press(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("two.mp3"), QStringLiteral("one.mp3")}));
+  for (int i = 0; i < 3; ++i) Press(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("two.mp3"), QStringLiteral("one.mp3")}));
+  EXPECT_EQ(Tree().currentIndex().data().toString(), QStringLiteral("one.mp3"));
+  EXPECT_EQ(Node(1).data().toString(), QStringLiteral("Set 2"));
+}
+
+TEST_F(Arrange, ALabelTypedInTheTreeRenamesThePlaylist) {
+  SelectNode(Node(0));
+  static_cast<QAbstractItemView&>(Tree()).edit(Node(0));
+  auto* field = Tree().findChild<QLineEdit*>();
+  ASSERT_NE(field, nullptr);
+  field->selectAll();
+  QTest::keyClicks(field, QStringLiteral(" Opener "));
+  QTest::keyClick(field, Qt::Key_Return);
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(app->Record().setLists.groups[0].playlists[0].name, u"Opener");
+  EXPECT_EQ(Node(0).data().toString(), QStringLiteral("Opener"));
+}
+
+TEST_F(Arrange, DeleteInTheTreeAsksAndLeavesTheSelectedRowsAlone) {
+  Frame().PlaylistView().SelectRow(0);
+  SelectNode(Node(1));
+  const TCDialogAnswer<QDialog> answer([](QDialog& dialog) { dialog.reject(); });
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(Rows().size(), 2);
+  EXPECT_EQ(Node(1).data().toString(), QStringLiteral("Set 2"));
+}
+
+TEST_F(Arrange, RemoveFromTheMenuWhileALabelIsTypedIsForTheTree) {
+  Frame().PlaylistView().SelectRow(0);
+  SelectNode(Node(1));
+  static_cast<QAbstractItemView&>(Tree()).edit(Node(1));
+  const TCDialogAnswer<QDialog> answer([](QDialog& dialog) { dialog.reject(); });
+  app->Actions().ActionOf(TCCommandId::Remove)->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(Rows().size(), 2);
+}
+
+TEST_F(Arrange, DeleteTwiceInThePlaylistRemovesOneSong) {
+  Frame().PlaylistView().SelectRow(0);
+  Frame().PlaylistView().TakeFocus();
+  Tree().setCurrentIndex({});
+  Press(Qt::Key_Delete);
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(Rows(), QStringList{QStringLiteral("two.mp3")});
+}
+
+TEST_F(Arrange, ARowDraggedOntoAnotherTakesItsPlace) {
+  QWidget& viewport = *Frame().PlaylistView().viewport();
+  const auto place = [this](int row) {
+    TCBrevantView& view = Frame().PlaylistView();
+    return view.visualRect(view.model()->index(row, 1)).center();
+  };
+  QTest::mousePress(&viewport, Qt::LeftButton, {}, place(0));
+  QTest::mouseMove(&viewport, place(1));
+  QTest::mouseRelease(&viewport, Qt::LeftButton, {}, place(1));
+  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("two.mp3"), QStringLiteral("one.mp3")}));
+  EXPECT_EQ(Frame().PlaylistView().SelectedRow(), 1);
+}
+
+TEST_F(Arrange, BehindAnOpenPromptNoCommandReplacesTheDocument) {
+  SelectNode(Node(0));
+  const TCDialogAnswer<QDialog> answer([this](QDialog& dialog) {
+    app->Actions().ActionOf(TCCommandId::FileNew)->trigger();
+    app->Actions().ActionOf(TCCommandId::Duplicate)->trigger();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(app->Record().setLists.groups.size(), 1u);
+    EXPECT_EQ(app->Record().setLists.groups[0].playlists.size(), 2u);
+    dialog.reject();
+  });
+  Press(Qt::Key_R, Qt::ControlModifier);
+  EXPECT_FALSE(app->Document().IsModified());
+}
+
+}  // namespace
+}  // namespace brevant
