@@ -130,6 +130,7 @@ void TCSetListEditor::RemoveSelectedRows() {
   const TCPlaylistPosition current = store.CurrentPosition();
   const std::vector<std::int32_t> rows = parts.view.SelectedRows();
   std::vector<TCTreeNode> nodes;
+  nodes.reserve(rows.size());
   for (const std::int32_t row : rows) nodes.push_back(store.GetSongTreeNode(row));
   if (!RemoveSongs(store, current, rows)) return;
   for (const TCTreeNode node : nodes) parts.tree.Tree().DeleteNode(node);
