@@ -19,6 +19,7 @@ constexpr int kCaptionColumn = 0;
 constexpr int kTextColumn = 1;
 constexpr double kDivider = 0.4;  // the captions' share of the width
 constexpr int kRowPadding = 2;    // pixels, above and below a text
+constexpr int kIndentation = 14;  // pixels; the captions are long
 
 bool IsCategory(const QModelIndex& index) {
   return !index.parent().isValid();
@@ -84,6 +85,7 @@ TCPropertiesPane::TCPropertiesPane(QWidget* parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
   setItemDelegate(new TCPropertyDelegate(this));
   setFrameShape(NoFrame);
+  setIndentation(kIndentation);
   setUniformRowHeights(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
@@ -145,7 +147,8 @@ void TCPropertiesPane::resizeEvent(QResizeEvent* event) {
 }
 
 void TCPropertiesPane::keyPressEvent(QKeyEvent* event) {
-  if (IsEnter(event->key()) && SelectedRowIsEditable()) {
+  // The Enter that ends the typing comes by here as well.
+  if (IsEnter(event->key()) && state() != EditingState && SelectedRowIsEditable()) {
     editItem(currentItem(), kTextColumn);
     event->accept();
     return;

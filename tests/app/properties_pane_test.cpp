@@ -29,6 +29,8 @@ class PropertiesPane : public testing::Test {
   void Show() {
     pane.resize(400, 300);
     pane.show();
+    pane.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&pane));
   }
   TCPropertiesPane pane;
 };
@@ -93,8 +95,9 @@ TEST_F(PropertiesPane, EveryTextButTheTitleRefusesEditing) {
     QTreeWidgetItem* item = pane.RowOf(row.property);
     pane.setCurrentItem(item);
     for (const int column : {0, 1}) {
-      QTest::mouseDClick(pane.viewport(), Qt::LeftButton, {},
-                         pane.visualRect(pane.indexFromItem(item, column)).center());
+      const QPoint place = pane.visualRect(pane.indexFromItem(item, column)).center();
+      QTest::mouseClick(pane.viewport(), Qt::LeftButton, {}, place);
+      QTest::mouseDClick(pane.viewport(), Qt::LeftButton, {}, place);
       const bool editable = row.property == P::Title && column == 1;
       EXPECT_EQ(EditorOf(pane) != nullptr, editable) << static_cast<int>(row.property) << ' ' << column;
     }
@@ -102,6 +105,7 @@ TEST_F(PropertiesPane, EveryTextButTheTitleRefusesEditing) {
     EXPECT_EQ(EditorOf(pane) != nullptr, row.property == P::Title);
     if (QLineEdit* editor = EditorOf(pane)) {
       QTest::keyClick(editor, Qt::Key_Escape);
+      QCoreApplication::sendPostedEvents();
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
   }
@@ -119,6 +123,7 @@ TEST_F(PropertiesPane, AnEditedTitleStandsUntilTheNextRefresh) {
   EXPECT_EQ(FocusKind(editor), TCKeyFocus::Typing);
   editor->setText(QStringLiteral("Mine"));
   QTest::keyClick(editor, Qt::Key_Return);
+  QCoreApplication::sendPostedEvents();
   EXPECT_EQ(TextIn(pane, P::Title), QStringLiteral("Mine"));
   pane.ShowProperty(P::Title, u"The song's own");
   EXPECT_EQ(TextIn(pane, P::Title), QStringLiteral("The song's own"));
@@ -195,6 +200,7 @@ TEST_F(PropertiesInTheProgram, APaneThatIsFirstShownLaterIsFilledThen) {
   Press(Qt::Key_Down);
   EXPECT_FALSE(Pane().IsBuilt());
   app->Actions().ActionOf(TCCommandId::PropertiesPane)->trigger();
+  QCoreApplication::sendPostedEvents();
   EXPECT_TRUE(Pane().isVisible());
   EXPECT_EQ(Shown(P::SongFileName), QStringLiteral("two.mp3"));
 }
