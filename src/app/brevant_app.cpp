@@ -116,14 +116,16 @@ void TCBrevantApp::DropRowsAt(QPoint globalPosition) {
 
 void TCBrevantApp::DropFiles(const QList<QByteArray>& nativeNames) {
   std::vector<std::u16string> paths;
+  std::u16string refused;
   for (const QByteArray& name : nativeNames) {
     if (std::optional<std::u16string> path = TCNativePaths::FromNative(name.toStdString())) {
       paths.push_back(std::move(*path));
     } else {
-      frame.ShowStatus(RefusedNameText(name.toStdString()));
+      refused = RefusedNameText(name.toStdString());
     }
   }
   document.DropFiles(std::move(paths));
+  if (!refused.empty()) frame.ShowStatus(refused);
 }
 
 void TCBrevantApp::ConnectParts() {

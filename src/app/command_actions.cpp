@@ -1,5 +1,6 @@
 #include "app/command_actions.h"
 
+#include <QApplication>
 #include <QWidget>
 
 #include "app/picture_icon.h"
@@ -11,6 +12,17 @@
 #include "views/text_conversion.h"
 
 namespace brevant {
+
+namespace {
+
+// What a dialog shows would not be there any more, or not be what it was.
+bool ChangesTheDocument(TCCommandId id) {
+  const TCCommand* command = CommandById(id);
+  if (command == nullptr || id == TCCommandId::Exit) return false;
+  return command->menu == TCMenuPlace::File || command->menu == TCMenuPlace::Edit;
+}
+
+}  // namespace
 
 TCCommandActions::TCCommandActions(TCCommandTarget& commandTarget, QWidget& window) : target(commandTarget) {
   AddActions(window);
@@ -78,6 +90,8 @@ void TCCommandActions::RefreshChecks() {
 }
 
 void TCCommandActions::Trigger(TCCommandId command) {
+  // The key was pressed, or a screen reader asked, before the dialog opened or in spite of it.
+  if (QApplication::activeModalWidget() != nullptr && ChangesTheDocument(command)) return;
   target.OnCommand(command);
   // A checkable action has flipped its mark by itself; what counts is what came of the command.
   RefreshChecks();

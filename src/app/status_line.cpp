@@ -43,6 +43,7 @@ void TCStatusLine::ShowMessage(const QString& text) {
 
 void TCStatusLine::ShowStanding(const QString& text) {
   standing = text;
+  message.clear();
   Refresh();
 }
 
@@ -52,7 +53,7 @@ void TCStatusLine::ShowHint(const QString& text) {
 }
 
 void TCStatusLine::Refresh() {
-  const QString& said = standing.isEmpty() ? message : standing;
+  const QString& said = message.isEmpty() ? standing : message;
   messagePane.setText(hint.isEmpty() ? said : hint);
   messagePane.setAccessibleName(messagePane.text().isEmpty() ? QStringLiteral("Status message")
                                                              : messagePane.text());

@@ -17,7 +17,7 @@ class TCStatusLine : public QStatusBar {
 
   // Stands until the next one, or until its time is over.
   void ShowMessage(const QString& text);
-  // Stands before every message for as long as it is not empty.
+  // Stands for as long as it is not empty; a message that comes later goes before it for its time.
   void ShowStanding(const QString& text);
   // Goes before both as long as it is not empty.
   void ShowHint(const QString& text);

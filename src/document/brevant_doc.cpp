@@ -280,6 +280,7 @@ void TCBrevantDoc::OnPlayTimerTick() {
 void TCBrevantDoc::ShowTimeRun() {
   const TCTimeRun& run = transport.TimeRun();
   if (!run.Pending()) return parts.frame.ShowStatus({});
+  if (placement.Pending()) return;  // what the busy pointer waits for stands there
   parts.frame.ShowStatus(FormatDecimal(static_cast<std::int64_t>(run.Measured())) + u" of " +
                          FormatDecimal(static_cast<std::int64_t>(run.Count())));
 }

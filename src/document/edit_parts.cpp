@@ -10,12 +10,8 @@ void TCEditParts::Changed() const {
 void TCEditParts::ShowChangedPlaylist(TCPlaylistPosition touched) const {
   TCSetListStore& store = Store();
   if (TCPlayList* list = PlaylistAt(store, touched)) store.RecalcPlaylistTotalTime(*list);
-  if (touched == store.CurrentPosition()) {
-    ShowCurrentPlaylist();
-  } else if (touched == store.shown) {
-    // The current playlist is empty, and this one still stands on the screen.
-    playlist.ShowPlaylist(touched.group, touched.playlist);
-  }
+  // Of the two the one that is not current stands on the screen only while the current one is empty.
+  if (touched == store.CurrentPosition() || touched == store.shown) playlist.ShowEditedPlaylist(touched);
 }
 
 void TCEditParts::ShowCurrentPlaylist() const {

@@ -49,7 +49,11 @@ void TCEntryMover::Move(TCTreeNode source, TCTreeNode target) {
   if (parts.record.settings.disableEditing != 0 || source == target) return;
   const TCNodeEntry from = parts.tree.EntryOf(source);
   const TCNodeEntry to = parts.tree.EntryOf(target);
-  if (from.kind != to.kind) return;
+  if (from.kind != to.kind) {
+    // A walk with the keys that would leave the list ends here, still holding what it walked along.
+    if (from.kind != TCNodeKind::None) parts.tree.Tree().SelectNode(source);
+    return;
+  }
   switch (from.kind) {
     case TCNodeKind::None:
       return;
@@ -87,21 +91,22 @@ void TCEntryMover::MoveSongs(TCSongPosition from, TCSongPosition to) {
 }
 
 void TCEntryMover::MoveRow(std::int32_t from, std::int32_t to) {
-  Move(parts.Store().GetSongTreeNode(from), parts.Store().GetSongTreeNode(to));
+  const TCTreeNode source = parts.Store().GetSongTreeNode(from);
+  const TCTreeNode target = parts.Store().GetSongTreeNode(to);
+  Move(source, target);
+  if (target != TCTreeNode::None) parts.view.SelectRow(to);
 }
 
 void TCEntryMover::MoveSongUp() {
   const std::int32_t row = parts.view.SelectedRow();
   if (row < 1) return;
   MoveRow(row, row - 1);
-  parts.view.SelectRow(row - 1);
 }
 
 void TCEntryMover::MoveSongDown() {
   const std::int32_t row = parts.view.SelectedRow();
   if (!parts.Store().IsValidSongIndex(row + 1)) return;
-  MoveRow(row, row + 1);  // without a selected row there is no song to move
-  parts.view.SelectRow(row + 1);
+  MoveRow(row, row + 1);  // without a selected row there is no song to move, and the first row is selected
 }
 
 void TCEntryMover::SelectSongToMove() {

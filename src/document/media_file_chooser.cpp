@@ -6,6 +6,16 @@
 
 namespace brevant {
 
+namespace {
+
+// Of "*.mp3", which is what there is before the first choice, or of "mp3".
+std::u16string TypeIn(std::u16string_view fileSpec) {
+  const std::size_t dot = fileSpec.rfind(u'.');
+  return std::u16string(dot == std::u16string_view::npos ? fileSpec : fileSpec.substr(dot + 1));
+}
+
+}  // namespace
+
 TCMediaFileChooser::TCMediaFileChooser(TCAppRecord& appRecord, TCPrompts& userPrompts)
     : record(appRecord), prompts(userPrompts) {}
 
@@ -13,7 +23,7 @@ std::vector<std::u16string> TCMediaFileChooser::Choose(TCChooseFiles count) {
   TCSettings& settings = record.settings;
   std::vector<std::u16string> paths =
       prompts.ChooseMediaFiles({count, SplitQuotedWords(ToLower(record.setLists.validMediaExtensions)),
-                                settings.lastMediaFileExtSpec, settings.lastMediaFileName});
+                                TypeIn(settings.lastMediaFileExtSpec), settings.lastMediaFileName});
   if (paths.empty()) settings.lastMediaFileName.clear();
   return paths;
 }

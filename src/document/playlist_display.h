@@ -28,15 +28,17 @@ struct TCPlaylistRow {
   TCRowColours colours;
 };
 
-// Whether the rows that are shown belong to the playlist that already stood there.
-enum class TCShowRows { Afresh, KeepPlace };
+// How the rows that are shown stand to those before: another playlist, the same one with its songs at their
+// rows, or the same one with other songs at some rows.
+enum class TCShowRows { Afresh, KeepPlace, Edited };
 
 class TCPlaylistDisplay {
  public:
   virtual ~TCPlaylistDisplay() = default;
 
   // Replaces all rows. Afresh: nothing selected, scrolled to the top. KeepPlace: selection and scroll stay
-  // where they were, as far as those rows are still there.
+  // where they were. Edited: the scroll stays and nothing is selected, for a selected row would stand for
+  // another song. A drag that is under way goes on only with KeepPlace.
   virtual void ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) = 0;
   // One record a row, first to last; everything is redrawn. A row without a record takes the window's
   // colours.

@@ -14,12 +14,19 @@ TCPlaylistPresenter::TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDispl
     : record(appRecord), view(playlistView), tree(treeView), tellShown(std::move(somethingShown)) {}
 
 void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist) {
-  const TCPlayList* shown = record.setLists.PlaylistAt(group, playlist);
+  Show({group, playlist}, TCShowRows::KeepPlace);
+}
+
+void TCPlaylistPresenter::ShowEditedPlaylist(TCPlaylistPosition position) {
+  Show(position, TCShowRows::Edited);
+}
+
+void TCPlaylistPresenter::Show(TCPlaylistPosition position, TCShowRows whenShownAlready) {
+  const TCPlayList* shown = PlaylistAt(record.setLists, position);
   // An emptied playlist stays on the screen until another one is shown.
   if (shown == nullptr || shown->items.empty()) return;
   record.setLists.RecordLastShownNames();
 
-  const TCPlaylistPosition position{group, playlist};
   const bool sameAsBefore = position == record.setLists.shown;
   record.setLists.shown = position;
   if (UpdatePlayMarks(record.setLists)) rowToMove = record.setLists.currentSong;
@@ -29,7 +36,7 @@ void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist
   std::int32_t row = 0;
   for (const TCPlayListItem& song : shown->items) rows.push_back({TextsOf(row++, song), ColoursOf(song)});
   ShowHeader(*shown);
-  view.ShowRows(std::move(rows), sameAsBefore ? TCShowRows::KeepPlace : TCShowRows::Afresh);
+  view.ShowRows(std::move(rows), sameAsBefore ? whenShownAlready : TCShowRows::Afresh);
   tellShown();
 }
 

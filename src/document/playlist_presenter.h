@@ -33,6 +33,8 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
   // Redraws the colours after an option changed them, also when no song is current.
   void ShowColours();
   void Clear();
+  // As ShowPlaylist; if this playlist stands there already, its songs are not at the rows where they were.
+  void ShowEditedPlaylist(TCPlaylistPosition position);
 
   // The row of the current song at the last recolouring; -1 before the first.
   [[nodiscard]] std::int32_t RowToMove() const { return rowToMove; }
@@ -41,6 +43,7 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
   [[nodiscard]] TCRowColours ColoursOf(const TCPlayListItem& song) const;
   [[nodiscard]] static TCRowTexts TextsOf(std::int32_t row, const TCPlayListItem& song);
   void ShowHeader(const TCPlayList& playlist);
+  void Show(TCPlaylistPosition position, TCShowRows whenShownAlready);
 
   TCAppRecord& record;
   TCPlaylistDisplay& view;

@@ -20,13 +20,21 @@ std::u16string CleanName(std::u16string_view typed) {
 TCSetListEditor::TCSetListEditor(const TCEditParts& editParts) : parts(editParts) {}
 
 bool TCSetListEditor::CreateGroup(std::u16string_view name) {
+  return CreateGroupAt(parts.tree.Tree().SelectedNode(), name);
+}
+
+bool TCSetListEditor::CreatePlaylist(std::u16string_view name) {
+  return CreatePlaylistAt(parts.tree.Tree().SelectedNode(), name);
+}
+
+bool TCSetListEditor::CreateGroupAt(TCTreeNode node, std::u16string_view name) {
   TCPlayGroups group;
   group.name = CleanName(name);
   if (group.name.empty()) return false;
   TCSetListStore& store = parts.Store();
   auto place = static_cast<std::int32_t>(store.groups.size());
-  if (parts.tree.Tree().SelectedNode() != TCTreeNode::None) {
-    const TCNodeEntry selected = parts.tree.SelectedEntry();
+  if (node != TCTreeNode::None) {
+    const TCNodeEntry selected = parts.tree.EntryOf(node);
     if (selected.kind == TCNodeKind::None) return false;
     place = selected.group + 1;
   }
@@ -36,10 +44,10 @@ bool TCSetListEditor::CreateGroup(std::u16string_view name) {
   return true;
 }
 
-bool TCSetListEditor::CreatePlaylist(std::u16string_view name) {
+bool TCSetListEditor::CreatePlaylistAt(TCTreeNode node, std::u16string_view name) {
   TCPlayList playlist;
   playlist.name = CleanName(name);
-  const TCNodeEntry selected = parts.tree.SelectedEntry();
+  const TCNodeEntry selected = parts.tree.EntryOf(node);
   if (playlist.name.empty() || selected.kind == TCNodeKind::None) return false;
   TCSetListStore& store = parts.Store();
   const auto count = static_cast<std::int32_t>(GroupAt(store, selected.group)->playlists.size());
@@ -51,21 +59,26 @@ bool TCSetListEditor::CreatePlaylist(std::u16string_view name) {
   return true;
 }
 
+// The show goes on while a prompt stands there, and the tree may follow its next song: what was selected when
+// the user asked counts.
+
 bool TCSetListEditor::AskForGroup() {
+  const TCTreeNode node = parts.tree.Tree().SelectedNode();
   const auto name = parts.prompts.EnterText({TCTextPromptMode::CreateGroup,
                                              TextOf(TCTextId::GroupNamePrompt),
                                              TextOf(TCTextId::GroupNameExample),
                                              {}});
-  return name && CreateGroup(*name);
+  return name && CreateGroupAt(node, *name);
 }
 
 bool TCSetListEditor::AskForPlaylist() {
-  if (parts.tree.SelectedEntry().kind == TCNodeKind::None) return false;
+  const TCTreeNode node = parts.tree.Tree().SelectedNode();
+  if (parts.tree.EntryOf(node).kind == TCNodeKind::None) return false;
   const auto name = parts.prompts.EnterText({TCTextPromptMode::CreateSetList,
                                              TextOf(TCTextId::PlayListNamePrompt),
                                              TextOf(TCTextId::PlayListNameExample),
                                              {}});
-  return name && CreatePlaylist(*name);
+  return name && CreatePlaylistAt(node, *name);
 }
 
 bool TCSetListEditor::Rename(TCTreeNode node, std::u16string_view typed) {
@@ -78,24 +91,26 @@ bool TCSetListEditor::Rename(TCTreeNode node, std::u16string_view typed) {
       return false;
     case TCNodeKind::Group:
       GroupAt(store, entry.group)->name = name;
+      if (entry.group == store.currentGroup) store.RecordLastShownNames();
       break;
     case TCNodeKind::Playlist:
       PlaylistAt(store, entry.Playlist())->name = name;
-      parts.ShowChangedPlaylist(entry.Playlist());  // its name stands in the header
+      // Its name stands in the header.
+      if (entry.Playlist() == store.shown) parts.playlist.ShowPlaylist(entry.group, entry.playlist);
       break;
     case TCNodeKind::Song:
       RenameSong(entry.Song(), name);
       break;
   }
-  parts.tree.Tree().SetNodeText(node, name);
+  parts.tree.Tree().SetNodeText(node, parts.tree.NameOf(entry));
   parts.Changed();
   return true;
 }
 
 void TCSetListEditor::RenameSong(TCSongPosition at, std::u16string_view name) {
   TCPlayListItem& song = *SongAt(parts.Store(), at);
-  song.fileName = name;
-  song.extension = ExtensionPart(name);
+  // A name with a backslash in it is read from a saved document as folder and name; so it is here.
+  song.SetPath(std::u16string(std::u16string_view(song.folder)) + std::u16string(name));
   CheckSongFile(parts.files, song);
   song.lyrics = {};
   LoadLyrics(parts.files, song.FullPath(), song.lyrics);

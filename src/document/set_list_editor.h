@@ -36,6 +36,8 @@ class TCSetListEditor {
   void RemoveSelectedNode();
 
  private:
+  bool CreateGroupAt(TCTreeNode node, std::u16string_view name);
+  bool CreatePlaylistAt(TCTreeNode node, std::u16string_view name);
   [[nodiscard]] bool UserWantsRemoved(const TCNodeEntry& entry) const;
   void RenameSong(TCSongPosition at, std::u16string_view name);
 

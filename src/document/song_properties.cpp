@@ -33,16 +33,17 @@ void ReadLyricsAgain(TCFileSystem& files, TCPlayListItem& song) {
 }  // namespace
 
 TCSongPropertiesForm::TCSongPropertiesForm(const TCEditParts& editParts, TCSongPosition at)
-    : parts(editParts), position(at), chooser(parts.record, parts.prompts) {
+    : parts(editParts), chooser(parts.record, parts.prompts) {
   TCSetListStore& store = parts.Store();
-  const TCPlayListItem* song = SongAt(store, position);
+  const TCPlayListItem* song = SongAt(store, at);
   if (song == nullptr) return;
-  const TCPlayList& list = *PlaylistAt(store, position.Playlist());
+  node = song->treeNode;
+  const TCPlayList& list = *PlaylistAt(store, at.Playlist());
   songPath = std::u16string_view(song->folder);
   songName = song->fileName;
   songTime = song->time;
   playlistName = FileOf(list);
-  groupName = FileOf(*GroupAt(store, position.group));
+  groupName = FileOf(*GroupAt(store, at.group));
   pathForAll = list.state2 != 0;
   extensionForAll = list.state3 != 0;
 }
@@ -52,6 +53,7 @@ void TCSongPropertiesForm::SetDir() {
 }
 
 void TCSongPropertiesForm::Apply() {
+  const TCSongPosition position = parts.tree.EntryOf(node).Song();
   TCPlayListItem* song = SongAt(parts.Store(), position);
   if (song == nullptr) return;
   TCPlayList& list = *PlaylistAt(parts.Store(), position.Playlist());
@@ -69,9 +71,8 @@ void TCSongPropertiesForm::Apply() {
 }
 
 void TCSongPropertiesForm::ApplyToSong(TCPlayListItem& song) const {
-  song.folder = TCSharedText(CleanFolder(songPath));
-  if (std::u16string name = CleanName(songName); !name.empty()) song.fileName = std::move(name);
-  song.extension = ExtensionPart(song.fileName);
+  const std::u16string name = CleanName(songName);
+  song.SetPath(CleanFolder(songPath) + (name.empty() ? song.fileName : name));
   CheckSongFile(parts.files, song);
   ReadLyricsAgain(parts.files, song);
 }
@@ -81,7 +82,8 @@ void TCSongPropertiesForm::ApplyToAll(TCPlayList& list, const TCPlayListItem& so
   const std::u16string folder{std::u16string_view(song.folder)};
   const std::u16string fileName = song.fileName;
   if (pathForAll) SetFolderForAllSongs(parts.files, list, folder);
-  if (extensionForAll) SetExtensionForAllSongs(parts.files, list, fileName);
+  // A name without a type has none to give; it would leave every song with a bare dot.
+  if (extensionForAll && !song.extension.empty()) SetExtensionForAllSongs(parts.files, list, fileName);
   for (TCPlayListItem& item : list.items) {
     ReadLyricsAgain(parts.files, item);
     parts.tree.RenameSongNode(item);

@@ -33,7 +33,7 @@ class TCSongPropertiesForm {
   void ApplyToAll(TCPlayList& list, const TCPlayListItem& song);
 
   TCEditParts parts;
-  TCSongPosition position;
+  TCTreeNode node = TCTreeNode::None;  // entries may change places while the dialog is open
   TCMediaFileChooser chooser;
 };
 

@@ -1,6 +1,7 @@
 #include "model/set_list_edit.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -47,6 +48,11 @@ constexpr std::int32_t AfterMove(std::int32_t index, std::int32_t from, std::int
   return index == from ? to : AfterInsert(AfterRemove(index, from), to);
 }
 
+// Positions of playlists that follow their entry whatever moves, and are none once it is removed.
+std::array<TCPlaylistPosition*, 2> Followers(TCSetListStore& store) {
+  return {&store.shown, &store.measured};
+}
+
 void FollowRemovedPlaylist(TCPlaylistPosition& position, TCPlaylistPosition at) {
   if (position.group == at.group) position.playlist = AfterRemove(position.playlist, at.playlist);
 }
@@ -80,7 +86,9 @@ TCPlayListItem* SongAt(TCSetListStore& store, TCSongPosition at) {
 bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry) {
   if (!HasRoomAt(store.groups, group)) return false;
   if (Holds(store.groups, store.currentGroup)) store.currentGroup = AfterInsert(store.currentGroup, group);
-  if (Holds(store.groups, store.shown.group)) store.shown.group = AfterInsert(store.shown.group, group);
+  for (TCPlaylistPosition* follower : Followers(store)) {
+    if (follower->group >= 0) follower->group = AfterInsert(follower->group, group);
+  }
   PutIn(store.groups, group, std::move(entry));
   return true;
 }
@@ -90,7 +98,9 @@ bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList ent
   if (group == nullptr || !HasRoomAt(group->playlists, at.playlist)) return false;
   if (store.currentGroup == at.group && Holds(group->playlists, store.currentPlaylist))
     store.currentPlaylist = AfterInsert(store.currentPlaylist, at.playlist);
-  if (store.shown.group == at.group) store.shown.playlist = AfterInsert(store.shown.playlist, at.playlist);
+  for (TCPlaylistPosition* follower : Followers(store)) {
+    if (follower->group == at.group) follower->playlist = AfterInsert(follower->playlist, at.playlist);
+  }
   PutIn(group->playlists, at.playlist, std::move(entry));
   return true;
 }
@@ -106,8 +116,10 @@ bool InsertSong(TCSetListStore& store, TCSongPosition at, TCPlayListItem entry) 
 
 bool RemoveGroup(TCSetListStore& store, std::int32_t group) {
   if (!Holds(store.groups, group)) return false;
-  if (store.shown.group == group) store.shown = {};
-  store.shown.group = AfterRemove(store.shown.group, group);
+  for (TCPlaylistPosition* follower : Followers(store)) {
+    if (follower->group == group) *follower = {};
+    follower->group = AfterRemove(follower->group, group);
+  }
   store.currentGroup = AfterRemove(store.currentGroup, group);
   TakeOut(store.groups, group);
   return true;
@@ -115,8 +127,10 @@ bool RemoveGroup(TCSetListStore& store, std::int32_t group) {
 
 bool RemovePlaylist(TCSetListStore& store, TCPlaylistPosition at) {
   if (PlaylistAt(store, at) == nullptr) return false;
-  if (store.shown == at) store.shown = {};
-  FollowRemovedPlaylist(store.shown, at);
+  for (TCPlaylistPosition* follower : Followers(store)) {
+    if (*follower == at) *follower = {};
+    FollowRemovedPlaylist(*follower, at);
+  }
   TCPlaylistPosition current = store.CurrentPosition();
   FollowRemovedPlaylist(current, at);
   store.currentPlaylist = current.playlist;
@@ -150,7 +164,9 @@ bool RemoveSongs(TCSetListStore& store, TCPlaylistPosition at, const std::vector
 
 bool MoveGroup(TCSetListStore& store, std::int32_t from, std::int32_t to) {
   if (!Holds(store.groups, from) || !Holds(store.groups, to)) return false;
-  if (Holds(store.groups, store.shown.group)) store.shown.group = AfterMove(store.shown.group, from, to);
+  for (TCPlaylistPosition* follower : Followers(store)) {
+    if (follower->group >= 0) follower->group = AfterMove(follower->group, from, to);
+  }
   if (store.currentGroup == from) store.currentGroup = to;
   PutIn(store.groups, to, TakeOut(store.groups, from));
   return true;
@@ -158,7 +174,7 @@ bool MoveGroup(TCSetListStore& store, std::int32_t from, std::int32_t to) {
 
 bool MovePlaylist(TCSetListStore& store, TCPlaylistPosition from, TCPlaylistPosition to) {
   if (PlaylistAt(store, from) == nullptr || PlaylistAt(store, to) == nullptr) return false;
-  FollowMovedPlaylist(store.shown, from, to);
+  for (TCPlaylistPosition* follower : Followers(store)) FollowMovedPlaylist(*follower, from, to);
   TCPlaylistPosition current = store.CurrentPosition();
   FollowMovedPlaylist(current, from, to);
   store.currentGroup = current.group;

@@ -1,7 +1,8 @@
-// Inserting, removing and moving in the set lists. The current position and the playlist that is shown follow
-// their entries: they go on naming the group, playlist and song that they named before. An entry that is
-// removed leaves its number behind, which then names what took its place, or nothing. Each answers false and
-// changes nothing when an index is wrong. Totals are left alone. User-interface thread only.
+// Inserting, removing and moving in the set lists. The current position and the playlists that are shown and
+// measured follow their entries: they go on naming the group, playlist and song that they named before. An
+// entry that is removed leaves its number behind, which then names what took its place, or nothing. Each
+// answers false and changes nothing when an index is wrong. Totals are left alone. User-interface thread
+// only.
 #pragma once
 
 #include <cstdint>

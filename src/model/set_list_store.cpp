@@ -40,6 +40,7 @@ void TCSetListStore::ClearSetLists() {
   currentPlaylist = 0;
   currentSong = 0;
   shown = {};
+  measured = {};
 }
 
 std::int32_t TCSetListStore::FindGroupByName(std::u16string_view name) const {

@@ -32,6 +32,8 @@ struct TCSetListStore {
   // The playlist whose songs stand in the view: not the current one while that has no songs. None before the
   // first and when it was removed.
   TCPlaylistPosition shown;
+  // The playlist whose songs' times are being measured.
+  TCPlaylistPosition measured;
 
   // The path of the document last opened or saved, in three parts; the type is lower-cased by a save.
   std::u16string documentFileName;

@@ -13,8 +13,7 @@ TCTimeRun::TCTimeRun(TCAppRecord& appRecord, TCLengthProbe* lengthProbe, TCMessa
 void TCTimeRun::Start(TCTimeScope timeScope) {
   Cancel();
   scope = timeScope;
-  scopeGroup = record.setLists.currentGroup;
-  scopePlaylist = record.setLists.currentPlaylist;
+  record.setLists.measured = record.setLists.CurrentPosition();
   paths.clear();
   times.clear();
   index = 0;
@@ -76,7 +75,8 @@ bool TCTimeRun::StoreTimes() {
 std::vector<TCPlayList*> TCTimeRun::PlaylistsOfScope() {
   std::vector<TCPlayList*> playlists;
   if (scope == TCTimeScope::CurrentPlaylist) {
-    if (TCPlayList* playlist = record.setLists.PlaylistAt(scopeGroup, scopePlaylist))
+    const TCPlaylistPosition measured = record.setLists.measured;
+    if (TCPlayList* playlist = record.setLists.PlaylistAt(measured.group, measured.playlist))
       playlists.push_back(playlist);
     return playlists;
   }

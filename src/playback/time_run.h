@@ -51,8 +51,6 @@ class TCTimeRun {
   bool loadNext = false;              // the song is not opened yet
   bool timesPending = false;
   TCTimeScope scope = TCTimeScope::AllSongs;
-  std::int32_t scopeGroup = 0;     // of a run over one playlist
-  std::int32_t scopePlaylist = 0;  // the same
 };
 
 }  // namespace brevant

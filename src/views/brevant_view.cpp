@@ -105,6 +105,8 @@ void TCBrevantView::LoadColumnWidths(const QSettings& settings) {
 }
 
 void TCBrevantView::ShowRows(std::vector<TCPlaylistRow> rows, TCShowRows mode) {
+  if (mode != TCShowRows::KeepPlace && drag.PressedRow() >= 0) ResetMouseState();
+  if (mode == TCShowRows::Edited) clearSelection();
   playlistModel->ShowRows(std::move(rows), mode);
   if (!playlistModel->Rows().empty()) FollowBackgroundOf(playlistModel->Rows().front().colours);
   if (mode == TCShowRows::Afresh) {
@@ -180,6 +182,7 @@ void TCBrevantView::SelectRow(std::int32_t row) {
 void TCBrevantView::ScrollToRow(std::int32_t row) {
   if (!playlistModel->HasRow(row)) return;
   rowKeptInView = row;
+  if (drag.IsDragging()) return;  // the row that the mouse aims at stays under it
   scrollTo(playlistModel->index(row, 0));
 }
 

@@ -32,6 +32,10 @@ bool IsUpOrDown(const QKeyEvent& event) {
   return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
 }
 
+bool IsArrow(const QKeyEvent& event) {
+  return IsUpOrDown(event) || event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+}
+
 }  // namespace
 
 TCPlayListManagerTreeView::TCPlayListManagerTreeView(QWidget* parent)
@@ -164,12 +168,7 @@ void TCPlayListManagerTreeView::FollowNode(TCTreeNode node) {
 }
 
 bool TCPlayListManagerTreeView::UserWorksHere() const {
-  if (state() == EditingState || dragging || ctrlDrag || placing == TCPlacing::Waiting) return true;
-  const QWidget* focus = window()->focusWidget();
-  if (focus != this && !isAncestorOf(focus)) return false;
-  // Behind a dialog or another program this is still where the next key will go.
-  const QWidget* active = QApplication::activeWindow();
-  return active == window() || active == nullptr || QApplication::activeModalWidget() != nullptr;
+  return state() == EditingState || dragging || ctrlDrag || placing == TCPlacing::Waiting || KeysGoHere();
 }
 
 void TCPlayListManagerTreeView::ExpandNode(TCTreeNode node) {
@@ -195,7 +194,15 @@ void TCPlayListManagerTreeView::TakeFocus() {
 }
 
 bool TCPlayListManagerTreeView::HasFocus() const {
-  return hasFocus();
+  return KeysGoHere();
+}
+
+// To the tree or the field of a label; behind a menu, a dialog or another program this is where they will go.
+bool TCPlayListManagerTreeView::KeysGoHere() const {
+  const QWidget* focus = window()->focusWidget();
+  if (focus != this && !isAncestorOf(focus)) return false;
+  const QWidget* active = QApplication::activeWindow();
+  return active == window() || active == nullptr || QApplication::activeModalWidget() != nullptr;
 }
 
 void TCPlayListManagerTreeView::ResetMouseState() {
@@ -328,6 +335,14 @@ void TCPlayListManagerTreeView::keyPressEvent(QKeyEvent* event) {
     }
     return;
   }
+  if (IsArrow(*event) && SelectedNode() == TCTreeNode::None) {
+    // The toolkit stands on a node that it does not show as selected, and would go on from there: in a
+    // document just opened the first group would be passed over, or never be selected when it is the only
+    // one.
+    const QModelIndex current = currentIndex();
+    SelectNode(nodes->NodeAt(current.isValid() ? current : nodes->index(0, 0, {})));
+    return;
+  }
   if (IsUpOrDown(*event)) {
     // Before the tree moves the selection.
     const bool movesNode = event->modifiers().testFlag(Qt::ShiftModifier);
@@ -377,8 +392,8 @@ void TCPlayListManagerTreeView::ForgetClick() {
 void TCPlayListManagerTreeView::RenameFromLabel(const QModelIndex& index, const QString& typed) {
   const TCTreeNode node = nodes->NodeAt(index);
   const QString name = ToQString(Trim(FromQString(typed)));
-  nodes->SetText(node, name.isEmpty() ? typed : name);
-  if (!name.isEmpty() && !labelEdited(node, name)) nodes->SetText(node, typed);
+  // Whoever takes the name sets the node's text; else what was typed stays on the screen.
+  if (name.isEmpty() || !labelEdited(node, name)) nodes->SetText(node, typed);
 }
 
 void TCPlayListManagerTreeView::ShowDropTarget(TCTreeNode node) {

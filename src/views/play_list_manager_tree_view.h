@@ -112,6 +112,7 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   [[nodiscard]] bool IsOnLabel(const QModelIndex& index, QPoint place) const;
   [[nodiscard]] QStyleOptionViewItem OptionFor(const QModelIndex& index) const;
   [[nodiscard]] bool UserWorksHere() const;
+  [[nodiscard]] bool KeysGoHere() const;
   [[nodiscard]] bool ShowToolTip(const QPoint& place, const QPoint& globalPosition);
 
   TCSetListTreeModel* nodes = nullptr;  // a child, as the next one

@@ -1,6 +1,7 @@
 #include "views/playlist_row_delegate.h"
 
 #include <QPainter>
+#include <QWidget>
 
 #include "views/column_widths.h"
 #include "views/row_colours.h"
@@ -10,6 +11,18 @@ namespace brevant {
 namespace {
 
 constexpr int kOutline = 2;  // pixels
+
+// A picture is drawn in the window's colours and not in the row's: black on white, it would be lost on a dark
+// selected row, where that of a selected entry is seen.
+void ShowPictureOn(TCRgb background, QStyleOptionViewItem& option) {
+  if (option.icon.isNull()) return;
+  const auto contrastOf = [&](QPalette::ColorRole role) {
+    return ContrastRatio(background, option.palette.color(QPalette::Normal, role).rgb() & 0xFFFFFFU);
+  };
+  if (contrastOf(QPalette::HighlightedText) <= contrastOf(QPalette::ButtonText)) return;
+  const qreal scale = option.widget != nullptr ? option.widget->devicePixelRatioF() : 1;
+  option.icon = QIcon(option.icon.pixmap(option.decorationSize, scale, QIcon::Selected));
+}
 
 }  // namespace
 
@@ -32,7 +45,9 @@ void TCPlaylistRowDelegate::initStyleOption(QStyleOptionViewItem* option, const 
   QStyledItemDelegate::initStyleOption(option, index);
   if (option->state.testFlag(QStyle::State_Selected)) {
     const QColor text = option->palette.color(QPalette::Normal, QPalette::Text);
-    option->backgroundBrush = ToQColor(SelectedBackground(text.rgb() & 0xFFFFFFU));
+    const TCRgb background = SelectedBackground(text.rgb() & 0xFFFFFFU);
+    option->backgroundBrush = ToQColor(background);
+    ShowPictureOn(background, *option);
   }
   // The style would lay its own highlight over the row's colours.
   option->state &= ~(QStyle::State_Selected | QStyle::State_MouseOver | QStyle::State_HasFocus);

@@ -26,17 +26,19 @@ TEST(StatusLine, AHintGoesBeforeTheMessageAndGivesItBack) {
   EXPECT_EQ(line.ShownMessage(), kMessage);
 }
 
-TEST(StatusLine, WhatStandsGoesBeforeEveryMessageAndBehindAHint) {
-  TCStatusLine line(nullptr);
-  line.ShowStanding(QStringLiteral("Waiting"));
+TEST(StatusLine, WhatStandsIsThereAgainBehindALaterMessageAndAHint) {
+  TCStatusLine line(nullptr, std::chrono::milliseconds(1));
   line.ShowMessage(kMessage);
-  EXPECT_EQ(line.ShownMessage(), QStringLiteral("Waiting"));
+  line.ShowStanding(QStringLiteral("Waiting"));
+  EXPECT_EQ(line.ShownMessage(), QStringLiteral("Waiting"));  // the message was about something before
+  line.ShowMessage(kMessage);
+  EXPECT_EQ(line.ShownMessage(), kMessage);
   line.ShowHint(kHint);
   EXPECT_EQ(line.ShownMessage(), kHint);
   line.ShowHint({});
-  EXPECT_EQ(line.ShownMessage(), QStringLiteral("Waiting"));
+  EXPECT_TRUE(QTest::qWaitFor([&line] { return line.ShownMessage() == QStringLiteral("Waiting"); }));
   line.ShowStanding({});
-  EXPECT_EQ(line.ShownMessage(), kMessage);
+  EXPECT_EQ(line.ShownMessage(), QString());
 }
 
 TEST(StatusLine, AMessageGoesAwayByItself) {

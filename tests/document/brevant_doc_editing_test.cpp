@@ -257,6 +257,7 @@ TEST_F(BrevantDocEditingTest, RowsDroppedOnThePlaylistAreCopiedIntoItself) {
   document.DropRowsOnPlaylist();
   EXPECT_THAT(Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"a.mp3"));
   Select(u"Late");
+  view.selected = {0};
   document.DropRowsOnTree();
   EXPECT_EQ(tree.Lines().back(), u"    a.mp3");
 }

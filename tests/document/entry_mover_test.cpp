@@ -37,8 +37,22 @@ TEST_F(EntryMoverTest, ASongMovesToItsTargetsPlaceAndStaysSelected) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
   EXPECT_EQ(Lines()[4], u"    a.mp3");
   EXPECT_EQ(rig.tree.SelectedText(), u"a.mp3");
-  EXPECT_EQ(rig.view.lastMode, TCShowRows::KeepPlace);
+  EXPECT_EQ(rig.view.lastMode, TCShowRows::Edited);
   EXPECT_EQ(rig.modified, 1);
+}
+
+TEST_F(EntryMoverTest, ADraggedRowIsSelectedWhereItWasDropped) {
+  rig.view.selected = {2};
+  mover.MoveRow(0, 2);
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
+  EXPECT_THAT(rig.view.selected, ElementsAre(2));
+}
+
+TEST_F(EntryMoverTest, AWalkThatWouldLeaveTheListStaysWithWhatItWalkedAlong) {
+  rig.Select(u"Two");  // the key has moved the selection from the song above already
+  Move(u"c.mp3", u"Two");
+  EXPECT_EQ(rig.tree.SelectedText(), u"c.mp3");
+  EXPECT_EQ(rig.modified, 0);
 }
 
 TEST_F(EntryMoverTest, ASongMovesIntoAPlaylistOfAnotherGroup) {

@@ -36,6 +36,13 @@ TEST_F(MediaFileChooserTest, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) 
   EXPECT_EQ(prompts.lastMediaQuestion.defaultType, u"mp3");
 }
 
+TEST_F(MediaFileChooserTest, BeforeTheFirstChoiceTheDefaultTypeIsThatOfTheFileSpec) {
+  record.settings.lastMediaFileExtSpec = u"*.mp3";
+  prompts.mediaAnswers = {{}};
+  EXPECT_EQ(chooser.ChooseSongs(), u"");
+  EXPECT_EQ(prompts.lastMediaQuestion.defaultType, u"mp3");
+}
+
 TEST_F(MediaFileChooserTest, CancellingForgetsTheLastFileSoThatTheNextChooserHasNone) {
   record.settings.lastMediaFileName = u"C:\\a.mp3";
   record.settings.lastMediaFileExtSpec = u"mp3";

@@ -192,6 +192,47 @@ TEST_F(SetListEditorTest, SelectedRowsAreRemovedUnaskedWithTheirNodes) {
   EXPECT_EQ(rig.modified, 1);
 }
 
+TEST_F(SetListEditorTest, NothingIsSelectedAfterARemovalSoThatASecondOneRemovesNothing) {
+  rig.view.selected = {0};
+  editor.RemoveSelectedRows();
+  editor.RemoveSelectedRows();
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3"));
+  rig.view.selected = {1};
+  rig.record.settings.confirmFileRemove = false;
+  rig.Select(u"b.mp3");
+  editor.RemoveSelectedNode();
+  EXPECT_EQ(rig.view.SelectedRow(), -1);  // row 1 is another song now
+}
+
+TEST_F(SetListEditorTest, WhatWasSelectedWhenTheUserAskedCountsWhateverTheTreeFollowsMeanwhile) {
+  const auto selectMeanwhile = [this](std::u16string_view followed, std::u16string_view answer) {
+    return [this, followed, answer](const TCTextPrompt&) {
+      rig.Select(followed);
+      return std::optional<std::u16string>(answer);
+    };
+  };
+  rig.Select(u"Club");
+  rig.prompts.textAnswers = {selectMeanwhile(u"a.mp3", u"P"), selectMeanwhile(u"a.mp3", u"G")};
+  EXPECT_TRUE(editor.AskForPlaylist());
+  EXPECT_EQ(Lines().back(), u"  P");
+  rig.Select(u"Club");
+  EXPECT_TRUE(editor.AskForGroup());
+  EXPECT_EQ(Lines().back(), u"G");
+}
+
+TEST_F(SetListEditorTest, TheShownGroupsNewNameIsSuggestedNext) {
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Sets"), u"Tour"));
+  EXPECT_EQ(rig.store.lastGroupListName, u"Tour");
+}
+
+TEST_F(SetListEditorTest, ANameWithABackslashIsKeptAsASavedDocumentReadsIt) {
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"b.mp3"), u"live\\bee.mp3"));
+  const TCPlayListItem& song = rig.store.groups[0].playlists[0].items[1];
+  EXPECT_EQ(song.FullPath(), u"C:\\live\\bee.mp3");
+  EXPECT_EQ(song.fileName, u"bee.mp3");
+  EXPECT_EQ(Lines()[3], u"    bee.mp3");
+}
+
 TEST_F(SetListEditorTest, AnEmptiedPlaylistStaysOnTheScreen) {
   rig.view.selected = {0, 1, 2};
   editor.RemoveSelectedRows();

@@ -143,6 +143,34 @@ TEST_F(SongPropertiesTest, SetDirTakesTheFolderOfAnySongAndLeavesTheRest) {
   EXPECT_EQ(form.songPath, u"E:\\Backup\\");
 }
 
+TEST_F(SongPropertiesTest, TheSongIsTheSameWhenEntriesWereMovedMeanwhile) {
+  TCSongPropertiesForm form(rig.parts, {0, 0, 0});
+  ASSERT_TRUE(MoveSong(rig.store, {0, 0, 0}, {0, 0, 1}));
+  rig.treePresenter.MoveSongNode({0, 0, 1});
+  form.songName = u"x.mp3";
+  form.Apply();
+  EXPECT_EQ(Song(0, 0).fileName, u"b.wav");
+  EXPECT_EQ(Song(0, 1).fileName, u"x.mp3");
+}
+
+TEST_F(SongPropertiesTest, ASongThatIsGoneChangesNothing) {
+  TCSongPropertiesForm form(rig.parts, {0, 0, 0});
+  rig.tree.DeleteNode(Song(0, 0).treeNode);
+  ASSERT_TRUE(RemoveSong(rig.store, {0, 0, 0}));
+  form.songName = u"x.mp3";
+  form.Apply();
+  EXPECT_EQ(Song(0, 0).fileName, u"b.wav");
+  EXPECT_EQ(rig.modified, 0);
+}
+
+TEST_F(SongPropertiesTest, ANameWithoutATypeLeavesTheTypesOfTheOthers) {
+  TCSongPropertiesForm form(rig.parts, {0, 0, 0});
+  form.songName = u"a";
+  form.extensionForAll = true;
+  form.Apply();
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"a", u"b.wav"));
+}
+
 TEST_F(SongPropertiesTest, NothingIsChangedBeforeOk) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songPath = u"E:\\";

@@ -176,6 +176,15 @@ TEST_F(SetListEditTest, PlaylistsThatComeAndGoInFrontTakeThePositionAlong) {
   EXPECT_EQ(ShownName(), u"A1");
 }
 
+TEST_F(SetListEditTest, ThePlaylistThatIsMeasuredIsFollowedToo) {
+  store.measured = {0, 1};
+  ASSERT_TRUE(MovePlaylist(store, {0, 1}, {1, 0}));
+  ASSERT_TRUE(InsertGroup(store, 0, {}));
+  EXPECT_EQ(PlaylistAt(store, store.measured)->name, u"A1");
+  ASSERT_TRUE(RemoveGroup(store, 2));
+  EXPECT_EQ(store.measured, TCPlaylistPosition());
+}
+
 TEST_F(SetListEditTest, ARemovedPlaylistLeavesItsNumberAndIsShownNoMore) {
   store.currentPlaylist = 1;
   store.shown = {0, 1};

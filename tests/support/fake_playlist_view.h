@@ -22,7 +22,7 @@ class TCFakePlaylistView final : public TCPlaylistDisplay {
   void ShowRows(std::vector<TCPlaylistRow> newRows, TCShowRows mode) override {
     rows = std::move(newRows);
     lastMode = mode;
-    if (mode == TCShowRows::Afresh) selected.clear();
+    if (mode != TCShowRows::KeepPlace) selected.clear();
     ++shows;
   }
   void SetRowColours(std::vector<TCRowColours> colours) override {

@@ -22,6 +22,8 @@ class TCFakePrompts final : public TCPrompts {
   std::u16string lastName;
 
   std::deque<std::optional<std::u16string>> texts;
+  // What happens while the prompt stands there, and its answer; asked before `texts`.
+  std::deque<std::function<std::optional<std::u16string>(const TCTextPrompt&)>> textAnswers;
   std::u16string lastPrompt;
   std::u16string lastExample;
   std::u16string lastText;
@@ -41,6 +43,7 @@ class TCFakePrompts final : public TCPrompts {
     lastPrompt = prompt.prompt;
     lastExample = prompt.example;
     lastText = prompt.text;
+    if (!textAnswers.empty()) return Next(textAnswers, {})(prompt);
     return Next(texts, std::optional<std::u16string>());
   }
   TCSaveAnswer AskSaveChanges(std::u16string_view name) override {

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <array>
+#include <utility>
 
 #include "model/play_marks.h"
 #include "views/brevant_view.h"
@@ -101,6 +102,37 @@ TEST_F(TCBrevantViewDrawingTest, ASelectedRowKeepsItsTextColourAndStandsOut) {
       EXPECT_EQ(Count(Row(1), kSelectionOutline), 0) << std::hex << text;
     }
   }
+}
+
+TEST_F(TCBrevantViewDrawingTest, ThePictureOfASelectedRowIsTheOneThatIsSeenOnIt) {
+  constexpr TCRgb kPlain = 0x804020;
+  constexpr TCRgb kSelected = 0x208040;
+  QIcon picture;
+  for (const auto& [colour, mode] :
+       {std::pair(kPlain, QIcon::Normal), std::pair(kSelected, QIcon::Selected)}) {
+    QPixmap pixmap(64, 64);
+    pixmap.fill(ToQColor(colour));
+    picture.addPixmap(pixmap, mode);
+  }
+  view.SetRowPicture(picture);
+  const auto show = [this](TCRgb windowText, TCRgb rowText) {
+    QPalette colours = view.palette();
+    colours.setColor(QPalette::ButtonText, ToQColor(windowText));
+    colours.setColor(QPalette::HighlightedText, Qt::white);
+    view.setPalette(colours);
+    view.ShowRows({RowNamed(u"Selected", rowText), RowNamed(u"Other", rowText)}, TCShowRows::Afresh);
+    view.SelectRow(0);
+  };
+  show(kBlack, kNextColour);  // on dark blue
+  EXPECT_GT(Count(Row(0), kSelected), 50);
+  EXPECT_EQ(Count(Row(0), kPlain), 0);
+  EXPECT_EQ(Count(Row(1), kSelected), 0);
+  show(kBlack, kBlack);  // on light blue
+  EXPECT_EQ(Count(Row(0), kSelected), 0);
+  EXPECT_GT(Count(Row(0), kPlain), 50);
+  show(kWhite, kNextColour);
+  EXPECT_EQ(Count(Row(0), kSelected), 0);
+  EXPECT_GT(Count(Row(0), kPlain), 50);
 }
 
 TEST_F(TCBrevantViewDrawingTest, ASelectedRowLooksTheSameWhereverTheFocusIs) {

@@ -268,6 +268,24 @@ TEST_F(Tree, PlainArrowsMoveTheSelectionAndOpenAndCloseNodes) {
   EXPECT_THAT(Moves(), IsEmpty());
 }
 
+TEST_F(Tree, TheFirstArrowSelectsTheFirstGroupWhenNothingIsSelected) {
+  for (const Qt::Key arrow : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Left, Qt::Key_Right}) {
+    tree.clearSelection();
+    tree.TakeFocus();
+    ASSERT_EQ(tree.SelectedNode(), TCTreeNode::None);
+    QTest::keyClick(&tree, arrow);
+    EXPECT_EQ(tree.SelectedNode(), gigs);
+    EXPECT_FALSE(tree.isExpanded(IndexOf(gigs)));
+  }
+  tree.clearSelection();
+  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(tree.SelectedNode(), gigs);
+  EXPECT_THAT(Moves(), IsEmpty());
+  tree.ClearNodes();
+  QTest::keyClick(&tree, Qt::Key_Down);
+  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
+}
+
 TEST_F(Tree, ShiftWithAnArrowMovesTheNodeWhenTheKeyComesUp) {
   OpenAll();
   tree.TakeFocus();

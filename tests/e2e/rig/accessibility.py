@@ -70,5 +70,10 @@ def area(element):
     return box.x, box.y, box.width, box.height
 
 
+def middle(element):
+    x, y, width, height = area(element)
+    return x + width // 2, y + height // 2
+
+
 def cell_area(table, row, column):
     return area(table.queryTable().getAccessibleAt(row, column))

@@ -3,8 +3,10 @@
 A flow is a script that ctest runs on a stage (scripts/stage): FLOW BINARY FOLDER.
 """
 
+import contextlib
 import pathlib
 import shutil
+import subprocess
 import sys
 import tempfile
 import traceback
@@ -28,6 +30,17 @@ class Flow:
     def start(self, *arguments):
         self.programs.append(Program(self.binary, self.home, self.folder / "program.log", arguments))
         return self.programs[-1]
+
+    @contextlib.contextmanager
+    def another_program(self, *command):
+        """A program that is no Brevant, running for the length of a block."""
+        with open(self.folder / "other.log", "ab") as output:
+            process = subprocess.Popen([*map(str, command)], stdin=subprocess.DEVNULL, stdout=output, stderr=output)
+        try:
+            yield process
+        finally:
+            process.kill()
+            process.wait()
 
     def use(self, listener):
         """Listens with another one from now on, to another sound server."""

@@ -1,6 +1,7 @@
 """Looks at the stage's display: pictures and pixels of it, and keys typed into it."""
 
 import collections
+import contextlib
 import re
 import subprocess
 
@@ -54,6 +55,17 @@ def press(*keys):
     subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "30", *keys], check=True)
 
 
+def offer_letters(*layouts):
+    """Gives the display's keyboard the letters of these layouts. Letters that no key has would be lent a key for one
+    stroke each, and the next one could come before everybody has heard of it."""
+    subprocess.run(["setxkbmap", "-layout", ",".join(layouts)], check=True)
+
+
+def type_text(text):
+    """Types a text, letter by letter, into whatever has the focus."""
+    subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "15", "--", text], check=True)
+
+
 def hold(key, while_held):
     """Keeps a key down, so that the keyboard repeats it, until `while_held` has run."""
     subprocess.run(["xdotool", "keydown", key], check=True)
@@ -66,6 +78,50 @@ def hold(key, while_held):
 def click(x, y, times=1):
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "60", "1"],
                    check=True)
+
+
+def right_click(x, y):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "3"], check=True)
+
+
+def window_under_pointer():
+    answer = subprocess.run(["xdotool", "getmouselocation", "--shell"], check=True, capture_output=True, text=True)
+    return re.search(r"^WINDOW=(\d+)", answer.stdout, re.MULTILINE).group(1)
+
+
+def window_area(window):
+    """(x, y, width, height) on the display, or None when the window is gone."""
+    answer = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window], capture_output=True, text=True)
+    values = dict(re.findall(r"^(\w+)=(-?\d+)", answer.stdout, re.MULTILINE))
+    return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")) if values else None
+
+
+def point_at(x, y):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
+
+
+@contextlib.contextmanager
+def held(key):
+    """Keeps a key down for the length of a block: with held("ctrl"): ..."""
+    subprocess.run(["xdotool", "keydown", key], check=True)
+    try:
+        yield
+    finally:
+        subprocess.run(["xdotool", "keyup", key], check=True)
+
+
+@contextlib.contextmanager
+def drag(start, end):
+    """Presses the left button at one place and goes to another; the block looks at what is shown meanwhile, and the
+    button is let go behind it."""
+    point_at(*start)
+    subprocess.run(["xdotool", "mousedown", "1"], check=True)
+    try:
+        for part in (1, 2, 3, 4):
+            point_at(*(begin + (goal - begin) * part // 4 for begin, goal in zip(start, end)))
+        yield
+    finally:
+        subprocess.run(["xdotool", "mouseup", "1"], check=True)
 
 
 def active_window_title():
