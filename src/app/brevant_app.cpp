@@ -1,6 +1,7 @@
 #include "app/brevant_app.h"
 
 #include <QApplication>
+#include <QItemSelectionModel>
 #include <QMenuBar>
 #include <utility>
 #include <vector>
@@ -46,7 +47,8 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .prompts = prompts,
                 .folders = parts.folders,
                 .lengthProbe = parts.lengthProbe,
-                .repeatFields = &frame.PlayControls()}),
+                .repeatFields = &frame.PlayControls(),
+                .properties = &frame.Properties()}),
       router(frame, document, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
@@ -74,6 +76,7 @@ void TCBrevantApp::ConnectPlaylist() {
 void TCBrevantApp::ConnectTree() {
   using TCTree = TCPlayListManagerTreeView;
   TCTree& tree = frame.Tree();
+  connect(&tree, &TCTree::nodePressed, this, [this](TCTreeNode node) { document.PressNode(node); });
   connect(&tree, &TCTree::nodePicked, this, [this](TCTreeNode node) { document.PickNode(node); });
   connect(&tree, &TCTree::enterPressed, this, [this] { document.EnterOnNode(); });
   connect(&tree, &TCTree::labelEdited, this, [this](TCTreeNode node, const QString& text) {
@@ -87,6 +90,16 @@ void TCBrevantApp::ConnectTree() {
   connect(&tree, &TCTree::contextMenuWanted, this, [this](QPoint position) { treeMenu->popup(position); });
   keyFilter.LetKeep(tree, [&tree](int key, Qt::KeyboardModifiers modifiers) {
     return TreeKeepsKey(key, modifiers, tree.SelectedKind());
+  });
+}
+
+void TCBrevantApp::ConnectProperties() {
+  TCPropertiesPane& pane = frame.Properties();
+  connect(&pane, &TCPropertiesPane::built, this, [this] { document.RefreshProperties(); });
+  connect(frame.PlaylistView().selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this] { document.RefreshProperties(); });
+  keyFilter.LetKeep(pane, [&pane](int key, Qt::KeyboardModifiers modifiers) {
+    return PropertiesKeepKey(key, modifiers, pane.SelectedRowIsEditable());
   });
 }
 
@@ -118,6 +131,7 @@ void TCBrevantApp::DropFiles(const QList<QByteArray>& nativeNames) {
 void TCBrevantApp::ConnectParts() {
   ConnectPlaylist();
   ConnectTree();
+  ConnectProperties();
   connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();

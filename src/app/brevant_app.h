@@ -66,6 +66,7 @@ class TCBrevantApp : public QObject {
   void ConnectParts();
   void ConnectPlaylist();
   void ConnectTree();
+  void ConnectProperties();
   void DropRowsAt(QPoint globalPosition);
   void DropFiles(const QList<QByteArray>& nativeNames);
   void OpenFirstDocument(const TCStartFile& startFile);

@@ -33,6 +33,7 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
       inner(new QMainWindow(this)),
       view(new TCBrevantView(inner)),
       tree(new TCPlayListManagerTreeView(inner)),
+      properties(new TCPropertiesPane(inner)),
       playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
       messageDisplay(new TCGeneralReportsTab(inner)),
       playControls(new TCPlayControlsBar(this)),
@@ -50,6 +51,7 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
   inner->setCentralWidget(view);
 
   managerDock = AddPane(TCCommandId::PlaylistManagerPane, TCTextId::PlaylistManagerPaneTitle, *tree);
+  propertiesDock = AddPane(TCCommandId::PropertiesPane, TCTextId::PropertiesPaneTitle, *properties);
   playerDock = AddPane(TCCommandId::PlayerPane, TCTextId::PlayerPaneTitle, *playerPane);
   messageDock = AddPane(TCCommandId::MessagePane, TCTextId::MessagePaneTitle, *messageDisplay);
   PlaceOnScreen();
@@ -66,7 +68,7 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
 
 TCMainFrame::~TCMainFrame() {
   // The panes go with the toolkit's part of this window and tell of it, when nobody is left to be told.
-  for (QDockWidget* pane : {managerDock, playerDock, messageDock}) pane->disconnect(this);
+  for (QDockWidget* pane : {managerDock, propertiesDock, playerDock, messageDock}) pane->disconnect(this);
 }
 
 void TCMainFrame::ConnectViews() {
@@ -106,11 +108,13 @@ QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& conte
 
 void TCMainFrame::ArrangePanes() {
   inner->addDockWidget(Qt::LeftDockWidgetArea, managerDock);
-  inner->addDockWidget(Qt::BottomDockWidgetArea, playerDock);
+  inner->addDockWidget(Qt::BottomDockWidgetArea, propertiesDock);
+  inner->splitDockWidget(propertiesDock, playerDock, Qt::Horizontal);
   inner->splitDockWidget(playerDock, messageDock, Qt::Horizontal);
   // On a small screen the playlist keeps the most of the width.
   inner->resizeDocks({managerDock}, {std::min(kManagerWidth, width() / kPaneShare)}, Qt::Horizontal);
-  inner->resizeDocks({playerDock, messageDock}, {kPaneSize.width(), kPaneSize.width()}, Qt::Horizontal);
+  constexpr int kEach = kPaneSize.width();
+  inner->resizeDocks({propertiesDock, playerDock, messageDock}, {kEach, kEach, kEach}, Qt::Horizontal);
   inner->resizeDocks({playerDock}, {std::max(kPaneSize.height(), height() / kPaneShare)}, Qt::Vertical);
 }
 
@@ -121,6 +125,7 @@ void TCMainFrame::PlaceOnScreen() {
 bool TCMainFrame::Handles(TCCommandId command) {
   switch (command) {
     case TCCommandId::PlaylistManagerPane:
+    case TCCommandId::PropertiesPane:
     case TCCommandId::PlayerPane:
     case TCCommandId::MessagePane:
     case TCCommandId::StatusBarVisible:
@@ -154,6 +159,8 @@ QDockWidget* TCMainFrame::PaneOf(TCCommandId command) const {
   switch (command) {
     case TCCommandId::PlaylistManagerPane:
       return managerDock;
+    case TCCommandId::PropertiesPane:
+      return propertiesDock;
     case TCCommandId::PlayerPane:
       return playerDock;
     case TCCommandId::MessagePane:

@@ -1,6 +1,7 @@
-// The main window: the playlist in the middle, the playlist manager in a pane beside it, the player and the
-// message display in panes below, the menu bar, the play controls and the status bar around them. It shows
-// and decides nothing about songs; commands come and go through TCCommandRouter. User-interface thread only.
+// The main window: the playlist in the middle, the playlist manager in a pane beside it, properties, player
+// and message display in panes below, the menu bar, the play controls and the status bar around them. It
+// shows and decides nothing about songs; commands come and go through TCCommandRouter. User-interface thread
+// only.
 #pragma once
 
 #include <QDockWidget>
@@ -12,6 +13,7 @@
 
 #include "app/general_reports_tab.h"
 #include "app/play_controls_bar.h"
+#include "app/properties_pane.h"
 #include "app/status_line.h"
 #include "document/frame_display.h"
 #include "model/settings.h"
@@ -38,6 +40,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   [[nodiscard]] TCPlayListManagerTreeView& Tree() { return *tree; }
   [[nodiscard]] TCGeneralReportsTab& MessageDisplay() { return *messageDisplay; }
   [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }
+  [[nodiscard]] TCPropertiesPane& Properties() { return *properties; }
   [[nodiscard]] TCPlayControlsBar& PlayControls() { return *playControls; }
   [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
 
@@ -95,9 +98,11 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   QMainWindow* inner = nullptr;
   TCBrevantView* view = nullptr;
   TCPlayListManagerTreeView* tree = nullptr;
+  TCPropertiesPane* properties = nullptr;
   TCWMPPaneContainer* playerPane = nullptr;
   TCGeneralReportsTab* messageDisplay = nullptr;
   QDockWidget* managerDock = nullptr;
+  QDockWidget* propertiesDock = nullptr;
   QDockWidget* playerDock = nullptr;
   QDockWidget* messageDock = nullptr;
   TCPlayControlsBar* playControls = nullptr;

@@ -55,7 +55,8 @@ const OptionCommand* OptionOf(TCCommandId command) {
 TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
     : parts(std::move(documentParts)),
       documentFile(parts.files, parts.record.setLists, parts.messages),
-      presenter(parts.record, parts.playlistView, parts.treeView),
+      properties(parts.record, parts.folders, parts.playlistView, parts.properties),
+      presenter(parts.record, parts.playlistView, parts.treeView, [this] { RefreshProperties(); }),
       tree(parts.record.setLists, parts.treeView),
       editor(EditParts()),
       mover(EditParts()),
@@ -124,6 +125,7 @@ void TCBrevantDoc::ShowBanner() {
 
 void TCBrevantDoc::ShowTitle() {
   parts.frame.ShowTitle(FileNamePart(pathName), modified ? TCModifiedMark::Modified : TCModifiedMark::Clean);
+  RefreshProperties();
 }
 
 void TCBrevantDoc::SetModified() {
@@ -244,6 +246,7 @@ void TCBrevantDoc::ToggleOption(TCCommandId command) {
   OptionOf(command)->invert(settings);
   if (command == TCCommandId::WhiteOnBlack) settings.SetWhiteOnBlack(settings.whiteOnBlack);
   parts.frame.ShowOptions();
+  RefreshProperties();
   if (command == TCCommandId::WhiteOnBlack || command == TCCommandId::DynamicPlayColours)
     presenter.ShowColours();
 }
@@ -251,6 +254,7 @@ void TCBrevantDoc::ToggleOption(TCCommandId command) {
 void TCBrevantDoc::ChangeOption(TCCommandId command) {
   if (!AskForOption(command, parts.record, parts.prompts)) return;
   parts.frame.ShowOptions();
+  RefreshProperties();
   TCSetListStore& setLists = parts.record.setLists;
   switch (command) {
     case TCCommandId::SongLatency:
@@ -304,6 +308,11 @@ void TCBrevantDoc::PickRow(std::int32_t row) {
 
 void TCBrevantDoc::MakePlaylistCurrent(TCPlaylistPosition playlist) {
   transport.SelectPlaylist(playlist.group, playlist.playlist);
+}
+
+void TCBrevantDoc::PressNode(TCTreeNode node) {
+  const TCNodeEntry entry = tree.EntryOf(node);
+  properties.RefreshSelectionProperties(entry.group, entry.playlist, entry.song);
 }
 
 void TCBrevantDoc::PickNode(TCTreeNode node) {

@@ -11,6 +11,7 @@
 #include "document/frame_display.h"
 #include "document/playlist_presenter.h"
 #include "document/prompts.h"
+#include "document/properties_presenter.h"
 #include "document/set_list_editor.h"
 #include "document/song_placement.h"
 #include "document/tree_presenter.h"
@@ -35,8 +36,9 @@ struct TCDocumentParts {
   TCFrameDisplay& frame;
   TCPrompts& prompts;
   TCProgramFolders folders;
-  TCLengthProbe* lengthProbe = nullptr;    // null: song times are measured with the player itself
-  TCRepeatFields* repeatFields = nullptr;  // null: there is no repeat range
+  TCLengthProbe* lengthProbe = nullptr;       // null: song times are measured with the player itself
+  TCRepeatFields* repeatFields = nullptr;     // null: there is no repeat range
+  TCPropertiesDisplay* properties = nullptr;  // null: there is no properties pane
 };
 
 class TCBrevantDoc {
@@ -75,6 +77,8 @@ class TCBrevantDoc {
   // A row was dragged to the place of another.
   void MoveRow(std::int32_t from, std::int32_t to) { mover.MoveRow(from, to); }
 
+  // A node of the tree was pressed: the properties pane shows that song, and nothing becomes current.
+  void PressNode(TCTreeNode node);
   // A node of the tree was double-clicked: a playlist becomes current, and of a song its playlist and itself.
   void PickNode(TCTreeNode node);
   // Enter in the tree does the same for the selected node and opens its playlist.
@@ -93,6 +97,9 @@ class TCBrevantDoc {
   void DropFiles(std::vector<std::u16string> paths);
   // The click.
   void PlacePendingFiles() { placement.PlacePendingFiles(); }
+
+  // The properties pane was built, or other rows of the playlist are selected.
+  void RefreshProperties() { properties.RefreshProperties(pathName); }
 
   // Every 300 ms.
   void OnPlayTimerTick();
@@ -113,6 +120,7 @@ class TCBrevantDoc {
 
   void ClearViewsAndStore();
   void ShowBanner();
+  // Name and modified mark, in the title and in the properties.
   void ShowTitle();
   void KeepRecoveryCopy(std::u16string_view path);
   void ToggleOption(TCCommandId command);
@@ -134,6 +142,7 @@ class TCBrevantDoc {
 
   TCDocumentParts parts;
   TCDocumentFile documentFile;
+  TCPropertiesPresenter properties;
   TCPlaylistPresenter presenter;
   TCTreePresenter tree;
   TCSetListEditor editor;

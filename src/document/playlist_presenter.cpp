@@ -1,5 +1,7 @@
 #include "document/playlist_presenter.h"
 
+#include <utility>
+
 #include "model/play_marks.h"
 #include "model/set_list_edit.h"
 #include "resources/string_table.h"
@@ -8,8 +10,8 @@
 namespace brevant {
 
 TCPlaylistPresenter::TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView,
-                                         TCTreeDisplay& treeView)
-    : record(appRecord), view(playlistView), tree(treeView) {}
+                                         TCTreeDisplay& treeView, std::function<void()> somethingShown)
+    : record(appRecord), view(playlistView), tree(treeView), tellShown(std::move(somethingShown)) {}
 
 void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist) {
   Show({group, playlist}, TCShowRows::KeepPlace);
@@ -35,6 +37,7 @@ void TCPlaylistPresenter::Show(TCPlaylistPosition position, TCShowRows whenShown
   for (const TCPlayListItem& song : shown->items) rows.push_back({TextsOf(row++, song), ColoursOf(song)});
   ShowHeader(*shown);
   view.ShowRows(std::move(rows), sameAsBefore ? whenShownAlready : TCShowRows::Afresh);
+  tellShown();
 }
 
 void TCPlaylistPresenter::ShowHeader(const TCPlayList& playlist) {
@@ -68,6 +71,7 @@ void TCPlaylistPresenter::HighlightCurrentSong() {
     view.ScrollToRow(record.setLists.currentSong);
     tree.FollowNode(record.setLists.GetSongTreeNode(record.setLists.currentSong));
   }
+  tellShown();
 }
 
 void TCPlaylistPresenter::RefreshSongRow(std::int32_t row, const TCPlayListItem& song) {
@@ -80,6 +84,7 @@ void TCPlaylistPresenter::SetSongTime(std::int32_t row, std::u16string_view time
 
 void TCPlaylistPresenter::RefreshPlaylistTotal() {
   if (const TCPlayList* playlist = record.setLists.CurrentPlaylist()) ShowHeader(*playlist);
+  tellShown();
 }
 
 void TCPlaylistPresenter::FocusPlaylist() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "document/frame_display.h"
@@ -15,7 +16,10 @@ namespace brevant {
 
 class TCPlaylistPresenter final : public TCSetListDisplay {
  public:
-  TCPlaylistPresenter(TCAppRecord& appRecord, TCPlaylistDisplay& playlistView, TCTreeDisplay& treeView);
+  // `somethingShown` is told after the shown playlist, the current song or the total became another.
+  TCPlaylistPresenter(
+      TCAppRecord& appRecord, TCPlaylistDisplay& playlistView, TCTreeDisplay& treeView,
+      std::function<void()> somethingShown = [] {});
 
   void ShowPlaylist(std::int32_t group, std::int32_t playlist) override;
   void HighlightCurrentSong() override;
@@ -44,6 +48,7 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
   TCAppRecord& record;
   TCPlaylistDisplay& view;
   TCTreeDisplay& tree;
+  std::function<void()> tellShown;
   std::int32_t rowToMove = -1;
 };
 

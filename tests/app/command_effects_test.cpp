@@ -413,6 +413,7 @@ const std::array kEffects = {
                EXPECT_TRUE(p.app->Actions().ActionOf(Id::DisableEditing)->isChecked());
              }},
     TCEffect{Id::PlaylistManagerPane, [](Program& p) { p.ExpectPane(Id::PlaylistManagerPane, p.Tree()); }},
+    TCEffect{Id::PropertiesPane, [](Program& p) { p.ExpectPane(Id::PropertiesPane, p.Frame().Properties()); }},
     TCEffect{Id::PlayerPane, [](Program& p) { p.ExpectPane(Id::PlayerPane, p.Frame().PlayerPane()); }},
     TCEffect{Id::MessagePane, [](Program& p) { p.ExpectPane(Id::MessagePane, p.Frame().MessageDisplay()); }},
     TCEffect{Id::StatusBarVisible,

@@ -57,8 +57,9 @@ TEST_F(MainFrame, ANameThatLooksLikeTheMarkIsShownAsItIs) {
 
 TEST_F(MainFrame, ItsCommandsOpenAndClosePanesAndStatusBar) {
   frame.show();
-  for (const TCCommandId command : {TCCommandId::PlaylistManagerPane, TCCommandId::PlayerPane,
-                                    TCCommandId::MessagePane, TCCommandId::StatusBarVisible}) {
+  for (const TCCommandId command :
+       {TCCommandId::PlaylistManagerPane, TCCommandId::PropertiesPane, TCCommandId::PlayerPane,
+        TCCommandId::MessagePane, TCCommandId::StatusBarVisible}) {
     ASSERT_TRUE(TCMainFrame::Handles(command));
     EXPECT_TRUE(frame.IsChecked(command));
     EXPECT_TRUE(frame.OnCommand(command));
@@ -76,8 +77,7 @@ TEST_F(MainFrame, ThePanesTitlesAreDrawnAsTheyStand) {
 }
 
 TEST_F(MainFrame, PanesThatAreNotBuiltAreNotItsOwn) {
-  for (const TCCommandId command :
-       {TCCommandId::PropertiesPane, TCCommandId::LiveViewMode, TCCommandId::Play}) {
+  for (const TCCommandId command : {TCCommandId::LiveViewMode, TCCommandId::Play}) {
     EXPECT_FALSE(TCMainFrame::Handles(command));
     EXPECT_FALSE(frame.OnCommand(command));
   }
@@ -99,11 +99,14 @@ TEST_F(MainFrame, ThePanesLieSideBySideBelowThePlaylist) {
   const auto place = [this](const QWidget& widget) {
     return QRect(widget.mapTo(&frame, QPoint(0, 0)), widget.size());
   };
+  const QRect properties = place(frame.Properties());
   const QRect pane = place(frame.PlayerPane());
   const QRect messages = place(frame.MessageDisplay());
   const QRect list = place(frame.PlaylistView());
   EXPECT_LT(list.bottom(), pane.top());
+  EXPECT_LT(properties.right(), pane.left());
   EXPECT_LT(pane.right(), messages.left());
+  EXPECT_LT(list.bottom(), properties.top());
   EXPECT_LT(list.bottom(), messages.top());
   EXPECT_GT(list.height(), pane.height()) << "the playlist has the most room";
 }
@@ -195,6 +198,7 @@ TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
     EXPECT_EQ(frame.MessageDisplay().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.PlaylistView().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.Tree().palette().color(QPalette::Base), background);
+    EXPECT_EQ(frame.Properties().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.Tree().palette().color(QPalette::Text), ToColour(settings.textColour));
   }
 }
