@@ -131,12 +131,13 @@ class Keyboard:
         screen.press("shift+Down", "shift+Down")
         kept = [" High.wav", "Two  Blanks.wav", "Zwölf Räder.wav", "Spare.wav", "Harbour Tone.wav"]
         self.expect(FIRST, kept, "Second Set", NIGHT)
-        # The last song has none of its kind below it: the keys go on, the song stays.
-        screen.press("shift+Down")
-        self.manager.wait_for_selected("Second Set")
+        # The last song has none of its kind below it: it stays, and so does the selection.
+        screen.press("shift+Down", "shift+Down")
+        self.manager.wait_for_selected("Harbour Tone.wav")
         self.expect(FIRST, kept, "Second Set", NIGHT)
 
         # Folded, the playlists stand one below the other.
+        self.walk_to("Second Set", "Down")
         screen.press("Left")
         self.manager.wait_for_outline(GROUP, *entries(FIRST, kept), "  Second Set")
         self.walk_to(FIRST, "Up")
