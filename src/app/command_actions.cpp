@@ -33,7 +33,7 @@ QString NameOf(const TCCommand& command) {
 
 TCCommandActions::TCCommandActions(TCCommandTarget& commandTarget, QWidget& window) : target(commandTarget) {
   AddActions(window);
-  BindKeys();
+  Follow(TCKeyAssignment(), TCTips::WithKeys);
   RefreshChecks();
 }
 
@@ -43,7 +43,6 @@ void TCCommandActions::AddActions(QWidget& window) {
     auto action = std::make_unique<QAction>(ToQString(command.menuText));
     action->setObjectName(QStringLiteral("Command%1").arg(static_cast<int>(command.id)));
     action->setIconText(NameOf(command));
-    action->setToolTip(ToQString(ToolTipWithKeys(command)));
     action->setStatusTip(ToQString(StatusLine(command)));
     action->setCheckable(command.trait == TCCommandTrait::Checkable);
     // In a menu a picture would take the place of the tick.
@@ -66,18 +65,22 @@ void TCCommandActions::AddActions(QWidget& window) {
   }
 }
 
-void TCCommandActions::BindKeys() {
-  std::map<TCCommandId, QList<QKeySequence>> shortcuts;
-  for (const TCKeyBinding& binding : EffectiveBindings()) {
-    if (ActionOf(binding.command) == nullptr) continue;
-    const TCCommand* command = CommandById(binding.command);
-    const bool repeats = command != nullptr && command->trait == TCCommandTrait::Repeats;
-    for (const QKeySequence& sequence : ToQtKeys(binding.key)) {
-      shortcuts[binding.command].append(sequence);
-      keys[sequence[0].toCombined()] = {binding.command, repeats};
+void TCCommandActions::Follow(const TCKeyAssignment& assignment, TCTips tips) {
+  keys.clear();
+  for (const auto& [id, action] : actions) {
+    const TCCommand& command = *CommandById(id);
+    const std::vector<TCKey> bound = assignment.KeysOf(id);
+    QList<QKeySequence> shortcuts;
+    for (const TCKey& key : bound) {
+      for (const QKeySequence& sequence : ToQtKeys(key)) {
+        shortcuts.append(sequence);
+        keys[sequence[0].toCombined()] = {id, command.trait == TCCommandTrait::Repeats};
+      }
     }
+    if (action->shortcuts() != shortcuts) action->setShortcuts(shortcuts);
+    const bool withKeys = tips == TCTips::WithKeys;
+    action->setToolTip(ToQString(withKeys ? ToolTipWithKeys(command, bound) : ToolTip(command)));
   }
-  for (const auto& [command, sequences] : shortcuts) ActionOf(command)->setShortcuts(sequences);
 }
 
 QAction* TCCommandActions::ActionOf(TCCommandId command) const {

@@ -1,5 +1,6 @@
-// One action for every command that somebody carries out: its text, keys, status line and check mark, taken
-// from the command table. Menus and bars show these; the keys act whether they are shown or not.
+// One action for every command that somebody carries out: its text, status line and check mark, taken from
+// the command table, and the keys that the user has for it. Menus and bars show these; the keys act whether
+// they are shown or not.
 #pragma once
 
 #include <QAction>
@@ -8,12 +9,14 @@
 #include <memory>
 
 #include "app/command_target.h"
+#include "resources/key_assignment.h"
 
 namespace brevant {
 
 class TCCommandActions : public QObject {
  public:
-  // The actions live in `window`: their keys act wherever the focus is in it.
+  // The actions live in `window`: their keys act wherever the focus is in it. At first they are the delivered
+  // ones.
   TCCommandActions(TCCommandTarget& commandTarget, QWidget& window);
 
   // Null when nobody carries the command out.
@@ -26,12 +29,15 @@ class TCCommandActions : public QObject {
   // The command that a key and its modifiers (not the keypad's) fire; none when it fires nothing.
   [[nodiscard]] TCBoundCommand CommandOfKey(int key, Qt::KeyboardModifiers modifiers) const;
 
+  enum class TCTips { WithKeys, WithoutKeys };
+  // From now on these keys fire the commands and no others, and tool tips say so or not.
+  void Follow(const TCKeyAssignment& assignment, TCTips tips);
+
   // Shows every check mark as it stands now.
   void RefreshChecks();
 
  private:
   void AddActions(QWidget& window);
-  void BindKeys();
   void Queue(TCCommandId command);
   void Trigger(TCCommandId command);
 

@@ -9,6 +9,8 @@
 #include <QTextEdit>
 #include <utility>
 
+#include "app/key_field.h"
+
 namespace brevant {
 namespace {
 
@@ -22,6 +24,7 @@ bool IsPartOf(const QWidget& root, const QWidget* widget) {
 
 TCKeyFocus FocusKind(const QWidget* focus) {
   if (qobject_cast<const QMenuBar*>(focus) != nullptr) return TCKeyFocus::Menu;
+  if (qobject_cast<const TCKeyField*>(focus) != nullptr) return TCKeyFocus::Asking;
 
   bool typing = false;
   if (const auto* line = qobject_cast<const QLineEdit*>(focus)) {
@@ -159,7 +162,8 @@ bool TCKeyFilter::FilterOverride(const QWidget& receiver, QKeyEvent& event) {
 bool TCKeyFilter::FilterInDialog(const QWidget& receiver, QKeyEvent& event) {
   const QWidget* focus = receiver.window()->focusWidget();
   TCKeyPress press = PressOf(event, focus != nullptr ? focus : &receiver);
-  press.focus = TCKeyFocus::Typing;  // its buttons belong to the entry of a text as much as its field
+  // Its buttons belong to the entry of a text as much as its field.
+  if (press.focus != TCKeyFocus::Asking) press.focus = TCKeyFocus::Typing;
   switch (DecideKey(press)) {
     case TCKeyVerdict::Untouched:
     case TCKeyVerdict::Widget:

@@ -1,7 +1,7 @@
 // Sees every key before it becomes a shortcut and says who has it: see key_rules.h. One for the application,
 // for the main window and its floating panes. A dialog keeps its keys to itself, but the function and media
-// keys still perform the show, and nothing of the key that opened it reaches it; the window behind it has no
-// keys at all.
+// keys still perform the show, unless a field asks for a key, and nothing of the key that opened it reaches
+// it; the window behind it has no keys at all.
 #pragma once
 
 #include <QKeyEvent>

@@ -28,6 +28,8 @@ TCKeyVerdict DecideOwner(const TCKeyPress& press) {
       return press.bound ? TCKeyVerdict::Widget : TCKeyVerdict::Untouched;
     case TCKeyFocus::Typing:
       return DecideWhileTyping(press);
+    case TCKeyFocus::Asking:
+      return TCKeyVerdict::Widget;
     case TCKeyFocus::Ordinary:
       break;
   }

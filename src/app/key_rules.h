@@ -11,6 +11,7 @@ namespace brevant {
 enum class TCKeyFocus {
   Ordinary,  // lists, buttons, read-only text: the key table rules
   Typing,    // text is being entered
+  Asking,    // a key is asked for, any key
   Menu,      // the menu bar is walked with the keys
 };
 

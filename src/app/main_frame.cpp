@@ -5,6 +5,7 @@
 #include <QStatusTipEvent>
 #include <algorithm>
 
+#include "app/customize_sheet.h"
 #include "app/picture_icon.h"
 #include "app/stage_palette.h"
 #include "resources/icons/icon_names.h"
@@ -89,10 +90,12 @@ void TCMainFrame::DressViews() {
 }
 
 void TCMainFrame::SaveLayout(QSettings& layout) const {
+  bars.Save(layout);
   view->SaveColumnWidths(layout);
 }
 
 void TCMainFrame::RestoreLayout(const QSettings& layout) {
+  bars.Restore(layout);
   view->LoadColumnWidths(layout);
 }
 
@@ -128,6 +131,7 @@ bool TCMainFrame::Handles(TCCommandId command) {
     case TCCommandId::PlayerPane:
     case TCCommandId::MessagePane:
     case TCCommandId::ToolbarVisible:
+    case TCCommandId::Customize:
     case TCCommandId::StatusBarVisible:
     case TCCommandId::Exit:
       return true;
@@ -141,6 +145,8 @@ bool TCMainFrame::OnCommand(TCCommandId command) {
     pane->setVisible(pane->isHidden());
   } else if (command == TCCommandId::ToolbarVisible) {
     bars.Toggle();
+  } else if (command == TCCommandId::Customize) {
+    TCCustomizeSheet::Open(bars, *this);
   } else if (command == TCCommandId::StatusBarVisible) {
     statusLine->setVisible(statusLine->isHidden());
   } else if (command == TCCommandId::Exit) {

@@ -46,7 +46,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   [[nodiscard]] TCBarSet& Bars() { return bars; }
   [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
 
-  // The frame's own commands: its panes and bars, the status bar and Exit.
+  // The frame's own commands: its panes and bars, the customise sheet, the status bar and Exit.
   [[nodiscard]] static bool Handles(TCCommandId command);
   bool OnCommand(TCCommandId command);
   // The pane or bar that the command stands for is open.

@@ -1,4 +1,5 @@
-// The command table's keys as the toolkit names them. Used by the actions and the key filter.
+// Keys as the toolkit names them, and back. Used by the actions, the key filter and the field that a key is
+// pressed into.
 #pragma once
 
 #include <QKeySequence>
@@ -10,5 +11,9 @@ namespace brevant {
 
 // Enter gives two sequences, the main key's and the keypad's; every other key one, no key none.
 [[nodiscard]] QList<QKeySequence> ToQtKeys(TCKey key);
+
+// The key of a press. None for what can be no command's: a modifier alone, Tab, which leads on to the next
+// field, and everything with the desktop's own modifier.
+[[nodiscard]] TCKey FromQtKey(int key, Qt::KeyboardModifiers modifiers);
 
 }  // namespace brevant

@@ -21,27 +21,18 @@ std::vector<std::u16string> WordsOf(std::u16string_view text) {
   return words;
 }
 
-std::vector<std::u16string> KeysOf(TCCommandId command) {
-  std::vector<std::u16string> keys;
-  for (const TCKeyBinding& binding : EffectiveBindings()) {
-    if (binding.command == command) keys.push_back(KeyName(binding.key));
-  }
-  return keys;
-}
-
 }  // namespace
 
-std::u16string ToolTipWithKeys(const TCCommand& command) {
+std::u16string ToolTipWithKeys(const TCCommand& command, std::span<const TCKey> keys) {
   std::u16string tip = ToolTip(command);
   const std::vector<std::u16string> words = WordsOf(ToLower(tip));
-  const std::vector<std::u16string> keys = KeysOf(command.id);
-  const bool named = std::ranges::all_of(keys, [&words](const std::u16string& key) {
-    return std::ranges::find(words, ToLower(key)) != words.end();
+  const bool named = std::ranges::all_of(keys, [&words](const TCKey& key) {
+    return std::ranges::find(words, ToLower(KeyName(key))) != words.end();
   });
   if (named) return tip;
 
   std::u16string list;
-  for (const std::u16string& key : keys) list += (list.empty() ? u"" : u", ") + key;
+  for (const TCKey& key : keys) list += (list.empty() ? u"" : u", ") + KeyName(key);
   return tip + u" (" + list + u")";
 }
 

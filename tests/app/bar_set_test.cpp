@@ -7,8 +7,10 @@
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 #include <algorithm>
 #include <optional>
 
@@ -247,6 +249,149 @@ TEST_F(BarSet, TheBarsMenuHasATickForEachBar) {
   EXPECT_FALSE(playBar->isVisible());
   EXPECT_FALSE(bars.BarMenu().actions().at(1)->isChecked());
   EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(BarSet, FollowsWhatTheUserMakesOfItAtOnce) {
+  FillForAll();
+  Show(1600, 900);
+  TCCustomisedBars wanted;
+  wanted.Insert(TCTextId::StandardToolbar, 1, CommandItem(TCCommandId::Stop));
+  wanted.Insert(TCTextId::StandardToolbar, 0, CommandItem(TCCommandId::RepeatEndField));
+  wanted.SetItems(TCTextId::CreateToolbar, {});
+  bars.Customise(wanted);
+  EXPECT_EQ(Items(TCTextId::StandardToolbar),
+            (std::vector{TCCommandId::RepeatEndField, TCCommandId::FileNew, TCCommandId::Stop,
+                         TCCommandId::FileOpen, TCCommandId::FileSave}));
+  EXPECT_TRUE(Items(TCTextId::CreateToolbar).empty());
+  const std::vector<TCCommandId> play = Items(TCTextId::PlayControlsToolbar);
+  EXPECT_EQ(std::ranges::count(play, TCCommandId::RepeatEndField), 0);
+  EXPECT_EQ(bars.Customised(), wanted);
+
+  bars.Customise({});
+  for (const TCCommandBar& plan : CommandBars()) {
+    if (plan.name == TCTextId::MainToolbar) continue;
+    EXPECT_EQ(Items(plan.name), (std::vector<TCCommandId>{plan.items.begin(), plan.items.end()}));
+  }
+  EXPECT_TRUE(playBar->FieldOf(TCCommandId::RepeatEndField).isVisible());
+}
+
+TEST_F(BarSet, MenusOnABarOpenFromAButton) {
+  FillForAll();
+  Show(1600, 900);
+  TCCustomisedBars wanted;
+  TCBarItem mine = NewMenuItem(u"Rock & Roll");
+  mine.entries = {TCCommandId::Play, TCCommandId::Stop};
+  wanted.Insert(TCTextId::StandardToolbar, 0, mine);
+  wanted.Insert(TCTextId::StandardToolbar, 0, MenuItem(TCMenuPlace::Play));
+  bars.Customise(wanted);
+  QToolBar* bar = bars.BarOf(TCTextId::StandardToolbar);
+  ASSERT_EQ(bar->actions().size(), 5);
+  const QMenu* builtIn = bar->actions().at(0)->menu();
+  ASSERT_NE(builtIn, nullptr);
+  EXPECT_TRUE(builtIn->actions().contains(actions->ActionOf(TCCommandId::NextSong)));
+  const auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(bar->actions().at(1)));
+  ASSERT_NE(button, nullptr);
+  EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
+  EXPECT_EQ(button->text(), QStringLiteral("Rock & Roll"));
+  EXPECT_EQ(bar->actions().at(1)->menu()->actions(),
+            (QList<QAction*>{actions->ActionOf(TCCommandId::Play), actions->ActionOf(TCCommandId::Stop)}));
+  bar->actions().at(1)->menu()->actions().at(1)->trigger();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(target.ran, std::vector{TCCommandId::Stop});
+  bars.Customise({});
+  EXPECT_EQ(window.menuBar()->actions().size(), 7) << "the menu bar always stays, and all of it";
+}
+
+TEST_F(BarSet, TheLookIsThatOfEveryButton) {
+  FillForAll();
+  Show(1600, 900);
+  TCCustomisedBars wanted;
+  wanted.look.iconSize = 48;
+  wanted.look.textsUnderIcons = true;
+  bars.Customise(wanted);
+  for (const QToolBar* bar : ToolBars()) {
+    EXPECT_EQ(bar->iconSize(), QSize(48, 48));
+    EXPECT_EQ(bar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+  }
+}
+
+TEST_F(BarSet, ToolTipsAreShownUnlessTheUserWantsNone) {
+  FillForAll();
+  Show(1600, 900);
+  QToolButton* button = ButtonOf(TCTextId::StandardToolbar, TCCommandId::FileNew);
+  const auto shows = [button] {
+    QToolTip::hideText();
+    QHelpEvent ask(QEvent::ToolTip, QPoint(4, 4), button->mapToGlobal(QPoint(4, 4)));
+    QCoreApplication::sendEvent(button, &ask);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(shows(), QStringLiteral("New (Ctrl+N)"));
+  TCCustomisedBars wanted;
+  wanted.look.keysInToolTips = false;
+  bars.Customise(wanted);
+  EXPECT_EQ(shows(), QStringLiteral("New"));
+  wanted.look.toolTips = false;
+  bars.Customise(wanted);
+  EXPECT_EQ(shows(), QString());
+}
+
+TEST_F(BarSet, ResetBringsBackPlacesButtonsLookAndKeys) {
+  FillForAll();
+  Show(1600, 900);
+  TCCustomisedBars wanted;
+  wanted.keys.Assign(TCKeyCode::P, TCCommandId::Stop);
+  wanted.look.iconSize = 16;
+  wanted.SetItems(TCTextId::CreateToolbar, {});
+  bars.Customise(wanted);
+  window.addToolBar(Qt::BottomToolBarArea, playBar);
+  bars.BarOf(TCTextId::OptionsToolbar)->hide();
+  bars.Reset();
+  EXPECT_EQ(bars.Customised(), TCCustomisedBars());
+  EXPECT_EQ(ShownBars(), 5);
+  EXPECT_EQ(window.toolBarArea(playBar), Qt::TopToolBarArea);
+  EXPECT_EQ(window.iconSize(), QSize(24, 24));
+  EXPECT_EQ(Items(TCTextId::CreateToolbar).size(), 8u);
+  EXPECT_EQ(actions->CommandOfKey(Qt::Key_P, {}).command, TCCommandId::Play);
+  QCoreApplication::processEvents();
+  EXPECT_LT(bars.BarOf(TCTextId::StandardToolbar)->x(), playBar->x());
+  EXPECT_LT(playBar->x(), bars.BarOf(TCTextId::CreateToolbar)->x());
+}
+
+TEST_F(BarSet, TellsWhereSomethingWouldGoThatIsLetGoOfOverABar) {
+  FillForAll();
+  Show(1600, 900);
+  const auto centreOf = [this](TCTextId bar, TCCommandId command, QPoint off) {
+    const QWidget* button = ButtonOf(bar, command);
+    return bars.PlaceAt(button->mapToGlobal(button->rect().center() + off));
+  };
+  auto place = centreOf(TCTextId::StandardToolbar, TCCommandId::FileOpen, QPoint(-4, 0));
+  ASSERT_TRUE(place.has_value());
+  EXPECT_EQ(place->bar, TCTextId::StandardToolbar);
+  EXPECT_EQ(place->index, 1u);
+  place = centreOf(TCTextId::StandardToolbar, TCCommandId::FileSave, QPoint(4, 0));
+  EXPECT_EQ(place->index, 3u) << "behind all";
+  place = centreOf(TCTextId::OptionsToolbar, TCCommandId::AutoRecycle, QPoint(0, 4));
+  EXPECT_EQ(place->bar, TCTextId::OptionsToolbar);
+  EXPECT_EQ(place->index, 4u) << "an upright bar, behind the separator";
+  EXPECT_FALSE(bars.PlaceAt(window.mapToGlobal(QPoint(800, 450))).has_value());
+  bars.BarOf(TCTextId::StandardToolbar)->hide();
+  EXPECT_FALSE(centreOf(TCTextId::StandardToolbar, TCCommandId::FileOpen, QPoint()).has_value());
+}
+
+TEST_F(BarSet, WhatTheUserMadeOfItIsKeptForTheNextStart) {
+  const QTemporaryDir folder;
+  QSettings layout(folder.filePath(QStringLiteral("Layout.ini")), QSettings::IniFormat);
+  TCCustomisedBars wanted;
+  wanted.keys.Assign(TCKeyCode::P, TCCommandId::Stop);
+  wanted.Insert(TCTextId::StandardToolbar, 0, CommandItem(TCCommandId::Stop));
+  bars.Customise(wanted);
+  bars.Save(layout);
+  bars.Customise({});
+  bars.Restore(layout);
+  EXPECT_EQ(bars.Customised(), wanted);
+  FillForAll();
+  EXPECT_EQ(Items(TCTextId::StandardToolbar).front(), TCCommandId::Stop);
+  EXPECT_EQ(actions->CommandOfKey(Qt::Key_P, {}).command, TCCommandId::Stop);
 }
 
 TEST_F(BarSet, ARightClickOnABarOrTheMenuBarOpensTheBarsMenu) {

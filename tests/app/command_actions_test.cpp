@@ -85,6 +85,37 @@ TEST_F(CommandActions, NoTwoActionsShareAKey) {
   EXPECT_FALSE(seen.isEmpty());
 }
 
+TEST_F(CommandActions, HaveTheKeysThatTheUserGaveThemAndNoOthers) {
+  target.handled = {TCCommandId::Play, TCCommandId::Stop};
+  TCCommandActions actions(target, window);
+  TCKeyAssignment keys;
+  keys.Assign(TCKeyCode::P, TCCommandId::Stop);
+  keys.Assign(TCKey(TCKeyCode::F12, TCKeyModifier::Ctrl | TCKeyModifier::Shift), TCCommandId::Stop);
+  actions.Follow(keys, TCCommandActions::TCTips::WithKeys);
+  EXPECT_EQ(actions.ActionOf(TCCommandId::Play)->shortcuts(), QList<QKeySequence>{QKeySequence(Qt::Key_F5)});
+  EXPECT_TRUE(actions.ActionOf(TCCommandId::Stop)->shortcuts().contains(QKeySequence(Qt::Key_P)));
+  EXPECT_EQ(actions.CommandOfKey(Qt::Key_P, Qt::NoModifier).command, TCCommandId::Stop);
+  EXPECT_EQ(actions.CommandOfKey(Qt::Key_F12, Qt::ControlModifier | Qt::ShiftModifier).command,
+            TCCommandId::Stop);
+  EXPECT_EQ(actions.ActionOf(TCCommandId::Stop)->toolTip(),
+            QStringLiteral("Stop S, F6, 6 (S, F6, P, Ctrl+Shift+F12)"));
+  EXPECT_EQ(actions.ActionOf(TCCommandId::Play)->text(), QStringLiteral("&Play\tENTER, P, F5, 5"))
+      << "the menu's hint is the table's";
+
+  actions.Follow(TCKeyAssignment(), TCCommandActions::TCTips::WithKeys);
+  EXPECT_EQ(actions.CommandOfKey(Qt::Key_P, Qt::NoModifier).command, TCCommandId::Play);
+  EXPECT_EQ(actions.CommandOfKey(Qt::Key_F12, Qt::ControlModifier | Qt::ShiftModifier).command,
+            TCCommandId::None);
+}
+
+TEST_F(CommandActions, ToolTipsCanDoWithoutKeys) {
+  target.handled = {TCCommandId::FileNew};
+  TCCommandActions actions(target, window);
+  actions.Follow(TCKeyAssignment(), TCCommandActions::TCTips::WithoutKeys);
+  EXPECT_EQ(actions.ActionOf(TCCommandId::FileNew)->toolTip(), QStringLiteral("New"));
+  EXPECT_EQ(actions.ActionOf(TCCommandId::FileNew)->shortcuts().size(), 1);
+}
+
 TEST_F(CommandActions, TellTheCommandOfAKey) {
   target.handled = {TCCommandId::Play, TCCommandId::NextSong};
   const TCCommandActions actions(target, window);

@@ -435,6 +435,7 @@ const std::array kEffects = {
              [](Program& p) { p.ExpectPane(Id::StatusBarVisible, p.Frame().StatusLine()); }},
     TCEffect{Id::ToolbarVisible,
              [](Program& p) { p.ExpectPane(Id::ToolbarVisible, p.Frame().PlayControls()); }},
+    TCEffect{Id::Customize, [](Program& p) { p.ExpectDialog(Id::Customize, QStringLiteral("Customize")); }},
     TCEffect{Id::FocusPlaylist,
              [](Program& p) {
                p.Frame().MessageDisplay().setFocus();

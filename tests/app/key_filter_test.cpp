@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "app/key_field.h"
+#include "app/qt_keys.h"
 #include "app/stage_style.h"
 #include "fake_target.h"
 
@@ -147,6 +149,34 @@ TEST_F(KeyFilter, WhileADialogIsTypedIntoTheFunctionAndMediaKeysPerform) {
   Focus(dialogButton);
   EXPECT_EQ(Type(dialogButton, Qt::Key_F5), Ran{TCCommandId::Play});
   EXPECT_EQ(Type(dialogButton, Qt::Key_VolumeUp), Ran{TCCommandId::MediaVolumeUp});
+}
+
+TEST_F(KeyFilter, WhereADialogAsksForAKeyNoKeyPerforms) {
+  QDialog dialog(&window);
+  auto* field = new TCKeyField(&dialog);
+  dialog.open();
+  Activate(dialog);
+  Focus(field);
+  for (const Qt::Key key : {Qt::Key_P, Qt::Key_F5, Qt::Key_VolumeUp, Qt::Key_Escape, Qt::Key_Return}) {
+    EXPECT_EQ(Type(field, key), Ran{});
+    EXPECT_EQ(field->Key(), FromQtKey(key, {}));
+  }
+  EXPECT_TRUE(dialog.isVisible()) << "Esc was asked for as well";
+}
+
+TEST_F(KeyFilter, FollowsTheKeysThatTheUserHasAssigned) {
+  TCKeyAssignment keys;
+  keys.Assign(TCKeyCode::PageDown, TCCommandId::NextSong);
+  keys.Assign(TCKeyCode::P, TCCommandId::PauseContinue);
+  keys.Remove(TCKeyCode::Space);
+  actions->Follow(keys, TCCommandActions::TCTips::WithKeys);
+  Focus(list);
+  EXPECT_EQ(Type(list, Qt::Key_PageDown), Ran{TCCommandId::NextSong});
+  EXPECT_EQ(Type(list, Qt::Key_P), Ran{TCCommandId::PauseContinue});
+  EXPECT_EQ(Type(list, Qt::Key_Space), Ran{});
+  EXPECT_EQ(Type(list, Qt::Key_F5), Ran{TCCommandId::Play}) << "its other key is still its own";
+  Focus(line);
+  EXPECT_EQ(Type(line, Qt::Key_P), Ran{}) << "a letter is typed, whosever it is";
 }
 
 TEST_F(KeyFilter, TheButtonsOfADialogKeepTheOtherKeys) {

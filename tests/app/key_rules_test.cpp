@@ -49,6 +49,7 @@ TCKeyPress Kept(TCKeyPress press) {
 TEST(KeyRules, SayWhoHasAKey) {
   constexpr TCKeyFocus kOrdinary = TCKeyFocus::Ordinary;
   constexpr TCKeyFocus kTyping = TCKeyFocus::Typing;
+  constexpr TCKeyFocus kAsking = TCKeyFocus::Asking;
   constexpr TCKeyFocus kMenu = TCKeyFocus::Menu;
   const TCCase cases[] = {
       {"a list's arrow", Bound(Qt::Key_Down, kOrdinary), TCKeyVerdict::Table},
@@ -77,6 +78,14 @@ TEST(KeyRules, SayWhoHasAKey) {
       {"the volume key", Bound(Qt::Key_VolumeUp, kTyping), TCKeyVerdict::Table},
       {"the play key", Unbound(Qt::Key_MediaPlay, kTyping), TCKeyVerdict::Table},
       {"a letter held while typing", Held(Bound(Qt::Key_P, kTyping), false), TCKeyVerdict::Widget},
+
+      {"a letter where a key is asked for", Bound(Qt::Key_P, kAsking), TCKeyVerdict::Widget},
+      {"an F-key where a key is asked for", Bound(Qt::Key_F5, kAsking), TCKeyVerdict::Widget},
+      {"the volume key where a key is asked for", Bound(Qt::Key_VolumeUp, kAsking), TCKeyVerdict::Widget},
+      {"a menu's letter where a key is asked for", Unbound(Qt::Key_F, kAsking, Qt::AltModifier),
+       TCKeyVerdict::Widget},
+      {"a key held into where a key is asked for", HeldFromElsewhere(Bound(Qt::Key_F5, kAsking)),
+       TCKeyVerdict::Swallow},
 
       {"an arrow in the menu bar", Bound(Qt::Key_Left, kMenu), TCKeyVerdict::Widget},
       {"Enter in the menu bar", Bound(Qt::Key_Return, kMenu), TCKeyVerdict::Widget},

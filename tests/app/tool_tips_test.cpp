@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "resources/key_assignment.h"
+
 namespace brevant {
 namespace {
 
 std::u16string TipOf(TCCommandId command) {
-  return ToolTipWithKeys(*CommandById(command));
+  return ToolTipWithKeys(*CommandById(command), TCKeyAssignment().KeysOf(command));
 }
 
 TEST(ToolTips, NameTheKeysThatAct) {

@@ -24,12 +24,47 @@ TEST(Key, IsNamedWithItsModifierInFront) {
   EXPECT_EQ(KeyName(Alt(TCKeyCode::Backspace)), u"Alt+Backspace");
 }
 
-TEST(Key, HasANameOfItsOwnForEveryCode) {
+TEST(Key, SeveralModifiersStandInOneOrder) {
+  const TCKey key(TCKeyCode::F12, TCKeyModifier::Shift | TCKeyModifier::Alt | TCKeyModifier::Ctrl);
+  EXPECT_EQ(KeyName(key), u"Ctrl+Alt+Shift+F12");
+  EXPECT_EQ(KeyOfName(u"Ctrl+Alt+Shift+F12"), key);
+}
+
+TEST(Key, HasANameOfItsOwnThatIsReadBack) {
+  std::vector<TCKeyCode> codes;
+  for (char16_t character = 0; character < 0xFFFF; ++character) {
+    const TCKeyCode code = CharacterKey(character);
+    if (code != TCKeyCode::None && static_cast<char16_t>(code) == character) codes.push_back(code);
+  }
+  for (auto code = TCKeyCode::F1; code <= TCKeyCode::MediaPlayPause;
+       code = static_cast<TCKeyCode>(static_cast<std::uint32_t>(code) + 1)) {
+    codes.push_back(code);
+  }
   std::set<std::u16string> names;
-  for (int code = 1; code <= static_cast<int>(TCKeyCode::VolumeDown); ++code) {
-    const std::u16string name = KeyName(static_cast<TCKeyCode>(code));
-    EXPECT_FALSE(name.empty()) << code;
-    EXPECT_TRUE(names.insert(name).second) << code;
+  for (const TCKeyCode code : codes) {
+    for (const TCKey& key : {TCKey(code), Ctrl(code)}) {
+      const std::u16string name = KeyName(key);
+      ASSERT_FALSE(name.empty());
+      ASSERT_TRUE(names.insert(name).second) << static_cast<std::uint32_t>(code);
+      ASSERT_EQ(KeyOfName(name), key) << static_cast<std::uint32_t>(code);
+    }
+  }
+  EXPECT_GT(codes.size(), 60000u);
+}
+
+TEST(Key, OfACharacterIsItsLetterInUpperCase) {
+  EXPECT_EQ(CharacterKey(u'm'), TCKeyCode::M);
+  EXPECT_EQ(KeyName(CharacterKey(u'\x00D6')), u"\x00D6");
+  EXPECT_EQ(KeyName(Ctrl(CharacterKey(u'+'))), u"Ctrl++");
+  for (const char16_t none : {u'\0', u' ', u'\t', u'\x007F', u'\x00A0', u'\xD800', u'\xDFFF'}) {
+    EXPECT_EQ(CharacterKey(none), TCKeyCode::None);
+  }
+}
+
+TEST(Key, OfANameThatIsNoneIsNone) {
+  for (const std::u16string_view name : {u"", u"Ctrl+", u"Ctrl", u"Shift+Ctrl+A", u"Ctrl+Ctrl+A", u"F0",
+                                         u"F25", u"f5", u"Tab", u"Meta+A", u" ", u"AB", u"none"}) {
+    EXPECT_FALSE(KeyOfName(name).has_value()) << std::string(name.begin(), name.end());
   }
 }
 

@@ -1,0 +1,65 @@
+#include "app/customize_sheet.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "app/keyboard_page.h"
+
+namespace brevant {
+namespace {
+
+constexpr QSize kSize(620, 560);
+
+}  // namespace
+
+TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
+    : QDialog(parent), bars(barSet), pages(new QTabWidget(this)), keyboard(new TCKeyboardPage(barSet)) {
+  setObjectName(QStringLiteral("Customize"));
+  setWindowTitle(QStringLiteral("Customize"));
+  setSizeGripEnabled(true);
+  pages->setObjectName(QStringLiteral("Pages"));
+  pages->addTab(keyboard, QStringLiteral("Ke&yboard"));
+
+  auto* reset = new QPushButton(QStringLiteral("Reset"), this);
+  reset->setObjectName(QStringLiteral("Reset"));
+  reset->setToolTip(QStringLiteral("Bring the delivered bars and keys back"));
+  connect(reset, &QPushButton::clicked, this, &TCCustomizeSheet::Reset);
+  auto* close = new QPushButton(QStringLiteral("Close"), this);
+  close->setObjectName(QStringLiteral("Close"));
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+
+  auto* lastRow = new QHBoxLayout;
+  lastRow->addWidget(reset);
+  lastRow->addStretch(1);
+  lastRow->addWidget(close);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(pages, 1);
+  layout->addLayout(lastRow);
+  resize(kSize.expandedTo(minimumSizeHint()));
+}
+
+void TCCustomizeSheet::Open(TCBarSet& bars, QWidget& parent) {
+  for (const QObject* child : parent.children()) {
+    if (qobject_cast<const TCCustomizeSheet*>(child) != nullptr) return;
+  }
+  auto* sheet = new TCCustomizeSheet(bars, &parent);
+  sheet->setAttribute(Qt::WA_DeleteOnClose);
+  sheet->open();
+}
+
+void TCCustomizeSheet::keyPressEvent(QKeyEvent* event) {
+  // Enter in a list or while searching would press a button that the user does not look at.
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && qobject_cast<const QPushButton*>(focusWidget()) == nullptr) return;
+  QDialog::keyPressEvent(event);
+}
+
+void TCCustomizeSheet::Reset() {
+  bars.Reset();
+  keyboard->ShowKeys();
+}
+
+}  // namespace brevant
