@@ -52,6 +52,10 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   // The pane or bar that the command stands for is open; the option is on.
   [[nodiscard]] bool IsChecked(TCCommandId command) const;
 
+  // Closes the panes, or brings them back; the option is the caller's.
+  void EnterLiveView() { panes->EnterLiveView(); }
+  void LeaveLiveView() { panes->LeaveLiveView(); }
+
   // What the user arranged by hand, for the next start.
   void SaveLayout(QSettings& layout) const;
   void RestoreLayout(const QSettings& layout);
