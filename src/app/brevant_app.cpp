@@ -63,7 +63,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
   if (RestoresWindow(record.settings)) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
-  frame.PlayControls().Fill(actions);
+  frame.Bars().Fill(actions);
   ConnectParts();
   document.OnNewDocument();
 }

@@ -1,7 +1,6 @@
 #include "app/main_frame.h"
 
 #include <QApplication>
-#include <QMenuBar>
 #include <QScreen>
 #include <QStatusTipEvent>
 #include <algorithm>
@@ -37,11 +36,10 @@ TCMainFrame::TCMainFrame(TCSettings& programSettings, TCPlayer& player, const TC
       playerPane(new TCWMPPaneContainer(&player, &monitor, panes)),
       messageDisplay(new TCGeneralReportsTab(panes)),
       playControls(new TCPlayControlsBar(this)),
+      bars(*this, *playControls),
       statusLine(new TCStatusLine(this)) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
-  menuBar()->setAccessibleName(ToQString(TextOf(TCTextId::MainToolbar)));
-  addToolBar(Qt::TopToolBarArea, playControls);
   setStatusBar(statusLine);
   setCentralWidget(panes);
   PlaceOnScreen();
@@ -70,6 +68,7 @@ void TCMainFrame::ConnectViews() {
   connect(panes, &TCPaneSet::panesChanged, this, &TCMainFrame::marksChanged);
   connect(panes, &TCPaneSet::keyboardFreed, view, [this] { view->TakeFocus(); });
   connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
+  connect(&bars, &TCBarSet::shownBarsChanged, this, &TCMainFrame::marksChanged);
   // The mouse stays with the playlist while songs are dragged out of it; the tree shows where they would go.
   connect(view, &TCBrevantView::ctrlDragMoved, tree, &TCPlayListManagerTreeView::FollowCtrlDrag);
   connect(view, &TCBrevantView::ctrlDragEnded, tree, &TCPlayListManagerTreeView::EndCtrlDrag);
@@ -104,7 +103,8 @@ void TCMainFrame::PlaceOnScreen() {
 
 bool TCMainFrame::Handles(TCCommandId command) {
   return TCPaneSet::IsPane(command) || command == TCCommandId::LiveViewMode ||
-         command == TCCommandId::StatusBarVisible || command == TCCommandId::Exit;
+         command == TCCommandId::ToolbarVisible || command == TCCommandId::StatusBarVisible ||
+         command == TCCommandId::Exit;
 }
 
 bool TCMainFrame::OnCommand(TCCommandId command) {
@@ -112,6 +112,8 @@ bool TCMainFrame::OnCommand(TCCommandId command) {
     panes->Toggle(command);
   } else if (command == TCCommandId::LiveViewMode) {
     ToggleLiveView();
+  } else if (command == TCCommandId::ToolbarVisible) {
+    bars.Toggle();
   } else if (command == TCCommandId::StatusBarVisible) {
     statusLine->setVisible(statusLine->isHidden());
   } else if (command == TCCommandId::Exit) {
@@ -125,6 +127,7 @@ bool TCMainFrame::OnCommand(TCCommandId command) {
 bool TCMainFrame::IsChecked(TCCommandId command) const {
   if (TCPaneSet::IsPane(command)) return panes->IsOpen(command);
   if (command == TCCommandId::LiveViewMode) return settings.liveViewMode;
+  if (command == TCCommandId::ToolbarVisible) return bars.AnyShown();
   return command == TCCommandId::StatusBarVisible && !statusLine->isHidden();
 }
 

@@ -1,5 +1,5 @@
 // The main window: the playlist in the middle, the playlist manager in a pane beside it, properties, player
-// and message display in panes below, the menu bar, the play controls and the status bar around them. It
+// and message display in panes below, the menu bar, the tool bars and the status bar around them. It
 // shows and decides nothing about songs; commands come and go through TCCommandRouter. User-interface thread
 // only.
 #pragma once
@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "app/bar_set.h"
 #include "app/general_reports_tab.h"
 #include "app/pane_set.h"
 #include "app/play_controls_bar.h"
@@ -42,11 +43,11 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }
   [[nodiscard]] TCPropertiesPane& Properties() { return *properties; }
   [[nodiscard]] TCPlayControlsBar& PlayControls() { return *playControls; }
+  [[nodiscard]] TCBarSet& Bars() { return bars; }
   [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
-
   [[nodiscard]] TCPaneSet& Panes() { return *panes; }
 
-  // The frame's own commands: its panes, live view, the status bar and Exit.
+  // The frame's own commands: its panes and bars, live view, the status bar and Exit.
   [[nodiscard]] static bool Handles(TCCommandId command);
   bool OnCommand(TCCommandId command);
   // The pane or bar that the command stands for is open; the option is on.
@@ -105,6 +106,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   TCWMPPaneContainer* playerPane = nullptr;
   TCGeneralReportsTab* messageDisplay = nullptr;
   TCPlayControlsBar* playControls = nullptr;
+  TCBarSet bars;
   TCStatusLine* statusLine = nullptr;
 };
 
