@@ -7,10 +7,15 @@
 #include <utility>
 
 #include "app/customised_bars_store.h"
+#include "app/kept_state.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
 namespace {
+
+QString StateName() {
+  return QStringLiteral("CommandBars");
+}
 
 Qt::ToolBarArea AreaOf(const TCCommandBar& plan) {
   return plan.dock == TCBarDock::RightEdge ? Qt::RightToolBarArea : Qt::TopToolBarArea;
@@ -53,15 +58,25 @@ void TCBarSet::OpenMenuOn(QWidget& widget) {
 
 void TCBarSet::Fill(TCCommandActions& commandActions) {
   actions = &commandActions;
-  Customise(customised);
-  if (!rowsAreTheUsers) FitRows();
+  ShowCustomised();
+  if (!placesRestored) FitRows();
 }
 
 void TCBarSet::Customise(TCCustomisedBars wanted) {
+  const bool sizesChange = wanted.look.iconSize != customised.look.iconSize ||
+                           wanted.look.textsUnderIcons != customised.look.textsUnderIcons;
   customised = std::move(wanted);
   if (actions == nullptr) return;
+  ShowCustomised();
+  if (sizesChange) FitRows();
+}
+
+void TCBarSet::ShowCustomised() {
   using Tips = TCCommandActions::TCTips;
   actions->Follow(customised.keys, customised.look.keysInToolTips ? Tips::WithKeys : Tips::WithoutKeys);
+  window.setIconSize({customised.look.iconSize, customised.look.iconSize});
+  window.setToolButtonStyle(customised.look.textsUnderIcons ? Qt::ToolButtonTextUnderIcon
+                                                            : Qt::ToolButtonIconOnly);
   // First all that goes and then what comes: a time field can be on one bar only.
   std::vector<TCBar*> changed;
   for (TCBar& bar : bars) {
@@ -70,7 +85,6 @@ void TCBarSet::Customise(TCCustomisedBars wanted) {
     changed.push_back(&bar);
   }
   for (TCBar* bar : changed) ShowItems(*bar, customised.ItemsOf(bar->plan->name));
-  ShowLook();
 }
 
 void TCBarSet::ShowItems(TCBar& made, TCBarItems items) {
@@ -126,17 +140,6 @@ QAction* TCBarSet::ActionOf(const TCBarItem& item, TCBar& made) {
   return title;
 }
 
-void TCBarSet::ShowLook() {
-  const TCBarLook& look = customised.look;
-  const QSize size(look.iconSize, look.iconSize);
-  const Qt::ToolButtonStyle style =
-      look.textsUnderIcons ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly;
-  if (window.iconSize() == size && window.toolButtonStyle() == style) return;
-  window.setIconSize(size);
-  window.setToolButtonStyle(style);
-  FitRows();
-}
-
 bool TCBarSet::eventFilter(QObject* /*receiver*/, QEvent* event) {
   return event->type() == QEvent::ToolTip && !customised.look.toolTips;
 }
@@ -152,11 +155,13 @@ void TCBarSet::Reset() {
 }
 
 void TCBarSet::Save(QSettings& layout) const {
+  KeepState(layout, StateName(), window.saveState());
   SaveCustomisedBars(customised, layout);
 }
 
 void TCBarSet::Restore(const QSettings& layout) {
   Customise(LoadCustomisedBars(layout));
+  placesRestored = window.restoreState(KeptState(layout, StateName()));
 }
 
 std::optional<TCBarSet::TCPlace> TCBarSet::PlaceAt(QPoint globalPosition) const {

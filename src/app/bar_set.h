@@ -40,7 +40,7 @@ class TCBarSet final : public QObject {
   // Once filled.
   [[nodiscard]] const TCCommandActions& Actions() const { return *actions; }
 
-  // What the user made of the bars, for the next start.
+  // What the user made of the bars, and where they are, for the next start. Restored before they are filled.
   void Save(QSettings& layout) const;
   void Restore(const QSettings& layout);
 
@@ -84,7 +84,7 @@ class TCBarSet final : public QObject {
   void Dock(const TCBar& bar);
   void ShowItems(TCBar& bar, TCBarItems items);
   [[nodiscard]] QAction* ActionOf(const TCBarItem& item, TCBar& bar);
-  void ShowLook();
+  void ShowCustomised();
   void OpenMenuOn(QWidget& widget);
 
   QMainWindow& window;
@@ -94,7 +94,7 @@ class TCBarSet final : public QObject {
   std::vector<TCBar> bars;
   std::vector<QToolBar*> hiddenTogether;  // by Toggle
   QMenu* barMenu = nullptr;
-  bool rowsAreTheUsers = false;  // restored; not to be laid out anew
+  bool placesRestored = false;  // they are the user's; the rows are not to be laid out anew
 };
 
 }  // namespace brevant

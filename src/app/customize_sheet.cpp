@@ -6,7 +6,9 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "app/commands_page.h"
 #include "app/keyboard_page.h"
+#include "app/options_page.h"
 
 namespace brevant {
 namespace {
@@ -16,12 +18,19 @@ constexpr QSize kSize(620, 560);
 }  // namespace
 
 TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
-    : QDialog(parent), bars(barSet), pages(new QTabWidget(this)), keyboard(new TCKeyboardPage(barSet)) {
+    : QDialog(parent),
+      bars(barSet),
+      pages(new QTabWidget(this)),
+      keyboard(new TCKeyboardPage(barSet)),
+      options(new TCOptionsPage(barSet)),
+      commands(new TCCommandsPage(barSet)) {
   setObjectName(QStringLiteral("Customize"));
   setWindowTitle(QStringLiteral("Customize"));
   setSizeGripEnabled(true);
   pages->setObjectName(QStringLiteral("Pages"));
-  pages->addTab(keyboard, QStringLiteral("Ke&yboard"));
+  pages->addTab(keyboard, QStringLiteral("Keyboard"));
+  pages->addTab(options, QStringLiteral("Options"));
+  pages->addTab(commands, QStringLiteral("Commands"));
 
   auto* reset = new QPushButton(QStringLiteral("Reset"), this);
   reset->setObjectName(QStringLiteral("Reset"));
@@ -60,6 +69,8 @@ void TCCustomizeSheet::keyPressEvent(QKeyEvent* event) {
 void TCCustomizeSheet::Reset() {
   bars.Reset();
   keyboard->ShowKeys();
+  options->ShowLook();
+  commands->ShowBars();
 }
 
 }  // namespace brevant

@@ -10,7 +10,9 @@ class QTabWidget;
 
 namespace brevant {
 
+class TCCommandsPage;
 class TCKeyboardPage;
+class TCOptionsPage;
 
 class TCCustomizeSheet final : public QDialog {
   Q_OBJECT
@@ -32,6 +34,8 @@ class TCCustomizeSheet final : public QDialog {
   TCBarSet& bars;
   QTabWidget* pages;
   TCKeyboardPage* keyboard;
+  TCOptionsPage* options;
+  TCCommandsPage* commands;
 };
 
 }  // namespace brevant

@@ -99,7 +99,7 @@ TEST_F(CustomisedBarsStore, AValueThatMakesNoSenseIsAsDelivered) {
            "[CommandBars]\nBars\\Another=32772\n",
            "[CommandBars]\nIconSize=1000\nToolTips=perhaps\nTextsUnderIcons=7\nKeysInToolTips=\n",
            "[CommandBars]\nIconSize=-1\n",
-           "[CommandBars\nKeys\\32772=Q\n\xFF\xFE\x01",
+           "\xFF\xFE\x01[CommandBars]Keys\\32772=Q\n",
            "CommandBars=32772\n",
        }) {
     EXPECT_EQ(LoadText(text), TCCustomisedBars()) << text;

@@ -1,85 +1,19 @@
 #include "app/customize_sheet.h"
 
-#include <gtest/gtest.h>
-
+#include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 #include <QTreeWidget>
-#include <algorithm>
-#include <optional>
 
-#include "app/command_menus.h"
-#include "app/key_field.h"
-#include "app/key_filter.h"
-#include "fake_target.h"
-#include "resources/command_table.h"
-#include "views/text_conversion.h"
+#include "open_customize_sheet.h"
+#include "whole_program.h"
 
 namespace brevant {
 namespace {
 
 using Id = TCCommandId;
 
-// The sheet over a window with bars, keys and a filter, driven as a user does.
-class CustomizeSheet : public testing::Test {
- protected:
-  void SetUp() override {
-    for (const TCCommand& command : Commands()) target.handled.insert(command.id);
-    target.handled.erase(Id::HelpTopics);
-    actions.emplace(target, window);
-    filter.emplace(*actions, window);
-    FillMenuBar(*window.menuBar(), *actions);
-    bars.Fill(*actions);
-    window.setCentralWidget(new QWidget(&window));
-    window.resize(1600, 900);
-    window.show();
-    TCCustomizeSheet::Open(bars, window);
-    sheet = window.findChild<TCCustomizeSheet*>();
-    ASSERT_NE(sheet, nullptr);
-    sheet->activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == sheet; }));
-  }
-
-  template <typename Widget>
-  [[nodiscard]] Widget& Find(const char* name) const {
-    auto* found = sheet->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
-
-  [[nodiscard]] QTreeWidget& KeyCommands() const { return Find<QTreeWidget>("KeyCommands"); }
-  // By its name, in what is listed now.
-  void Choose(const QString& name) {
-    const QList<QTreeWidgetItem*> found = KeyCommands().findItems(name, Qt::MatchExactly);
-    ASSERT_EQ(found.size(), 1) << name.toStdString();
-    KeyCommands().setCurrentItem(found.first());
-  }
-  [[nodiscard]] QString KeysShownFor(const QString& name) const {
-    const QList<QTreeWidgetItem*> found = KeyCommands().findItems(name, Qt::MatchExactly);
-    return found.size() == 1 ? found.first()->text(1) : QStringLiteral("(not listed)");
-  }
-  void PressInField(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    auto& field = Find<TCKeyField>("NewKey");
-    field.setFocus();
-    QTest::keyClick(&field, key, modifiers);
-    QCoreApplication::sendPostedEvents();
-  }
-  [[nodiscard]] QString Use() const { return Find<QLabel>("KeyUse").text(); }
-  [[nodiscard]] Id CommandOf(Qt::Key key) const { return actions->CommandOfKey(key, {}).command; }
-
-  TCFakeTarget target;
-  QMainWindow window;
-  std::optional<TCCommandActions> actions;
-  std::optional<TCKeyFilter> filter;
-  TCPlayControlsBar* playBar = new TCPlayControlsBar(&window);
-  TCBarSet bars{window, *playBar};
-  TCCustomizeSheet* sheet = nullptr;
-};
+class CustomizeSheet : public TCOpenSheet {};
 
 TEST_F(CustomizeSheet, OpensOnceAndModal) {
   TCCustomizeSheet::Open(bars, window);
@@ -91,146 +25,113 @@ TEST_F(CustomizeSheet, OpensOnceAndModal) {
   EXPECT_EQ(window.findChild<TCCustomizeSheet*>(), nullptr);
 }
 
-TEST_F(CustomizeSheet, ListsTheCommandsByMainMenuAndAllOfThem) {
-  auto& category = Find<QComboBox>("KeyCategory");
+TEST_F(CustomizeSheet, HasThreePages) {
+  const auto& pages = Find<QTabWidget>("Pages");
   QStringList names;
-  for (int i = 0; i < category.count(); ++i) names.append(category.itemText(i));
-  EXPECT_EQ(names.join(u'|').toStdString(), "File|Edit|Play|Commands|Options|View|Help|All Commands");
-  for (int i = 0; i < category.count() - 1; ++i) {
-    category.setCurrentIndex(i);
-    std::size_t expected = 0;
-    for (const TCCommand* command : CommandsInMenu(MainMenus()[static_cast<std::size_t>(i)]))
-      expected += target.handled.count(command->id);
-    if (category.itemText(i) == QStringLiteral("View")) expected += 2;  // those of the menu inside it
-    EXPECT_EQ(KeyCommands().topLevelItemCount(), static_cast<int>(expected))
-        << category.itemText(i).toStdString();
-  }
-  category.setCurrentIndex(category.count() - 1);
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Load the song into the player")), QStringLiteral("Enter"));
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Play")), QStringLiteral("P, F5"));
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Increase Volume (volume key)")), QStringLiteral("Volume Up"));
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Cut")), QStringLiteral("(not listed)")) << "it does nothing";
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Help Topics")), QStringLiteral("(not listed)")) << "nobody does it";
-  EXPECT_EQ(KeysShownFor(QString()), QStringLiteral("(not listed)"));
+  for (int i = 0; i < pages.count(); ++i) names.append(pages.tabText(i));
+  EXPECT_EQ(names.join(u'|').toStdString(), "Keyboard|Options|Commands");
 }
 
-TEST_F(CustomizeSheet, FindsCommandsByTheirNameOrKey) {
-  auto& search = Find<QLineEdit>("KeySearch");
-  QTest::keyClicks(&search, QStringLiteral("VOLUME"));
-  EXPECT_EQ(KeyCommands().topLevelItemCount(), 5);  // up and down, both volume keys, the step
-  search.clear();
-  QTest::keyClicks(&search, QStringLiteral("ctrl+k"));
-  ASSERT_EQ(KeyCommands().topLevelItemCount(), 1);
-  EXPECT_EQ(KeyCommands().topLevelItem(0)->text(0), QStringLiteral("Auto Song Advance"));
-  QTest::keyClicks(&search, QStringLiteral("nothing like it"));
-  EXPECT_EQ(KeyCommands().topLevelItemCount(), 0);
-  EXPECT_FALSE(Find<TCKeyField>("NewKey").isEnabled());
-  EXPECT_FALSE(Find<QPushButton>("RemoveKey").isEnabled());
-  EXPECT_FALSE(Find<QPushButton>("AssignKey").isEnabled());
-}
-
-TEST_F(CustomizeSheet, AssignsAFreeKeyThatActsAtOnce) {
-  Choose(QStringLiteral("Next Song"));
-  EXPECT_FALSE(Find<QPushButton>("AssignKey").isEnabled());
-  PressInField(Qt::Key_PageDown);
-  EXPECT_EQ(Use(), QStringLiteral("Is free."));
-  Click("AssignKey");
-  EXPECT_EQ(CommandOf(Qt::Key_PageDown), Id::NextSong);
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Next Song")), QStringLiteral("Down, D, Page Down"));
-  EXPECT_EQ(Find<QListWidget>("CommandKeys").count(), 3);
-  EXPECT_EQ(Find<TCKeyField>("NewKey").text(), QString()) << "ready for the next";
-}
-
-TEST_F(CustomizeSheet, SaysWhoWouldLoseAKeyAndTakesItAway) {
-  Choose(QStringLiteral("Stop"));
-  PressInField(Qt::Key_F5);
-  EXPECT_TRUE(target.ran.empty()) << "the key was asked for";
-  EXPECT_EQ(Use(), QStringLiteral("Is used by Play, which loses it."));
-  EXPECT_EQ(CommandOf(Qt::Key_F5), Id::Play) << "nothing yet";
-  Click("AssignKey");
-  EXPECT_EQ(CommandOf(Qt::Key_F5), Id::Stop);
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Play")), QStringLiteral("P"));
-}
-
-TEST_F(CustomizeSheet, RefusesAKeyThatOpensAMenuAndOneThatIsThereAlready) {
-  Choose(QStringLiteral("Stop"));
-  PressInField(Qt::Key_V, Qt::AltModifier);
-  EXPECT_EQ(Use(), QStringLiteral("Opens the menu View and stays with it."));
-  EXPECT_FALSE(Find<QPushButton>("AssignKey").isEnabled());
-  PressInField(Qt::Key_S);
-  EXPECT_EQ(Use(), QStringLiteral("The command has this key already."));
-  EXPECT_FALSE(Find<QPushButton>("AssignKey").isEnabled());
-}
-
-TEST_F(CustomizeSheet, AKeyThatSomebodyHasForNothingCountsAsFree) {
-  Choose(QStringLiteral("Stop"));
-  PressInField(Qt::Key_F4);
-  EXPECT_EQ(Use(), QStringLiteral("Is free."));
-  Click("AssignKey");
-  EXPECT_EQ(CommandOf(Qt::Key_F4), Id::Stop);
-}
-
-TEST_F(CustomizeSheet, RemovesTheChosenKey) {
-  Choose(QStringLiteral("Play"));
-  auto& keys = Find<QListWidget>("CommandKeys");
-  ASSERT_EQ(keys.count(), 2);
-  keys.setCurrentRow(1);
-  Click("RemoveKey");
-  EXPECT_EQ(CommandOf(Qt::Key_F5), Id::None);
-  EXPECT_EQ(CommandOf(Qt::Key_P), Id::Play);
-  Click("RemoveKey");
-  EXPECT_EQ(CommandOf(Qt::Key_P), Id::None);
-  EXPECT_FALSE(Find<QPushButton>("RemoveKey").isEnabled());
-}
-
-TEST_F(CustomizeSheet, DefaultKeysBringsTheKeysBackAndLeavesTheBars) {
+TEST_F(CustomizeSheet, ResetBringsEverythingBackOnAllPages) {
   TCCustomisedBars wanted;
-  wanted.SetItems(TCTextId::CreateToolbar, {});
-  bars.Customise(wanted);
-  Choose(QStringLiteral("Stop"));
-  PressInField(Qt::Key_P);
-  Click("AssignKey");
-  Click("DefaultKeys");
-  EXPECT_EQ(CommandOf(Qt::Key_P), Id::Play);
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Stop")), QStringLiteral("S, F6"));
-  EXPECT_EQ(bars.Customised(), wanted);
-}
-
-TEST_F(CustomizeSheet, ResetBringsEverythingBack) {
-  Choose(QStringLiteral("Stop"));
-  PressInField(Qt::Key_P);
-  Click("AssignKey");
-  TCCustomisedBars wanted = bars.Customised();
-  wanted.SetItems(TCTextId::CreateToolbar, {});
-  wanted.look.iconSize = 16;
+  wanted.keys.Assign(TCKeyCode::P, Id::Stop);
+  wanted.SetItems(TCTextId::StandardToolbar, {});
+  wanted.look = {.iconSize = 16, .textsUnderIcons = true, .toolTips = false, .keysInToolTips = false};
   bars.Customise(wanted);
   Click("Reset");
   EXPECT_EQ(bars.Customised(), TCCustomisedBars());
-  EXPECT_EQ(KeysShownFor(QStringLiteral("Stop")), QStringLiteral("S, F6"));
+  EXPECT_EQ(Find<QComboBox>("IconSize").currentData().toInt(), 24);
+  EXPECT_TRUE(Find<QCheckBox>("ToolTips").isChecked());
+  EXPECT_FALSE(Find<QCheckBox>("TextsUnderIcons").isChecked());
+  EXPECT_EQ(Find<QListWidget>("BarItems").count(), 3);
+  const auto stop = Find<QTreeWidget>("KeyCommands").findItems(QStringLiteral("Stop"), Qt::MatchExactly);
+  ASSERT_EQ(stop.size(), 1);
+  EXPECT_EQ(stop.first()->text(1), QStringLiteral("S, F6"));
 }
 
-TEST_F(CustomizeSheet, IsDrivenWithoutTheMouse) {
-  auto& search = Find<QLineEdit>("KeySearch");
-  search.setFocus();
-  QTest::keyClicks(&search, QStringLiteral("next song"));
-  QTest::keyClick(&search, Qt::Key_Return);
-  EXPECT_TRUE(sheet->isVisible()) << "Enter presses no button from afar";
-  EXPECT_TRUE(bars.Customised() == TCCustomisedBars());
-  Find<TCKeyField>("NewKey").setFocus();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-  ASSERT_EQ(QApplication::focusWidget(), &Find<QPushButton>("AssignKey"));
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(CommandOf(Qt::Key_PageDown), Id::NextSong);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-  EXPECT_FALSE(sheet->isVisible());
+TEST_F(CustomizeSheet, TheOptionsAreTheBarsAtOnce) {
+  ShowPage(1);
+  auto& size = Find<QComboBox>("IconSize");
+  QStringList names;
+  for (int i = 0; i < size.count(); ++i) names.append(size.itemText(i));
+  EXPECT_EQ(names.join(u'|').toStdString(), "Small|Normal|Large|Very large");
+  size.setCurrentIndex(3);
+  EXPECT_EQ(window.iconSize(), QSize(48, 48));
+  for (const auto& [box, option] : {std::pair("TextsUnderIcons", &TCBarLook::textsUnderIcons),
+                                    std::pair("KeysInToolTips", &TCBarLook::keysInToolTips),
+                                    std::pair("ToolTips", &TCBarLook::toolTips)}) {
+    const bool before = bars.Customised().look.*option;
+    EXPECT_EQ(Find<QCheckBox>(box).isChecked(), before) << box;
+    Find<QCheckBox>(box).click();
+    EXPECT_EQ(bars.Customised().look.*option, !before) << box;
+  }
+  EXPECT_EQ(window.toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+  EXPECT_FALSE(Find<QCheckBox>("KeysInToolTips").isEnabled()) << "there are no tool tips for them";
 }
 
-TEST_F(CustomizeSheet, TheFunctionKeysPerformWhileNoKeyIsAskedFor) {
-  Find<QLineEdit>("KeySearch").setFocus();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+class CustomizedProgram : public TCWholeProgram {};
+
+TEST_F(CustomizedProgram, KeysBarsAndPlacesComeBackAtTheNextStart) {
+  Start();
+  TCCustomisedBars wanted;
+  wanted.keys.Assign(TCKeyCode::PageDown, Id::VolumeDown);
+  wanted.Insert(TCTextId::StandardToolbar, 0, CommandItem(Id::Stop));
+  wanted.look.iconSize = 32;
+  Frame().Bars().Customise(wanted);
+  Frame().addToolBar(Qt::BottomToolBarArea, &Frame().PlayControls());
+  Frame().insertToolBarBreak(Frame().Bars().BarOf(TCTextId::CommandsToolbar));
+  Frame().Bars().BarOf(TCTextId::CreateToolbar)->hide();
+  Frame().close();
+  app.reset();
+
+  Start();
+  EXPECT_EQ(Frame().Bars().Customised(), wanted);
+  EXPECT_EQ(Frame().toolBarArea(&Frame().PlayControls()), Qt::BottomToolBarArea);
+  EXPECT_TRUE(Frame().toolBarBreak(Frame().Bars().BarOf(TCTextId::CommandsToolbar)));
+  EXPECT_TRUE(Frame().Bars().BarOf(TCTextId::CreateToolbar)->isHidden());
+  EXPECT_EQ(Frame().Bars().BarOf(TCTextId::StandardToolbar)->actions().first(),
+            app->Actions().ActionOf(Id::Stop));
+  EXPECT_EQ(Frame().PlayControls().iconSize(), QSize(32, 32));
+  player.ForgetCalls();
+  Press(Qt::Key_PageDown);
+  EXPECT_EQ(player.Calls(), std::vector<std::string>{"SetVolume 95"});
+}
+
+TEST_F(CustomizedProgram, WithoutLoadLastWindowStateAllIsAsDelivered) {
+  Start();
+  Settings().loadLastWindowState = false;
+  TCCustomisedBars wanted;
+  wanted.keys.Assign(TCKeyCode::PageDown, Id::VolumeDown);
+  Frame().Bars().Customise(wanted);
+  Frame().close();
+  app.reset();
+  Start();
+  EXPECT_EQ(Frame().Bars().Customised(), TCCustomisedBars());
+}
+
+TEST_F(CustomizedProgram, TheSheetIsReachedFromTheMenuWhateverKeysAreAssigned) {
+  Start();
+  TCCustomisedBars wanted;
+  for (const TCCommand& command : Commands()) {
+    for (const TCKey& key : TCKeyAssignment().KeysOf(command.id)) wanted.keys.Remove(key);
+  }
+  for (const TCCommandBar& plan : CommandBars()) wanted.SetItems(plan.name, {});
+  for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
+    wanted.keys.Assign(Alt(CharacterKey(letter)), Id::Stop);
+  }
+  Frame().Bars().Customise(wanted);
+  Press(Qt::Key_V, Qt::AltModifier);
+  const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr) << "Alt+V opens View";
+  EXPECT_EQ(menu->title(), QStringLiteral("&View"));
+  QApplication::activePopupWidget()->close();
+  app->Actions().ActionOf(Id::Customize)->trigger();
   QCoreApplication::sendPostedEvents();
-  EXPECT_EQ(target.ran, std::vector{Id::Stop});
+  auto* sheet = Frame().findChild<TCCustomizeSheet*>();
+  ASSERT_NE(sheet, nullptr);
+  sheet->findChild<QPushButton*>(QStringLiteral("Reset"))->click();
+  EXPECT_EQ(Frame().Bars().Customised(), TCCustomisedBars());
+  sheet->accept();
 }
 
 }  // namespace
