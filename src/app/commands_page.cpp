@@ -33,11 +33,17 @@ QString TargetName(const TCCustomisedBars& bars, const TCBarTarget& target) {
   return bar + QStringLiteral(" > ") + ToQString(bars.ItemsOf(target.bar)[*target.menu].title);
 }
 
+constexpr QSize kPictureSize(20, 20);
+
 void FillList(TCDragList& list, const TCBarItems& items, const TCCommandActions& actions) {
+  // Names without a picture stand below those with one.
+  QPixmap nothing(kPictureSize);
+  nothing.fill(Qt::transparent);
   list.clear();
   for (const TCBarItem& item : items) {
     const QAction* action = actions.ActionOf(item.command);
-    list.addItem(new QListWidgetItem(action == nullptr ? QIcon() : action->icon(), BarItemName(item)));
+    const bool pictured = action != nullptr && !action->icon().isNull();
+    list.addItem(new QListWidgetItem(pictured ? action->icon() : QIcon(nothing), BarItemName(item)));
   }
 }
 
@@ -62,6 +68,7 @@ TCCommandsPage::TCCommandsPage(TCBarSet& barSet)
       up(new QPushButton(QStringLiteral("&Up"), this)),
       down(new QPushButton(QStringLiteral("Dow&n"), this)),
       menuName(new QLineEdit(this)),
+      menuLabel(MakeLabel(QStringLiteral("&Menu name:"), *menuName)),
       description(new QLabel(this)) {
   category->setObjectName(QStringLiteral("BarCategory"));
   offer->setObjectName(QStringLiteral("BarCommands"));
@@ -74,6 +81,8 @@ TCCommandsPage::TCCommandsPage(TCBarSet& barSet)
   menuName->setObjectName(QStringLiteral("MenuName"));
   for (const TCCategory& each : categories) category->addItem(each.name);
   category->setMaxVisibleItems(category->count());
+  offer->setIconSize(kPictureSize);
+  placed->setIconSize(kPictureSize);
   LayOut();
   ConnectControls();
   ShowOffer();
@@ -125,7 +134,7 @@ void TCCommandsPage::LayOut() {
   lists->addLayout(left, 1);
   lists->addLayout(right, 1);
   auto* name = new QHBoxLayout;
-  name->addWidget(MakeLabel(QStringLiteral("&Menu name:"), *menuName));
+  name->addWidget(menuLabel);
   name->addWidget(menuName, 1);
 
   description->setTextFormat(Qt::PlainText);
@@ -138,6 +147,7 @@ void TCCommandsPage::LayOut() {
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(hint);
+  layout->addSpacing(6);
   layout->addLayout(lists, 1);
   layout->addLayout(name);
   layout->addWidget(description);
@@ -204,7 +214,8 @@ void TCCommandsPage::ShowTarget(const TCBarTarget& wanted, std::size_t chosen) {
     FillList(*placed, ItemsIn(bars.Customised(), target), bars.Actions());
     placed->setCurrentRow(std::min(static_cast<int>(chosen), placed->count() - 1));
   }
-  menuName->setEnabled(target.menu.has_value());
+  menuLabel->setVisible(target.menu.has_value());
+  menuName->setVisible(target.menu.has_value());
   menuName->setText(target.menu ? ToQString(bars.Customised().ItemsOf(target.bar)[*target.menu].title)
                                 : QString());
   ShowChosen();

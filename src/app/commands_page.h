@@ -75,6 +75,7 @@ class TCCommandsPage final : public QWidget {
   QPushButton* up;
   QPushButton* down;
   QLineEdit* menuName;
+  QLabel* menuLabel;
   QLabel* description;
   QPointer<QWidget> mark;  // of the gap, while something is dragged
 };

@@ -48,6 +48,7 @@ TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
   layout->addWidget(pages, 1);
   layout->addLayout(lastRow);
   resize(kSize.expandedTo(minimumSizeHint()));
+  keyboard->setFocus();
 }
 
 void TCCustomizeSheet::Open(TCBarSet& bars, QWidget& parent) {

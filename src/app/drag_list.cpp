@@ -7,9 +7,7 @@
 
 namespace brevant {
 
-TCDragList::TCDragList(QWidget* parent) : QListWidget(parent) {
-  setUniformItemSizes(true);
-}
+TCDragList::TCDragList(QWidget* parent) : QListWidget(parent) {}
 
 int TCDragList::RowGapAt(QPoint globalPosition) const {
   const QPoint position = viewport()->mapFromGlobal(globalPosition);

@@ -96,6 +96,7 @@ TCKeyboardPage::TCKeyboardPage(TCBarSet& barSet)
   description->setTextFormat(Qt::PlainText);
   use->setWordWrap(true);
   use->setTextFormat(Qt::PlainText);
+  setFocusProxy(search);
   LayOut();
   ConnectControls();
   ShowCommands();

@@ -131,10 +131,11 @@ TEST_F(CommandsPage, ANewMenuIsMadeNamedAndFilled) {
   ChooseCategory(QStringLiteral("New Menu"));
   Click("AddToBar");
   EXPECT_EQ(Entries("BarItems").toStdString(), "New|New Menu|Open...|Save");
-  EXPECT_FALSE(Find<QLineEdit>("MenuName").isEnabled());
+  EXPECT_FALSE(Find<QLineEdit>("MenuName").isVisible()) << "a bar has its name";
   ChooseTarget(QStringLiteral("Standard toolbar > New Menu"));
   EXPECT_FALSE(Find<QPushButton>("AddToBar").isEnabled()) << "no menu in a menu";
   auto& name = Find<QLineEdit>("MenuName");
+  EXPECT_TRUE(name.isVisible());
   name.clear();
   QTest::keyClicks(&name, QStringLiteral("Finale"));
   ChooseCategory(QStringLiteral("Play"));
