@@ -47,6 +47,7 @@ TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(pages, 1);
   layout->addLayout(lastRow);
+  for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
   resize(kSize.expandedTo(minimumSizeHint()));
   keyboard->setFocus();
 }
@@ -61,10 +62,10 @@ void TCCustomizeSheet::Open(TCBarSet& bars, QWidget& parent) {
 }
 
 void TCCustomizeSheet::keyPressEvent(QKeyEvent* event) {
-  // Enter in a list or while searching would press a button that the user does not look at.
-  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter && qobject_cast<const QPushButton*>(focusWidget()) == nullptr) return;
-  QDialog::keyPressEvent(event);
+  // Enter presses the button that has the focus. In a list or while searching it would press one that the
+  // user does not look at.
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QDialog::keyPressEvent(event);
+  if (auto* button = qobject_cast<QPushButton*>(focusWidget())) button->click();
 }
 
 void TCCustomizeSheet::Reset() {

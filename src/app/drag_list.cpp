@@ -28,6 +28,9 @@ QRect TCDragList::GapRect(int row) const {
 }
 
 void TCDragList::mousePressEvent(QMouseEvent* event) {
+  pressedRow = -1;
+  // Beside the entries the chosen one stays chosen.
+  if (!indexAt(event->pos()).isValid()) return;
   QListWidget::mousePressEvent(event);
   if (event->button() != Qt::LeftButton) return;
   pressedAt = event->pos();

@@ -197,6 +197,13 @@ TEST_F(CommandsPage, AnEntryIsDraggedToAnotherPlaceOfItsBar) {
   EXPECT_EQ(placed.currentRow(), 2);
 }
 
+TEST_F(CommandsPage, AClickBesideTheEntriesLeavesTheChosenOne) {
+  auto& placed = Find<TCDragList>("BarItems");
+  QTest::mouseClick(placed.viewport(), Qt::LeftButton, {},
+                    placed.viewport()->rect().bottomLeft() - QPoint(-20, 5));
+  EXPECT_EQ(placed.selectedItems(), QList<QListWidgetItem*>{placed.item(0)});
+}
+
 TEST_F(CommandsPage, ACommandThatIsLetGoOfNowhereChangesNothing) {
   Drag("BarCommands", QStringLiteral("Exit"), window.mapToGlobal(QPoint(100, 600)));
   EXPECT_EQ(bars.Customised(), TCCustomisedBars());
