@@ -189,6 +189,18 @@ TEST_F(SettingsFileTest, WhatWasWrittenIsReadBack) {
   EXPECT_EQ(record.setLists.lastPlayListName, u" blanks ");
 }
 
+TEST_F(SettingsFileTest, ALineBreakInANameBringsNoKeyOrHeadingIntoTheFile) {
+  record.setLists.lastGroupListName = u"A\r\n[Other]\nVolumeStep=99\r";
+  ASSERT_TRUE(settingsFile.SaveSettings(record));
+  TCAppRecord readBack;
+  ASSERT_TRUE(settingsFile.LoadSettings(readBack));
+  EXPECT_EQ(readBack.setLists.lastGroupListName, u"A  [Other] VolumeStep=99 ");
+  EXPECT_EQ(readBack.settings.volumeStep, 5);
+  const std::optional<std::string> once = files.BytesOf(kPath);
+  ASSERT_TRUE(settingsFile.SaveSettings(record));
+  EXPECT_EQ(files.BytesOf(kPath), once);
+}
+
 TEST_F(SettingsFileTest, WhatElseStandsInTheFileIsKept) {
   files.Put(kPath, "; mine\r\n[Other]\r\na=1\r\n[Brevant]\r\nUnknown=7\r\n");
   ASSERT_TRUE(settingsFile.SaveSettings(record));
