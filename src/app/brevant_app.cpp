@@ -16,14 +16,12 @@
 namespace brevant {
 namespace {
 
-constexpr std::u16string_view kFontFace = u"Times New Roman";
-
 TCAppRecord LoadRecord(const TCSettingsFile& settingsFile) {
   TCAppRecord record;
   settingsFile.LoadSettings(record);
   // A face chosen in an earlier run does not come back; the sizes do.
-  record.settings.playListFontTypeName = kFontFace;
-  record.settings.lyricsFontTypeName = kFontFace;
+  record.settings.playListFontTypeName = kDefaultFontFace;
+  record.settings.lyricsFontTypeName = kDefaultFontFace;
   return record;
 }
 
