@@ -316,6 +316,14 @@ TEST_F(DocumentFileTest, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
   EXPECT_EQ(files.BytesOf(kPath), "other text");
 }
 
+TEST_F(DocumentFileTest, SongsThatAreLoadedReplaceWhatStoodThere) {
+  store.groups.resize(2);
+  store.groups[1].name = u"A";
+  ASSERT_TRUE(document.LoadFlatDocument(JoinUtf16Lines({u"\"A\" \"P\" \"x.mp3\" 03:00"})));
+  ASSERT_EQ(store.groups.size(), 1u);
+  EXPECT_EQ(PlaylistOf(0, 0).items.size(), 1u);
+}
+
 TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {
   TextLines lines;
   for (int i = 0; i < 3000; ++i) {

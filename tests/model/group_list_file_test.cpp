@@ -64,6 +64,16 @@ TEST_F(GroupListFileTest, ABareNameIsTakenFromTheGroupListsFolderAndRemembered) 
   EXPECT_EQ(group.extension, u"brvgl");
 }
 
+TEST_F(GroupListFileTest, TheGroupIsNamedAfterItsFile) {
+  files.PutUtf16(u"D:\\Shows\\Summer.Tour.BRVPL", u"E:\\p.brvpl\r\n");
+  files.PutUtf16(u"E:\\p.brvpl", u"a.mp3\r\n");
+  group.folder = u"C:\\elsewhere\\";
+  ASSERT_TRUE(Load(u"D:\\Shows\\Summer.Tour.BRVPL"));
+  EXPECT_EQ(group.name, u"Summer.Tour");
+  EXPECT_EQ(group.folder.str(), u"D:\\Shows\\");
+  EXPECT_EQ(group.extension, u"BRVPL");
+}
+
 TEST_F(GroupListFileTest, ALineWithAFolderIsUsedAsWrittenAlsoWhenItBeginsWithADot) {
   files.PutUtf16(u"D:\\Shows\\g.brvgl", u".\\p.brvpl\r\nSub\\q.brvpl\r\n");
   files.PutUtf16(u".\\p.brvpl", u"a.mp3\r\n");
