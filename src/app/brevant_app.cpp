@@ -49,7 +49,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls(),
                 .properties = &frame.Properties()}),
-      router(frame, document, libraries),
+      router(frame, document, help, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
@@ -132,6 +132,7 @@ void TCBrevantApp::ConnectParts() {
   ConnectPlaylist();
   ConnectTree();
   ConnectProperties();
+  connect(&help, &TCHelp::windowMade, this, [this](QWidget& window) { keyFilter.PerformIn(window); });
   connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();

@@ -102,6 +102,7 @@ QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& conte
   // Saved layouts know a pane by this name.
   pane->setObjectName(QStringLiteral("Pane%1").arg(static_cast<int>(id)));
   pane->setWidget(&content);
+  pane->setWhatsThis(content.whatsThis());
   connect(pane, &QDockWidget::visibilityChanged, this, &TCMainFrame::marksChanged);
   return pane;
 }
