@@ -58,7 +58,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
   if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
-  frame.PlayControls().Fill(actions);
+  frame.Bars().Fill(actions);
   ConnectParts();
   document.OnNewDocument();
 }

@@ -16,7 +16,11 @@ constexpr TCGuidePlace kPlaces[] = {
     {"Pane4004", "panes.md#the-properties"},
     {"Pane4000", "panes.md#the-player"},
     {"Pane4003", "lyrics.md"},
-    {"Play controls", "panes.md#the-play-controls"},
+    {"Play controls", "bars.md#the-play-controls"},
+    {"Standard toolbar", "bars.md"},
+    {"Create", "bars.md"},
+    {"Commands", "bars.md"},
+    {"Options", "bars.md"},
     {"Help", "README.md#this-guide-in-the-program"},
     {"AboutBox", "start.md"},
     {"EnterText", "options.md#numbers-and-texts"},
@@ -42,8 +46,9 @@ std::string_view PageOfMenu(TCMenuPlace menu) {
     case TCMenuPlace::Options:
       return "options.md";
     case TCMenuPlace::View:
-    case TCMenuPlace::ViewToolbars:
       return "panes.md";
+    case TCMenuPlace::ViewToolbars:
+      return "bars.md";
     case TCMenuPlace::Help:
     case TCMenuPlace::None:
       break;

@@ -1,7 +1,6 @@
 #include "app/main_frame.h"
 
 #include <QApplication>
-#include <QMenuBar>
 #include <QScreen>
 #include <QStatusTipEvent>
 #include <algorithm>
@@ -37,11 +36,10 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
       playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
       messageDisplay(new TCGeneralReportsTab(inner)),
       playControls(new TCPlayControlsBar(this)),
+      bars(*this, *playControls),
       statusLine(new TCStatusLine(this)) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
-  menuBar()->setAccessibleName(ToQString(TextOf(TCTextId::MainToolbar)));
-  addToolBar(Qt::TopToolBarArea, playControls);
   setStatusBar(statusLine);
   // By itself a main window is always a window of its own, whatever its parent.
   inner->setWindowFlags(Qt::Widget);
@@ -73,6 +71,7 @@ TCMainFrame::~TCMainFrame() {
 
 void TCMainFrame::ConnectViews() {
   connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
+  connect(&bars, &TCBarSet::shownBarsChanged, this, &TCMainFrame::marksChanged);
   // The mouse stays with the playlist while songs are dragged out of it; the tree shows where they would go.
   connect(view, &TCBrevantView::ctrlDragMoved, tree, &TCPlayListManagerTreeView::FollowCtrlDrag);
   connect(view, &TCBrevantView::ctrlDragEnded, tree, &TCPlayListManagerTreeView::EndCtrlDrag);
@@ -129,6 +128,7 @@ bool TCMainFrame::Handles(TCCommandId command) {
     case TCCommandId::PropertiesPane:
     case TCCommandId::PlayerPane:
     case TCCommandId::MessagePane:
+    case TCCommandId::ToolbarVisible:
     case TCCommandId::StatusBarVisible:
     case TCCommandId::Exit:
       return true;
@@ -140,6 +140,8 @@ bool TCMainFrame::Handles(TCCommandId command) {
 bool TCMainFrame::OnCommand(TCCommandId command) {
   if (QDockWidget* pane = PaneOf(command)) {
     pane->setVisible(pane->isHidden());
+  } else if (command == TCCommandId::ToolbarVisible) {
+    bars.Toggle();
   } else if (command == TCCommandId::StatusBarVisible) {
     statusLine->setVisible(statusLine->isHidden());
   } else if (command == TCCommandId::Exit) {
@@ -153,6 +155,7 @@ bool TCMainFrame::OnCommand(TCCommandId command) {
 bool TCMainFrame::IsChecked(TCCommandId command) const {
   // "Hidden" is what somebody asked for; a pane behind another tab or in a window not yet shown is open.
   if (const QDockWidget* pane = PaneOf(command)) return !pane->isHidden();
+  if (command == TCCommandId::ToolbarVisible) return bars.AnyShown();
   return command == TCCommandId::StatusBarVisible && !statusLine->isHidden();
 }
 

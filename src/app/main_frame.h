@@ -1,5 +1,5 @@
 // The main window: the playlist in the middle, the playlist manager in a pane beside it, properties, player
-// and message display in panes below, the menu bar, the play controls and the status bar around them. It
+// and message display in panes below, the menu bar, the tool bars and the status bar around them. It
 // shows and decides nothing about songs; commands come and go through TCCommandRouter. User-interface thread
 // only.
 #pragma once
@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 
+#include "app/bar_set.h"
 #include "app/general_reports_tab.h"
 #include "app/play_controls_bar.h"
 #include "app/properties_pane.h"
@@ -42,9 +43,10 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   [[nodiscard]] TCWMPPaneContainer& PlayerPane() { return *playerPane; }
   [[nodiscard]] TCPropertiesPane& Properties() { return *properties; }
   [[nodiscard]] TCPlayControlsBar& PlayControls() { return *playControls; }
+  [[nodiscard]] TCBarSet& Bars() { return bars; }
   [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
 
-  // The frame's own commands: its panes, the status bar and Exit.
+  // The frame's own commands: its panes and bars, the status bar and Exit.
   [[nodiscard]] static bool Handles(TCCommandId command);
   bool OnCommand(TCCommandId command);
   // The pane or bar that the command stands for is open.
@@ -106,6 +108,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   QDockWidget* playerDock = nullptr;
   QDockWidget* messageDock = nullptr;
   TCPlayControlsBar* playControls = nullptr;
+  TCBarSet bars;
   TCStatusLine* statusLine = nullptr;
 };
 

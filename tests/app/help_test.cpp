@@ -143,20 +143,20 @@ TEST_F(Help, F3BringsTheKeysBackToThePlaylist) {
   EXPECT_NE(app->Help().Window(), nullptr) << "the guide stays open";
 }
 
-TEST_F(Help, EveryPlaceOfTheMainWindowThatHasAPageIsThere) {
+TEST_F(Help, EveryPartOfTheMainWindowThatHasAPageIsThere) {
   Start(kShow);
-  int seen = 0;
+  // Windows of their own go by these names where they are made.
+  const QStringList windows{QStringLiteral("Help"),           QStringLiteral("AboutBox"),
+                            QStringLiteral("EnterText"),      QStringLiteral("CreateSetLists"),
+                            QStringLiteral("SongProperties"), QStringLiteral("ConfirmRemove"),
+                            QStringLiteral("SaveChanges"),    QStringLiteral("OpenDocument"),
+                            QStringLiteral("SaveDocument"),   QStringLiteral("FindSongs")};
   for (const TCGuidePlace& place : GuidePlaces()) {
     const QString name =
         QString::fromUtf8(place.objectName.data(), static_cast<qsizetype>(place.objectName.size()));
-    // Windows of their own have tests of their own, under the names that stand there.
-    if (name.at(0).isUpper() && !name.startsWith(QStringLiteral("Pane")) &&
-        !name.startsWith(QStringLiteral("Play")))
-      continue;
+    if (windows.contains(name)) continue;
     EXPECT_NE(Frame().findChild<QWidget*>(name), nullptr) << place.objectName;
-    ++seen;
   }
-  EXPECT_EQ(seen, 8);
 }
 
 }  // namespace
