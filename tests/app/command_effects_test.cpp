@@ -304,6 +304,9 @@ const std::array kEffects = {
              [](Program& p) { p.ExpectToggle(Id::FoldersSaveFormat, &TCSettings::foldersSaveFormat); }},
     TCEffect{Id::LoadLastFile,
              [](Program& p) { p.ExpectToggle(Id::LoadLastFile, &TCSettings::loadLastFileOnProgramRun); }},
+    TCEffect{
+        Id::LoadLastWindowState,
+        [](Program& p) { p.ExpectToggle(Id::LoadLastWindowState, &TCSettings::loadLastWindowState); }},
     TCEffect{Id::Reset, [](Program& p) { p.ExpectToggle(Id::Reset, &TCSettings::resetPending); }},
 
     TCEffect{Id::SongLatency,
@@ -437,6 +440,17 @@ const std::array kEffects = {
     TCEffect{Id::PropertiesPane, [](Program& p) { p.ExpectPane(Id::PropertiesPane, p.Frame().Properties()); }},
     TCEffect{Id::PlayerPane, [](Program& p) { p.ExpectPane(Id::PlayerPane, p.Frame().PlayerPane()); }},
     TCEffect{Id::MessagePane, [](Program& p) { p.ExpectPane(Id::MessagePane, p.Frame().MessageDisplay()); }},
+    TCEffect{Id::LiveViewMode,
+             [](Program& p) {
+               const TCBrevantView& list = p.Frame().PlaylistView();
+               const QSize before = list.size();
+               p.ExpectToggle(Id::LiveViewMode, &TCSettings::liveViewMode);
+               EXPECT_EQ(list.size(), before);
+               p.Trigger(Id::LiveViewMode);
+               QCoreApplication::processEvents();
+               EXPECT_EQ(list.size(), p.Frame().centralWidget()->size()) << "nothing but the playlist";
+               EXPECT_FALSE(p.app->Actions().ActionOf(Id::PlayerPane)->isChecked());
+             }},
     TCEffect{Id::StatusBarVisible,
              [](Program& p) { p.ExpectPane(Id::StatusBarVisible, p.Frame().StatusLine()); }},
     TCEffect{Id::ToolbarVisible,
