@@ -25,6 +25,11 @@ TCAppRecord LoadRecord(const TCSettingsFile& settingsFile) {
   return record;
 }
 
+// Without a settings file it is a first start, whatever else is left from an earlier one.
+bool RestoresWindow(const TCSettings& settings) {
+  return settings.loadLastWindowState && settings.settingsFileFound;
+}
+
 }  // namespace
 
 TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
@@ -47,16 +52,16 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls(),
                 .properties = &frame.Properties()}),
-      router(frame, document, libraries),
+      router(frame, document, help, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
       closeGuard(frame, layout, settingsFile, record, document),
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
-  if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
+  if (RestoresWindow(record.settings)) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
-  frame.PlayControls().Fill(actions);
+  frame.Bars().Fill(actions);
   ConnectParts();
   document.OnNewDocument();
 }
@@ -130,6 +135,7 @@ void TCBrevantApp::ConnectParts() {
   ConnectPlaylist();
   ConnectTree();
   ConnectProperties();
+  connect(&help, &TCHelp::windowMade, this, [this](QWidget& window) { keyFilter.PerformIn(window); });
   connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();
@@ -147,6 +153,7 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   firstPaint.emplace(frame, [this, startFile] {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument(startFile);
+    if (RestoresWindow(record.settings) && record.settings.liveViewMode) frame.EnterLiveView();
     TCAboutBox::Open(libraries, frame);
   });
 }

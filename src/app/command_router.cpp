@@ -7,21 +7,22 @@
 namespace brevant {
 namespace {
 
-// The playlist view's. The last two do nothing: they keep the keys of a list's own "select all" and "open"
-// away from it.
-bool IsViewCommand(TCCommandId command) {
-  return command == TCCommandId::FocusPlaylist || command == TCCommandId::SelectAll ||
-         command == TCCommandId::SwallowF4;
+// These do nothing but keep their keys away from what would take them: a list its "select all" and "open". No
+// edit can be cut or undone.
+bool IsKeyAlone(TCCommandId command) {
+  return command == TCCommandId::SelectAll || command == TCCommandId::SwallowF4 ||
+         command == TCCommandId::Cut || command == TCCommandId::Undo;
 }
 
 }  // namespace
 
-TCCommandRouter::TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document, QStringList libraryNames)
-    : frame(mainFrame), doc(document), libraries(std::move(libraryNames)) {}
+TCCommandRouter::TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document, TCHelp& helpCommands,
+                                 QStringList libraryNames)
+    : frame(mainFrame), doc(document), help(helpCommands), libraries(std::move(libraryNames)) {}
 
 bool TCCommandRouter::Handles(TCCommandId command) const {
-  return command == TCCommandId::About || IsViewCommand(command) || TCMainFrame::Handles(command) ||
-         TCBrevantDoc::Handles(command);
+  return command == TCCommandId::About || command == TCCommandId::FocusPlaylist || IsKeyAlone(command) ||
+         TCHelp::Handles(command) || TCMainFrame::Handles(command) || TCBrevantDoc::Handles(command);
 }
 
 void TCCommandRouter::OnCommand(TCCommandId command) {
@@ -29,7 +30,7 @@ void TCCommandRouter::OnCommand(TCCommandId command) {
     TCAboutBox::Open(libraries, frame);
   } else if (command == TCCommandId::FocusPlaylist) {
     frame.PlaylistView().TakeFocus();
-  } else if (!frame.OnCommand(command)) {
+  } else if (!help.OnCommand(command) && !frame.OnCommand(command)) {
     doc.OnCommand(command);
   }
 }

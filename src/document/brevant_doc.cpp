@@ -42,6 +42,7 @@ constexpr std::array kOptionCommands = {
     Toggle<&TCSettings::disableEditing>(TCCommandId::DisableEditing),
     Toggle<&TCSettings::foldersSaveFormat>(TCCommandId::FoldersSaveFormat),
     Toggle<&TCSettings::loadLastFileOnProgramRun>(TCCommandId::LoadLastFile),
+    Toggle<&TCSettings::loadLastWindowState>(TCCommandId::LoadLastWindowState),
     OptionCommand{TCCommandId::Reset, [](const TCSettings& settings) { return settings.resetPending; },
                   [](TCSettings& settings) { settings.ToggleReset(); }},
 };
