@@ -71,7 +71,8 @@ class TCStudio {
   TCPlayListManagerTreeView tree;
   TCPlaylistPresenter presenter{record, view, tree};
   TCTreePresenter treePresenter{store, tree};
-  TCEditParts parts{record, files, treePresenter, presenter, view, frame, messages, prompts, [] {}};
+  TCSongCheck check{files, store, treePresenter, presenter};
+  TCEditParts parts{record, check, treePresenter, presenter, view, frame, messages, prompts, [] {}};
   TCSetListEditor editor{parts};
   TCEntryMover mover{parts};
   TCSongPlacement placement{parts, editor};

@@ -58,6 +58,7 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
       properties(parts.record, parts.folders, parts.playlistView, parts.properties),
       presenter(parts.record, parts.playlistView, parts.treeView, [this] { RefreshProperties(); }),
       tree(parts.record.setLists, parts.treeView),
+      songCheck(parts.files, parts.record.setLists, tree, presenter),
       editor(EditParts()),
       mover(EditParts()),
       placement(EditParts(), editor),
@@ -66,7 +67,7 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
       volumeAndSeek(parts.record.settings, parts.player, parts.repeatFields) {}
 
 TCEditParts TCBrevantDoc::EditParts() {
-  return {parts.record,   parts.files,        tree,
+  return {parts.record,   songCheck,          tree,
           presenter,      parts.playlistView, parts.frame,
           parts.messages, parts.prompts,      [this] { SetModified(); }};
 }
@@ -271,6 +272,7 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
 }
 
 void TCBrevantDoc::OnPlayTimerTick() {
+  songCheck.TakeLateAnswers();
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
   if (measuring) ShowTimeRun();

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "lyrics/lyric_file.h"
-#include "model/media_check.h"
 #include "resources/string_table.h"
 #include "text/path_parts.h"
 #include "text/white_space.h"
@@ -111,9 +109,7 @@ void TCSetListEditor::RenameSong(TCSongPosition at, std::u16string_view name) {
   TCPlayListItem& song = *SongAt(parts.Store(), at);
   // A name with a backslash in it is read from a saved document as folder and name; so it is here.
   song.SetPath(std::u16string(std::u16string_view(song.folder)) + std::u16string(name));
-  CheckSongFile(parts.files, song);
-  song.lyrics = {};
-  LoadLyrics(parts.files, song.FullPath(), song.lyrics);
+  parts.check.CheckSongFiles(at, 1);
   if (at.Playlist() == parts.Store().shown) parts.playlist.RefreshSongRow(at.song, song);
 }
 

@@ -317,7 +317,7 @@ class QtPromptsOverAForm : public QtPrompts {
   }
 
   TCEditRig rig;
-  TCEditParts parts{rig.record, rig.files,    rig.treePresenter, rig.presenter, rig.view,
+  TCEditParts parts{rig.record, rig.check,    rig.treePresenter, rig.presenter, rig.view,
                     rig.frame,  rig.messages, prompts,           [] {}};
   TCSetListEditor editor{parts};
   TCSongPlacement placement{parts, editor};

@@ -337,5 +337,20 @@ TEST_F(BrevantDocEditingTest, RemovingOrMovingTheSoundingSongLeavesTheSound) {
   EXPECT_THAT(player.Calls(), Not(Contains("Stop")));
 }
 
+TEST_F(BrevantDocEditingTest, ATickTakesOverWhatAHangingDiskSaysOfPlacedSongs) {
+  files.Put(u"E:\\x.mp3");
+  files.hangs = true;
+  document.DropFiles({u"E:\\x.mp3"});
+  Select(u"One");
+  document.PlacePendingFiles();
+  ASSERT_EQ(view.rows.size(), 3u);
+  EXPECT_EQ(view.rows[2].texts.status, u"Pending");
+  document.OnPlayTimerTick();
+  EXPECT_EQ(view.rows[2].texts.status, u"Pending");
+  files.Wake();
+  document.OnPlayTimerTick();
+  EXPECT_EQ(view.rows[2].texts.status, u"Found");
+}
+
 }  // namespace
 }  // namespace brevant
