@@ -260,7 +260,7 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
   switch (command) {
     case TCCommandId::SongLatency:
       setLists.RecalcAllTotalTimes();
-      presenter.ShowPlaylist(setLists.currentGroup, setLists.currentPlaylist);
+      presenter.ShowAgain();
       return;
     case TCCommandId::LyricsFontSize:
     case TCCommandId::LyricLines:
@@ -276,7 +276,9 @@ void TCBrevantDoc::OnPlayTimerTick() {
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
   if (measuring) ShowTimeRun();
-  if (timesChanged) SetModified();
+  if (!timesChanged) return;
+  presenter.ShowAgain();
+  SetModified();
 }
 
 void TCBrevantDoc::ShowTimeRun() {

@@ -42,21 +42,20 @@ TCSongCheck::TCAnswer TCSongCheck::LookAt(TCFileSystem& disk, TCAnswer songs) {
 }
 
 void TCSongCheck::TakeLateAnswers() {
-  std::erase_if(awaited, [this](std::future<TCAnswer>& answer) {
+  const auto taken = std::erase_if(awaited, [this](std::future<TCAnswer>& answer) {
     if (!HasCome(answer, std::chrono::milliseconds(0))) return false;
     Take(answer.get());
     return true;
   });
+  if (taken > 0) playlist.ShowAgain();
 }
 
 void TCSongCheck::Take(TCAnswer songs) {
   for (TCSongOnDisk& onDisk : songs) {
-    const TCSongPosition at = tree.EntryOf(onDisk.node).Song();
-    TCPlayListItem* song = SongAt(store, at);
+    TCPlayListItem* song = SongAt(store, tree.EntryOf(onDisk.node).Song());
     if (song == nullptr || song->FullPath() != onDisk.path) continue;
     song->status = onDisk.status;
     song->lyrics = std::move(onDisk.lyrics);
-    if (at.Playlist() == store.shown) playlist.RefreshSongRow(at.song, *song);
   }
 }
 

@@ -25,8 +25,7 @@ class TCSongCheck {
   // show.
   void CheckSongFiles(TCSongPosition first, std::int32_t count);
 
-  // Takes over what came since, and draws the rows of those songs. A song that went or got yet another file
-  // is passed over.
+  // Takes over what came since, and shows it. A song that went or got yet another file is passed over.
   void TakeLateAnswers();
 
  private:

@@ -337,6 +337,24 @@ TEST_F(BrevantDocEditingTest, RemovingOrMovingTheSoundingSongLeavesTheSound) {
   EXPECT_THAT(player.Calls(), Not(Contains("Stop")));
 }
 
+TEST_F(BrevantDocEditingTest, MeasuredTimesAreShownInTheRowsThatStandThereWhileAnEmptyPlaylistIsCurrent) {
+  record.settings.confirmFileRemove = false;
+  tree.focused = true;
+  Select(u"c.mp3");
+  document.OnCommand(Id::Remove);
+  document.PickNode(tree.NodeNamed(u"Two"));
+  ASSERT_EQ(record.setLists.currentPlaylist, 1);
+  ASSERT_EQ(view.rows[1].texts.time, u"04:00");
+  player.SetDefaultSong({.length = 90.0});
+  document.OnCommand(Id::RefreshAllTimes);
+  for (int tick = 0; tick < 20; ++tick) {
+    player.Advance(0.3);
+    document.OnPlayTimerTick();
+  }
+  EXPECT_EQ(view.rows[1].texts.time, u"01:30");
+  EXPECT_EQ(view.header, u"One - Total Playlist Time: 03:15");
+}
+
 TEST_F(BrevantDocEditingTest, ATickTakesOverWhatAHangingDiskSaysOfPlacedSongs) {
   files.Put(u"E:\\x.mp3");
   files.hangs = true;
