@@ -15,6 +15,28 @@ std::u16string CleanName(std::u16string_view typed) {
   return std::u16string(Trim(name));
 }
 
+namespace {
+
+struct TCNodeRun {
+  TCTreeNode first = TCTreeNode::None;
+  std::size_t count = 0;
+};
+
+// The nodes of songs of the current playlist, those of neighbouring rows as one run; the last run first, so
+// that each leaves fewer behind it to be numbered anew. `rows` ascend.
+std::vector<TCNodeRun> NodesOf(const TCSetListStore& store, const std::vector<std::int32_t>& rows) {
+  std::vector<TCNodeRun> runs;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const bool neighbour = i > 0 && rows[i] == rows[i - 1] + 1;
+    if (!neighbour) runs.push_back({store.GetSongTreeNode(rows[i]), 0});
+    ++runs.back().count;
+  }
+  std::reverse(runs.begin(), runs.end());
+  return runs;
+}
+
+}  // namespace
+
 TCSetListEditor::TCSetListEditor(const TCEditParts& editParts) : parts(editParts) {}
 
 bool TCSetListEditor::CreateGroup(std::u16string_view name) {
@@ -125,11 +147,9 @@ void TCSetListEditor::RemoveSelectedRows() {
   TCSetListStore& store = parts.Store();
   const TCPlaylistPosition current = store.CurrentPosition();
   const std::vector<std::int32_t> rows = parts.view.SelectedRows();
-  std::vector<TCTreeNode> nodes;
-  nodes.reserve(rows.size());
-  for (const std::int32_t row : rows) nodes.push_back(store.GetSongTreeNode(row));
+  const std::vector<TCNodeRun> nodes = NodesOf(store, rows);
   if (!RemoveSongs(store, current, rows)) return;
-  for (const TCTreeNode node : nodes) parts.tree.Tree().DeleteNode(node);
+  for (const TCNodeRun& run : nodes) parts.tree.Tree().DeleteNodes(run.first, run.count);
   parts.ShowChangedPlaylist(current);
   parts.view.ResetMouseState();
   parts.Changed();

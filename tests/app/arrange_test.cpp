@@ -79,6 +79,16 @@ TEST_F(Arrange, ADoubleClickInTheTreeShowsThePlaylist) {
   EXPECT_EQ(Rows(), QStringList{QStringLiteral("three.mp3")});
 }
 
+TEST_F(Arrange, ADoubleClickOnAGroupOpensOrClosesItAndLoadsNothing) {
+  const QModelIndex group = Node(0).parent();
+  for (const bool open : {false, true}) {
+    QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, PlaceOf(group));
+    EXPECT_EQ(Tree().isExpanded(group), open);
+  }
+  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));
+  EXPECT_TRUE(player.GetUrl().empty());
+}
+
 TEST_F(Arrange, EnterOnASongMakesItCurrentAndPlaysOnlyWithBothOptionsOn) {
   SelectNode(Node(0, 1));
   Press(Qt::Key_Return);

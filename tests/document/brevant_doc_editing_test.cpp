@@ -79,6 +79,15 @@ TEST_F(BrevantDocEditingTest, FoldersAreMadeUnaskedAndNamesAreAskedFor) {
   EXPECT_EQ(tree.Lines()[11], u"  R");
 }
 
+TEST_F(BrevantDocEditingTest, TwoNewGroupFoldersHaveOneName) {
+  tree.selected = TCTreeNode::None;
+  document.OnCommand(Id::NewGroupFolder);
+  document.OnCommand(Id::NewGroupFolder);
+  ASSERT_EQ(record.setLists.groups.size(), 4u);
+  EXPECT_EQ(record.setLists.groups[2].name, u"New Group Folder");
+  EXPECT_EQ(record.setLists.groups[3].name, u"New Group Folder");
+}
+
 TEST_F(BrevantDocEditingTest, RemoveTakesTheSelectedRowsUnlessTheTreeHasTheFocus) {
   view.selected = {0};
   Select(u"d.mp3");
