@@ -27,6 +27,11 @@ TCAppRecord LoadRecord(const TCSettingsFile& settingsFile) {
   return record;
 }
 
+// Without a settings file it is a first start, whatever else is left from an earlier one.
+bool RestoresWindow(const TCSettings& settings) {
+  return settings.loadLastWindowState && settings.settingsFileFound;
+}
+
 }  // namespace
 
 TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
@@ -56,9 +61,9 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       closeGuard(frame, layout, settingsFile, record, document),
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
-  if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
+  if (RestoresWindow(record.settings)) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
-  frame.PlayControls().Fill(actions);
+  frame.Bars().Fill(actions);
   ConnectParts();
   document.OnNewDocument();
 }
@@ -149,6 +154,7 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   firstPaint.emplace(frame, [this, startFile] {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument(startFile);
+    if (RestoresWindow(record.settings) && record.settings.liveViewMode) frame.EnterLiveView();
     TCAboutBox::Open(libraries, frame);
   });
 }

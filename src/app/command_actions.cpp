@@ -1,6 +1,7 @@
 #include "app/command_actions.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include "app/picture_icon.h"
@@ -22,6 +23,12 @@ bool ChangesTheDocument(TCCommandId id) {
   return command->menu == TCMenuPlace::File || command->menu == TCMenuPlace::Edit;
 }
 
+// What a tool button is called, by a screen reader too: the menu's name alone, or what it does.
+QString NameOf(const TCCommand& command) {
+  if (command.menuText.empty()) return ToQString(ToolTip(command));
+  return ToQString(WithoutMnemonic(MenuTextWithoutHint(command.menuText))).trimmed();
+}
+
 }  // namespace
 
 TCCommandActions::TCCommandActions(TCCommandTarget& commandTarget, QWidget& window) : target(commandTarget) {
@@ -35,8 +42,7 @@ void TCCommandActions::AddActions(QWidget& window) {
     if (!target.Handles(command.id)) continue;
     auto action = std::make_unique<QAction>(ToQString(command.menuText));
     action->setObjectName(QStringLiteral("Command%1").arg(static_cast<int>(command.id)));
-    // What a tool button is called, by a screen reader too: the name alone.
-    action->setIconText(ToQString(WithoutMnemonic(MenuTextWithoutHint(command.menuText))).trimmed());
+    action->setIconText(NameOf(command));
     action->setToolTip(ToQString(ToolTipWithKeys(command)));
     action->setStatusTip(ToQString(StatusLine(command)));
     action->setCheckable(command.trait == TCCommandTrait::Checkable);
@@ -46,11 +52,14 @@ void TCCommandActions::AddActions(QWidget& window) {
     // An application-wide shortcut would fire behind an open menu or dialog.
     action->setShortcutContext(Qt::WindowShortcut);
     action->setAutoRepeat(command.trait == TCCommandTrait::Repeats);
-    // Queued, so that a command that asks the user something never runs inside the event that called for it:
-    // whoever sent that event, a screen reader for one, would wait until the question is answered.
-    connect(
-        action.get(), &QAction::triggered, this, [this, id = command.id] { Trigger(id); },
-        Qt::QueuedConnection);
+    if (action->isCheckable()) {
+      // A screen reader turns a checkable button over and its action with it, without a word of triggering.
+      connect(action.get(), &QAction::toggled, this, [this, id = command.id] {
+        if (!showingMarks) Queue(id);
+      });
+    } else {
+      connect(action.get(), &QAction::triggered, this, [this, id = command.id] { Queue(id); });
+    }
     // A key of an action that stands in a menu alone is dead while the menu bar is hidden.
     window.addAction(action.get());
     actions.emplace(command.id, std::move(action));
@@ -84,9 +93,17 @@ TCCommandActions::TCBoundCommand TCCommandActions::CommandOfKey(int key,
 }
 
 void TCCommandActions::RefreshChecks() {
+  const QScopedValueRollback<bool> now(showingMarks, true);
   for (const auto& [command, action] : actions) {
     if (action->isCheckable()) action->setChecked(target.IsChecked(command));
   }
+}
+
+// Queued, so that a command that asks the user something never runs inside the event that called for it:
+// whoever sent that event, a screen reader for one, would wait until the question is answered.
+void TCCommandActions::Queue(TCCommandId command) {
+  QMetaObject::invokeMethod(
+      this, [this, command] { Trigger(command); }, Qt::QueuedConnection);
 }
 
 void TCCommandActions::Trigger(TCCommandId command) {

@@ -32,11 +32,13 @@ class TCCommandActions : public QObject {
  private:
   void AddActions(QWidget& window);
   void BindKeys();
+  void Queue(TCCommandId command);
   void Trigger(TCCommandId command);
 
   TCCommandTarget& target;
   std::map<TCCommandId, std::unique_ptr<QAction>> actions;
   std::map<int, TCBoundCommand> keys;  // by QKeyCombination::toCombined
+  bool showingMarks = false;           // a mark that turns over is no command
 };
 
 }  // namespace brevant

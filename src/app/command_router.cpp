@@ -7,11 +7,11 @@
 namespace brevant {
 namespace {
 
-// The playlist view's. The last two do nothing: they keep the keys of a list's own "select all" and "open"
-// away from it.
-bool IsViewCommand(TCCommandId command) {
-  return command == TCCommandId::FocusPlaylist || command == TCCommandId::SelectAll ||
-         command == TCCommandId::SwallowF4;
+// These do nothing but keep their keys away from what would take them: a list its "select all" and "open". No
+// edit can be cut or undone.
+bool IsKeyAlone(TCCommandId command) {
+  return command == TCCommandId::SelectAll || command == TCCommandId::SwallowF4 ||
+         command == TCCommandId::Cut || command == TCCommandId::Undo;
 }
 
 }  // namespace
@@ -20,8 +20,8 @@ TCCommandRouter::TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document,
     : frame(mainFrame), doc(document), libraries(std::move(libraryNames)) {}
 
 bool TCCommandRouter::Handles(TCCommandId command) const {
-  return command == TCCommandId::About || IsViewCommand(command) || TCMainFrame::Handles(command) ||
-         TCBrevantDoc::Handles(command);
+  return command == TCCommandId::About || command == TCCommandId::FocusPlaylist || IsKeyAlone(command) ||
+         TCMainFrame::Handles(command) || TCBrevantDoc::Handles(command);
 }
 
 void TCCommandRouter::OnCommand(TCCommandId command) {

@@ -19,9 +19,10 @@ QByteArray ReadPicture(std::string_view name) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// A colour for each mode that an action is shown in.
-QColor ColourOf(QIcon::Mode mode) {
+// A colour for each mode that an action is shown in. A button that is on is drawn on the highlight.
+QColor ColourOf(QIcon::Mode mode, QIcon::State state) {
   const QPalette palette = QGuiApplication::palette();
+  if (state == QIcon::On && mode != QIcon::Disabled) return palette.color(QPalette::HighlightedText);
   switch (mode) {
     case QIcon::Disabled:
       return palette.color(QPalette::Disabled, QPalette::ButtonText);
@@ -36,10 +37,10 @@ class TCPictureEngine final : public QIconEngine {
  public:
   explicit TCPictureEngine(QByteArray svgText) : svg(std::move(svgText)) {}
 
-  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State /*state*/) override {
+  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
     QByteArray coloured = svg;
     coloured.replace(QByteArray(kIconColour.data(), static_cast<qsizetype>(kIconColour.size())),
-                     ColourOf(mode).name().toLatin1());
+                     ColourOf(mode, state).name().toLatin1());
     QSvgRenderer renderer(coloured);
     renderer.render(painter, area);
   }

@@ -1,12 +1,13 @@
-// The tool bar "Play controls": a button for each command of a performance and the two time fields of the
-// repeat range, laid out as the command bar table says. User-interface thread only.
+// The tool bar "Play controls" and the two time fields of the repeat range, which are at home there. What
+// else stands on it is TCBarSet's business, as for every bar. User-interface thread only.
 #pragma once
 
 #include <QToolBar>
+#include <QWidgetAction>
 
-#include "app/command_actions.h"
 #include "app/repeat_time_field.h"
 #include "playback/repeat_range.h"
+#include "resources/command_id.h"
 
 namespace brevant {
 
@@ -15,12 +16,11 @@ class TCPlayControlsBar final : public QToolBar, public TCRepeatFields {
 
  public:
   // The time fields are there from the start, so that the document can be made with them; they are shown once
-  // the bar is filled.
+  // their actions are on a bar.
   explicit TCPlayControlsBar(QWidget* parent = nullptr);
 
-  // Once. Shows the buttons of what somebody carries out, and the time fields, in the table's order.
-  void Fill(const TCCommandActions& actions);
-
+  // Puts the field on the bar that it is added to.
+  [[nodiscard]] QAction& FieldAction(TCCommandId timeField);
   [[nodiscard]] TCRepeatTimeField& FieldOf(TCCommandId timeField);
 
   [[nodiscard]] std::int32_t RepeatBegin() const override { return beginField->Seconds(); }
@@ -33,6 +33,9 @@ class TCPlayControlsBar final : public QToolBar, public TCRepeatFields {
   void typingEnded();
 
  private:
+  // An action owns its field, whichever bar the field is on.
+  QWidgetAction beginAction;
+  QWidgetAction endAction;
   TCRepeatTimeField* beginField = nullptr;
   TCRepeatTimeField* endField = nullptr;
 };

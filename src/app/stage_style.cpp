@@ -1,6 +1,7 @@
 #include "app/stage_style.h"
 
 #include <QPainter>
+#include <QToolBar>
 
 #include "app/picture_icon.h"
 #include "resources/icons/icon_names.h"
@@ -10,8 +11,48 @@ namespace {
 
 constexpr int kHalfBright = 128;
 
+// An upright bar has to show all options of the table beside the playlist of a 1280 x 720 screen: its gaps
+// are this wide, and its buttons that much less tall than the toolkit has them.
+constexpr int kUprightGap = 6;
+constexpr int kUprightTrim = 2;
+
 bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < kHalfBright;
+}
+
+// Seen from the other end of a stage, on black and on white: the toolkit's own is one shade from a button
+// that is off. The picture on it is drawn in the highlight's text colour.
+void DrawButtonThatIsOn(const QStyleOption& option, QPainter& painter) {
+  constexpr qreal kCorner = 3.0;
+  constexpr int kHover = 120;
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  QColor fill = option.palette.color(enabled ? QPalette::Highlight : QPalette::Mid);
+  if (option.state.testFlag(QStyle::State_Sunken)) {
+    fill = fill.darker(kHover);
+  } else if (option.state.testFlag(QStyle::State_MouseOver)) {
+    fill = fill.lighter(kHover);
+  }
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(fill);
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), kCorner, kCorner);
+  painter.restore();
+}
+
+// Between two groups of buttons, a line that is seen on black as well.
+void DrawGap(const QStyleOption& option, QPainter& painter) {
+  constexpr int kInset = 5;
+  const QRect& place = option.rect;
+  const QPoint middle = place.center();
+  painter.save();
+  painter.setPen(option.palette.color(QPalette::Mid));
+  if (option.state.testFlag(QStyle::State_Horizontal)) {
+    painter.drawLine(middle.x(), place.top() + kInset, middle.x(), place.bottom() - kInset);
+  } else {
+    painter.drawLine(place.left() + kInset, middle.y(), place.right() - kInset, middle.y());
+  }
+  painter.restore();
 }
 
 // The toolkit's own edges are darker than the window, on any window.
@@ -45,8 +86,28 @@ void TCStageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (field != nullptr) return DrawField(*field, painter, widget);
   }
+  if (element == PE_IndicatorToolBarSeparator) return DrawGap(*option, *painter);
+  if (element == PE_PanelButtonTool && option->state.testFlag(State_On)) {
+    return DrawButtonThatIsOn(*option, *painter);
+  }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   if (element == PE_IndicatorCheckBox && IsDark(option->palette)) DrawEdge(*option, *painter);
+}
+
+int TCStageStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  const bool upright = option != nullptr && !option->state.testFlag(State_Horizontal);
+  if (metric == PM_ToolBarSeparatorExtent && upright) return kUprightGap;
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QSize TCStageStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                     const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  if (type == CT_ToolButton && widget != nullptr) {
+    const auto* bar = qobject_cast<const QToolBar*>(widget->parentWidget());
+    if (bar != nullptr && bar->orientation() == Qt::Vertical) size.rheight() -= kUprightTrim;
+  }
+  return size;
 }
 
 void TCStageStyle::DrawField(const QStyleOptionFrame& field, QPainter* painter, const QWidget* widget) const {

@@ -40,6 +40,7 @@ constexpr std::array kOptionCommands = {
     Toggle<&TCSettings::disableEditing>(TCCommandId::DisableEditing),
     Toggle<&TCSettings::foldersSaveFormat>(TCCommandId::FoldersSaveFormat),
     Toggle<&TCSettings::loadLastFileOnProgramRun>(TCCommandId::LoadLastFile),
+    Toggle<&TCSettings::loadLastWindowState>(TCCommandId::LoadLastWindowState),
     Toggle<&TCSettings::resetPending>(TCCommandId::Reset),
 };
 

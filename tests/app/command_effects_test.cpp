@@ -55,6 +55,21 @@ class CommandEffects : public TCWholeProgram {
     }
   }
 
+  // Neither the songs nor the document's mark nor the copied songs change, after something that could be
+  // undone.
+  void ExpectNothing(Id id) {
+    SelectRow(0);
+    Trigger(Id::MoveSongDown);
+    SelectRow(0);
+    Trigger(Id::FileSave);
+    ASSERT_FALSE(app->Document().IsModified());
+    Trigger(id);
+    EXPECT_EQ(CellText(0, 4), QStringLiteral("two.mp3"));
+    EXPECT_EQ(CellText(1, 4), QStringLiteral("one.mp3"));
+    EXPECT_EQ(app->Document().Placement().CopyText(), u"");
+    EXPECT_FALSE(app->Document().IsModified());
+  }
+
   // A prompt opens, and what is entered becomes the value.
   void ExpectPrompt(Id id, const std::int32_t& value) {
     ASSERT_NE(value, 7);
@@ -283,6 +298,9 @@ const std::array kEffects = {
              [](Program& p) { p.ExpectToggle(Id::FoldersSaveFormat, &TCSettings::foldersSaveFormat); }},
     TCEffect{Id::LoadLastFile,
              [](Program& p) { p.ExpectToggle(Id::LoadLastFile, &TCSettings::loadLastFileOnProgramRun); }},
+    TCEffect{
+        Id::LoadLastWindowState,
+        [](Program& p) { p.ExpectToggle(Id::LoadLastWindowState, &TCSettings::loadLastWindowState); }},
     TCEffect{Id::Reset, [](Program& p) { p.ExpectToggle(Id::Reset, &TCSettings::resetPending); }},
 
     TCEffect{Id::SongLatency,
@@ -416,21 +434,36 @@ const std::array kEffects = {
     TCEffect{Id::PropertiesPane, [](Program& p) { p.ExpectPane(Id::PropertiesPane, p.Frame().Properties()); }},
     TCEffect{Id::PlayerPane, [](Program& p) { p.ExpectPane(Id::PlayerPane, p.Frame().PlayerPane()); }},
     TCEffect{Id::MessagePane, [](Program& p) { p.ExpectPane(Id::MessagePane, p.Frame().MessageDisplay()); }},
+    TCEffect{Id::LiveViewMode,
+             [](Program& p) {
+               const TCBrevantView& list = p.Frame().PlaylistView();
+               const QSize before = list.size();
+               p.ExpectToggle(Id::LiveViewMode, &TCSettings::liveViewMode);
+               EXPECT_EQ(list.size(), before);
+               p.Trigger(Id::LiveViewMode);
+               QCoreApplication::processEvents();
+               EXPECT_EQ(list.size(), p.Frame().centralWidget()->size()) << "nothing but the playlist";
+               EXPECT_FALSE(p.app->Actions().ActionOf(Id::PlayerPane)->isChecked());
+             }},
     TCEffect{Id::StatusBarVisible,
              [](Program& p) { p.ExpectPane(Id::StatusBarVisible, p.Frame().StatusLine()); }},
+    TCEffect{Id::ToolbarVisible,
+             [](Program& p) { p.ExpectPane(Id::ToolbarVisible, p.Frame().PlayControls()); }},
     TCEffect{Id::FocusPlaylist,
              [](Program& p) {
                p.Frame().MessageDisplay().setFocus();
                p.Trigger(Id::FocusPlaylist);
                EXPECT_EQ(QApplication::focusWidget(), &p.Frame().PlaylistView());
              }},
-    // These two do nothing at all, so that nothing else does something on their keys.
+    // These four do nothing at all, so that nothing else does something on their keys.
     TCEffect{Id::SelectAll,
              [](Program& p) {
                p.Trigger(Id::SelectAll);
                EXPECT_TRUE(p.Frame().PlaylistView().SelectedRows().empty());
              }},
     TCEffect{Id::SwallowF4, [](Program& p) { p.ExpectCall(Id::SwallowF4, ""); }},
+    TCEffect{Id::Cut, [](Program& p) { p.ExpectNothing(Id::Cut); }},
+    TCEffect{Id::Undo, [](Program& p) { p.ExpectNothing(Id::Undo); }},
     TCEffect{Id::About,
              [](Program& p) {
                p.Trigger(Id::About);
@@ -470,8 +503,12 @@ TEST_F(CommandEffects, EveryMenuEntryIsTheActionOfACommand) {
     titles.append(title->text());
     ASSERT_NE(title->menu(), nullptr);
     EXPECT_FALSE(title->menu()->isEmpty()) << title->text().toStdString();
+    QList<QAction*> entries = title->menu()->actions();
     for (const QAction* entry : title->menu()->actions()) {
-      if (entry->isSeparator()) continue;
+      if (entry->menu() != nullptr) entries.append(entry->menu()->actions());
+    }
+    for (const QAction* entry : entries) {
+      if (entry->isSeparator() || entry->menu() != nullptr) continue;
       EXPECT_TRUE(actions.contains(entry)) << entry->text().toStdString();
       EXPECT_TRUE(entry->isEnabled() && entry->isVisible()) << entry->text().toStdString();
     }

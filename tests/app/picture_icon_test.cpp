@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPalette>
 #include <QPixmap>
+#include <algorithm>
 
 #include "app/stage_palette.h"
 #include "resources/icons/icon_names.h"
@@ -33,6 +34,47 @@ TEST(PictureIcon, FollowsThePaletteOfTheMoment) {
   EXPECT_NE(InkOf(icon, QIcon::Disabled), QColor(Qt::white));
   QGuiApplication::setPalette(StagePalette(kBlack, kWhite));
   EXPECT_EQ(InkOf(icon), QColor(Qt::black));
+  QGuiApplication::setPalette(before);
+}
+
+// Pixels that are neither ink nor paper: the soft edges of lines. A picture blown up is soft all over.
+double SoftShare(const QImage& image) {
+  int soft = 0;
+  int inked = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const int alpha = image.pixelColor(x, y).alpha();
+      inked += alpha > 0 ? 1 : 0;
+      soft += alpha > 0 && alpha < 255 ? 1 : 0;
+    }
+  }
+  return inked == 0 ? 1.0 : static_cast<double>(soft) / inked;
+}
+
+TEST(PictureIcon, IsDrawnForThePixelsOfTheScreenItIsShownOn) {
+  const QIcon icon = PictureIcon("stop");
+  double before = 1.0;
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const QPixmap picture = icon.pixmap(QSize(24, 24), scale);
+    EXPECT_EQ(picture.size(), QSize(24, 24) * scale);
+    EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(24, 24));
+    const double soft = SoftShare(picture.toImage());
+    EXPECT_LE(soft, before) << scale;
+    EXPECT_LT(soft, 0.35) << scale;
+    before = std::max(soft, 0.2);
+  }
+}
+
+TEST(PictureIcon, OfAButtonThatIsOnHasTheColourOfTheHighlightsText) {
+  const QPalette before = QGuiApplication::palette();
+  QGuiApplication::setPalette(StagePalette(kBlack, kWhite));
+  const QIcon icon = PictureIcon("stop");
+  const auto ink = [&icon](QIcon::Mode mode, QIcon::State state) {
+    return icon.pixmap(QSize(48, 48), 1.0, mode, state).toImage().pixelColor(24, 24);
+  };
+  EXPECT_EQ(ink(QIcon::Normal, QIcon::On), QColor(Qt::white));
+  EXPECT_EQ(ink(QIcon::Normal, QIcon::Off), QColor(Qt::black));
+  EXPECT_EQ(ink(QIcon::Disabled, QIcon::On), ink(QIcon::Disabled, QIcon::Off));
   QGuiApplication::setPalette(before);
 }
 

@@ -9,8 +9,12 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QPalette>
+#include <QToolBar>
+#include <QToolButton>
 #include <algorithm>
+#include <cmath>
 
+#include "app/picture_icon.h"
 #include "app/stage_palette.h"
 
 namespace brevant {
@@ -57,6 +61,49 @@ TEST(StageStyle, OnADarkWindowFieldsAndBoxesHaveAnEdgeThatIsSeen) {
     }
     EXPECT_GE(brightest, palette.color(QPalette::Mid).lightness());
   }
+}
+
+double Luminance(const QColor& colour) {
+  const auto linear = [](double value) {
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+// 1 to 21; 3 is what tells a sign from its background.
+double Contrast(const QColor& a, const QColor& b) {
+  const double one = Luminance(a) + 0.05;
+  const double other = Luminance(b) + 0.05;
+  return std::max(one, other) / std::min(one, other);
+}
+
+TEST(StageStyle, AButtonThatIsOnStandsOutFromItsBarOnBlackAndOnWhite) {
+  const QPalette before = QApplication::palette();
+  for (const auto& [text, background] : {std::pair(kWhite, kBlack), std::pair(kBlack, kWhite)}) {
+    const QPalette palette = StagePalette(text, background);
+    QApplication::setPalette(palette);
+    QToolBar bar;
+    QAction option(PictureIcon("white_on_black"), QStringLiteral("Option"));
+    option.setCheckable(true);
+    bar.addAction(&option);
+    auto* button = qobject_cast<QToolButton*>(bar.widgetForAction(&option));
+    ASSERT_NE(button, nullptr);
+    button->resize(32, 32);
+    const QPoint besideThePicture(4, 16);
+    EXPECT_LT(
+        Contrast(button->grab().toImage().pixelColor(besideThePicture), palette.color(QPalette::Window)),
+        1.1);
+    option.setChecked(true);
+    const QImage on = button->grab().toImage();
+    EXPECT_GE(Contrast(on.pixelColor(besideThePicture), palette.color(QPalette::Window)), 3.0);
+    // The picture on it is seen as well.
+    double best = 1.0;
+    for (int x = 6; x < 26; ++x) {
+      best = std::max(best, Contrast(on.pixelColor(x, 16), on.pixelColor(besideThePicture)));
+    }
+    EXPECT_GE(best, 4.5);
+  }
+  QApplication::setPalette(before);
 }
 
 TEST(StageStyle, AListOfManyChoicesOpensWithAFewAndIsScrolled) {
