@@ -28,6 +28,10 @@ TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
   setWindowTitle(QStringLiteral("Customize"));
   setSizeGripEnabled(true);
   pages->setObjectName(QStringLiteral("Pages"));
+  keyboard->setWhatsThis(QStringLiteral("Which keys fire a command. What is assigned here acts at once."));
+  options->setWhatsThis(QStringLiteral("How the bars look, and what comes up when a button is pointed at."));
+  commands->setWhatsThis(
+      QStringLiteral("What is on the bars: drag a command onto one, or use the buttons below the lists."));
   pages->addTab(keyboard, QStringLiteral("Keyboard"));
   pages->addTab(options, QStringLiteral("Options"));
   pages->addTab(commands, QStringLiteral("Commands"));

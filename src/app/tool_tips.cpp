@@ -29,11 +29,13 @@ std::u16string ToolTipWithKeys(const TCCommand& command, std::span<const TCKey> 
   const bool named = std::ranges::all_of(keys, [&words](const TCKey& key) {
     return std::ranges::find(words, ToLower(KeyName(key))) != words.end();
   });
-  if (named) return tip;
+  return named ? tip : tip + u" (" + KeysText(keys) + u")";
+}
 
+std::u16string KeysText(std::span<const TCKey> keys) {
   std::u16string list;
   for (const TCKey& key : keys) list += (list.empty() ? u"" : u", ") + KeyName(key);
-  return tip + u" (" + list + u")";
+  return list;
 }
 
 }  // namespace brevant

@@ -12,4 +12,7 @@ namespace brevant {
 // already: "Set the auto repeat begin time (Z)", but "Increase Volume, F9".
 [[nodiscard]] std::u16string ToolTipWithKeys(const TCCommand& command, std::span<const TCKey> keys);
 
+// "P, F5"; empty for no key.
+[[nodiscard]] std::u16string KeysText(std::span<const TCKey> keys);
+
 }  // namespace brevant

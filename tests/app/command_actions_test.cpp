@@ -99,6 +99,7 @@ TEST_F(CommandActions, HaveTheKeysThatTheUserGaveThemAndNoOthers) {
             TCCommandId::Stop);
   EXPECT_EQ(actions.ActionOf(TCCommandId::Stop)->toolTip(),
             QStringLiteral("Stop S, F6, 6 (S, F6, P, Ctrl+Shift+F12)"));
+  EXPECT_TRUE(actions.ActionOf(TCCommandId::Play)->whatsThis().contains(QStringLiteral("Keys: F5")));
   EXPECT_EQ(actions.ActionOf(TCCommandId::Play)->text(), QStringLiteral("&Play\tENTER, P, F5, 5"))
       << "the menu's hint is the table's";
 
