@@ -147,6 +147,8 @@ bool TCBarSet::eventFilter(QObject* /*receiver*/, QEvent* event) {
 void TCBarSet::Reset() {
   Customise({});
   for (const TCBar& made : bars) {
+    // One that floats is a window of its own, and would stay one.
+    if (made.bar->isFloating()) made.bar->setWindowFlags(Qt::Widget);
     window.addToolBar(AreaOf(*made.plan), made.bar);
     made.bar->show();
   }

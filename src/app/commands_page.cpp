@@ -288,10 +288,10 @@ std::optional<TCCommandsPage::TCGap> TCCommandsPage::GapAt(QPoint globalPosition
 
 void TCCommandsPage::ShowGap(const std::optional<TCGap>& gap) {
   const QCursor cursor(gap ? Qt::DragMoveCursor : Qt::ForbiddenCursor);
-  if (QApplication::overrideCursor() == nullptr) {
-    QApplication::setOverrideCursor(cursor);
-  } else {
+  if (std::exchange(cursorShown, true)) {
     QApplication::changeOverrideCursor(cursor);
+  } else {
+    QApplication::setOverrideCursor(cursor);
   }
   if (!gap) {
     delete mark;
@@ -309,7 +309,7 @@ void TCCommandsPage::ShowGap(const std::optional<TCGap>& gap) {
 
 void TCCommandsPage::EndDrag() {
   delete mark;
-  if (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  if (std::exchange(cursorShown, false)) QApplication::restoreOverrideCursor();
 }
 
 void TCCommandsPage::DropOffered(QPoint globalPosition) {

@@ -77,7 +77,8 @@ class TCCommandsPage final : public QWidget {
   QLineEdit* menuName;
   QLabel* menuLabel;
   QLabel* description;
-  QPointer<QWidget> mark;  // of the gap, while something is dragged
+  QPointer<QWidget> mark;    // of the gap, while something is dragged
+  bool cursorShown = false;  // the drag's
 };
 
 }  // namespace brevant

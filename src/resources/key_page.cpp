@@ -18,8 +18,8 @@ arrow keys, Shift+Up and Shift+Down for itself, and Enter when a playlist or a s
 
 Volume, seeking, stepping through songs and playlists, and moves in the playlist manager repeat while the key
 is held. Every other key acts once a press. Some menus hint at other keys than these; the keys on this page are
-the ones that act. A command that your menus and bars do not show is not in your version, and its key does
-nothing.
+the ones that act, until you [give a command others](bars.md#making-bars-and-keys-your-own). A command that your
+menus and bars do not show is not in your version, and its key does nothing.
 
 <!-- Written by brevant_key_table from the command table. Do not edit: run it again. -->
 )";

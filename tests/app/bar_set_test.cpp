@@ -347,7 +347,12 @@ TEST_F(BarSet, ResetBringsBackPlacesButtonsLookAndKeys) {
   bars.Customise(wanted);
   window.addToolBar(Qt::BottomToolBarArea, playBar);
   bars.BarOf(TCTextId::OptionsToolbar)->hide();
+  QToolBar* floating = bars.BarOf(TCTextId::CommandsToolbar);
+  floating->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+  floating->show();
+  ASSERT_TRUE(floating->isFloating());
   bars.Reset();
+  EXPECT_FALSE(floating->isFloating());
   EXPECT_EQ(bars.Customised(), TCCustomisedBars());
   EXPECT_EQ(ShownBars(), 5);
   EXPECT_EQ(window.toolBarArea(playBar), Qt::TopToolBarArea);
