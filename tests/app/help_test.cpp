@@ -146,11 +146,11 @@ TEST_F(Help, F3BringsTheKeysBackToThePlaylist) {
 TEST_F(Help, EveryPartOfTheMainWindowThatHasAPageIsThere) {
   Start(kShow);
   // Windows of their own go by these names where they are made.
-  const QStringList windows{QStringLiteral("Help"),           QStringLiteral("AboutBox"),
-                            QStringLiteral("EnterText"),      QStringLiteral("CreateSetLists"),
-                            QStringLiteral("SongProperties"), QStringLiteral("ConfirmRemove"),
-                            QStringLiteral("SaveChanges"),    QStringLiteral("OpenDocument"),
-                            QStringLiteral("SaveDocument"),   QStringLiteral("FindSongs")};
+  const QStringList windows{
+      QStringLiteral("Help"),           QStringLiteral("AboutBox"),       QStringLiteral("EnterText"),
+      QStringLiteral("CreateSetLists"), QStringLiteral("SongProperties"), QStringLiteral("ConfirmRemove"),
+      QStringLiteral("SaveChanges"),    QStringLiteral("OpenDocument"),   QStringLiteral("SaveDocument"),
+      QStringLiteral("FindSongs"),      QStringLiteral("Customize")};
   for (const TCGuidePlace& place : GuidePlaces()) {
     const QString name =
         QString::fromUtf8(place.objectName.data(), static_cast<qsizetype>(place.objectName.size()));
