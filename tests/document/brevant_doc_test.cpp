@@ -226,6 +226,21 @@ TEST_F(BrevantDocTest, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
   EXPECT_FALSE(document.IsModified());  // options are no part of the document
 }
 
+TEST_F(BrevantDocTest, TheHierarchicalFormatIsReadAndNeverWrittenWhateverTheOptionSays) {
+  files.PutUtf16(u"D:\\Docs\\Sets.brvgl", u"One.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\One.brvpl", u"C:\\a.mp3*02:00\r\n");
+  TCMemoryFiles flat;
+  flat.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\a.mp3\" 02:00\r\n");
+  for (const bool option : {true, false}) {
+    record.settings.foldersSaveFormat = option;
+    files.PutUtf16(kShow, u"Sets.brvgl\r\n");
+    document.OnOpenDocument(kShow);
+    ASSERT_EQ(view.rows.size(), 1u);
+    document.OnSaveDocument(kShow);
+    EXPECT_EQ(files.BytesOf(kShow), flat.BytesOf(kShow));
+  }
+}
+
 TEST_F(BrevantDocTest, WhiteOnBlackSwapsTheColoursAtOnce) {
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::WhiteOnBlack);
