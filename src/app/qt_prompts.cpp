@@ -141,7 +141,8 @@ void TCQtPrompts::SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& 
   dialog.selectFile(last.fileName());
 }
 
-std::vector<std::u16string> TCQtPrompts::ChooseMediaFiles(const TCMediaFileQuestion& question) {
+std::optional<std::vector<std::u16string>> TCQtPrompts::ChooseMediaFiles(
+    const TCMediaFileQuestion& question) {
   const bool one = question.count == TCChooseFiles::One;
   QFileDialog dialog(Parent(), one ? QStringLiteral("Choose a Song") : QStringLiteral("Find Songs"));
   dialog.setObjectName(QStringLiteral("FindSongs"));

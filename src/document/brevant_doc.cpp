@@ -62,6 +62,7 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
       properties(parts.record, parts.folders, parts.playlistView, parts.properties),
       presenter(parts.record, parts.playlistView, parts.treeView, [this] { RefreshProperties(); }),
       tree(parts.record.setLists, parts.treeView),
+      songCheck(parts.files, parts.record.setLists, tree, presenter),
       editor(EditParts()),
       mover(EditParts()),
       placement(EditParts(), editor),
@@ -70,7 +71,7 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
       volumeAndSeek(parts.record.settings, parts.player, parts.repeatFields) {}
 
 TCEditParts TCBrevantDoc::EditParts() {
-  return {parts.record,   parts.files,        tree,
+  return {parts.record,   songCheck,          tree,
           presenter,      parts.playlistView, parts.frame,
           parts.messages, parts.prompts,      [this] { SetModified(); }};
 }
@@ -261,7 +262,7 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
   switch (command) {
     case TCCommandId::SongLatency:
       setLists.RecalcAllTotalTimes();
-      presenter.ShowPlaylist(setLists.currentGroup, setLists.currentPlaylist);
+      presenter.ShowAgain();
       return;
     case TCCommandId::LyricsFontSize:
     case TCCommandId::LyricLines:
@@ -273,10 +274,13 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
 }
 
 void TCBrevantDoc::OnPlayTimerTick() {
+  songCheck.TakeLateAnswers();
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
   if (measuring) ShowTimeRun();
-  if (timesChanged) SetModified();
+  if (!timesChanged) return;
+  presenter.ShowAgain();
+  SetModified();
 }
 
 void TCBrevantDoc::ShowTimeRun() {

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -41,14 +43,12 @@ bool TCDiskFiles::FileExists(std::u16string_view path) {
   return OpenForReading(path, Expect::Found).file.IsOpen();
 }
 
-std::future<bool> TCDiskFiles::AskForFile(std::u16string_view path) {
-  const auto answer = std::make_shared<std::promise<bool>>();
-  const bool asked = questions.Start([answer, native = paths.ToNative(path)] {
-    TCOtherCase ownOtherCase;
-    answer->set_value(FindRegularFile(native, ownOtherCase).file.IsOpen());
+void TCDiskFiles::Ask(std::function<void(TCFileSystem& disk)> question) {
+  const bool asked = questions.Start([question, nativePaths = paths] {
+    TCDiskFiles disk(nativePaths);
+    question(disk);
   });
-  if (!asked) answer->set_value(FileExists(path));
-  return answer->get_future();
+  if (!asked) question(*this);
 }
 
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
