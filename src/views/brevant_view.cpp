@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "views/display_font.h"
+#include "views/menu_place.h"
 #include "views/playlist_header.h"
 #include "views/playlist_model.h"
 #include "views/playlist_row_delegate.h"
@@ -350,9 +351,8 @@ void TCBrevantView::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse's was asked for when the button went down.
   event->accept();
   if (event->reason() == QContextMenuEvent::Mouse) return;
-  const std::int32_t row = SelectedRow();
-  const QPoint place = row >= 0 ? visualRect(playlistModel->index(row, 0)).bottomLeft() : QPoint();
-  Q_EMIT contextMenuWanted(viewport()->mapToGlobal(place));
+  const QModelIndex selected = playlistModel->index(SelectedRow(), 0);
+  Q_EMIT contextMenuWanted(MenuPlace(*viewport(), visualRect(selected)));
 }
 
 void TCBrevantView::keyPressEvent(QKeyEvent* event) {
