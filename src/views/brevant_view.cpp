@@ -133,7 +133,7 @@ void TCBrevantView::SetRowTexts(std::int32_t row, const TCRowTexts& texts) {
 }
 
 void TCBrevantView::SetRowTime(std::int32_t row, std::u16string_view time) {
-  if (time.empty() || !playlistModel->HasRow(row)) return;
+  if (!playlistModel->HasRow(row)) return;
   playlistModel->SetTime(row, time);
   columns.MeasureRow(row);
   columns.Fit();
