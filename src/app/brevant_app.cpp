@@ -16,15 +16,18 @@
 namespace brevant {
 namespace {
 
-constexpr std::u16string_view kFontFace = u"Times New Roman";
-
 TCAppRecord LoadRecord(const TCSettingsFile& settingsFile) {
   TCAppRecord record;
   settingsFile.LoadSettings(record);
   // A face chosen in an earlier run does not come back; the sizes do.
-  record.settings.playListFontTypeName = kFontFace;
-  record.settings.lyricsFontTypeName = kFontFace;
+  record.settings.playListFontTypeName = kDefaultFontFace;
+  record.settings.lyricsFontTypeName = kDefaultFontFace;
   return record;
+}
+
+// Without a settings file it is a first start, whatever else is left from an earlier one.
+bool RestoresWindow(const TCSettings& settings) {
+  return settings.loadLastWindowState && settings.settingsFileFound;
 }
 
 }  // namespace
@@ -49,14 +52,14 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls(),
                 .properties = &frame.Properties()}),
-      router(frame, document, libraries),
+      router(frame, document, help, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
       closeGuard(frame, layout, settingsFile, record, document),
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
-  if (record.settings.loadLastWindowState) frame.RestoreLayout(layout);
+  if (RestoresWindow(record.settings)) frame.RestoreLayout(layout);
   FillMenuBar(*frame.menuBar(), actions);
   frame.Bars().Fill(actions);
   ConnectParts();
@@ -132,6 +135,7 @@ void TCBrevantApp::ConnectParts() {
   ConnectPlaylist();
   ConnectTree();
   ConnectProperties();
+  connect(&help, &TCHelp::windowMade, this, [this](QWidget& window) { keyFilter.PerformIn(window); });
   connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();
@@ -149,6 +153,7 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   firstPaint.emplace(frame, [this, startFile] {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument(startFile);
+    if (RestoresWindow(record.settings) && record.settings.liveViewMode) frame.EnterLiveView();
     TCAboutBox::Open(libraries, frame);
   });
 }

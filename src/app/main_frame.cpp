@@ -5,6 +5,7 @@
 #include <QStatusTipEvent>
 #include <algorithm>
 
+#include "app/kept_state.h"
 #include "app/picture_icon.h"
 #include "app/stage_palette.h"
 #include "resources/icons/icon_names.h"
@@ -17,43 +18,37 @@ namespace {
 constexpr QSize kDefaultSize(1600, 1000);
 // Kept free for the title bar and borders that a window manager adds.
 constexpr QSize kWindowBorders(16, 48);
-constexpr QSize kPaneSize(400, 200);
-constexpr int kManagerWidth = 400;
-// The panes below the playlist have a third of a tall window: three lyric lines of the usual size. The one
-// beside it has a third of a narrow window.
-constexpr int kPaneShare = 3;
 constexpr std::int32_t kMessageLines = 1024;
 constexpr int kFullVolume = 100;
 
+QString BarsName() {
+  return QStringLiteral("CommandBars");
+}
+
 }  // namespace
 
-TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor)
+TCMainFrame::TCMainFrame(TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor)
     : settings(programSettings),
-      inner(new QMainWindow(this)),
-      view(new TCBrevantView(inner)),
-      tree(new TCPlayListManagerTreeView(inner)),
-      properties(new TCPropertiesPane(inner)),
-      playerPane(new TCWMPPaneContainer(&player, &monitor, inner)),
-      messageDisplay(new TCGeneralReportsTab(inner)),
+      panes(new TCPaneSet(this)),
+      view(new TCBrevantView(panes)),
+      tree(new TCPlayListManagerTreeView(panes)),
+      properties(new TCPropertiesPane(panes)),
+      playerPane(new TCWMPPaneContainer(&player, &monitor, panes)),
+      messageDisplay(new TCGeneralReportsTab(panes)),
       playControls(new TCPlayControlsBar(this)),
       bars(*this, *playControls),
       statusLine(new TCStatusLine(this)) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
   setStatusBar(statusLine);
-  // By itself a main window is always a window of its own, whatever its parent.
-  inner->setWindowFlags(Qt::Widget);
-  setCentralWidget(inner);
-  inner->setAccessibleName(QStringLiteral("Playlist and panes"));
-  inner->setContextMenuPolicy(Qt::NoContextMenu);
-  inner->setCentralWidget(view);
-
-  managerDock = AddPane(TCCommandId::PlaylistManagerPane, TCTextId::PlaylistManagerPaneTitle, *tree);
-  propertiesDock = AddPane(TCCommandId::PropertiesPane, TCTextId::PropertiesPaneTitle, *properties);
-  playerDock = AddPane(TCCommandId::PlayerPane, TCTextId::PlayerPaneTitle, *playerPane);
-  messageDock = AddPane(TCCommandId::MessagePane, TCTextId::MessagePaneTitle, *messageDisplay);
+  setCentralWidget(panes);
   PlaceOnScreen();
-  ArrangePanes();
+  panes->Fill({.playlist = *view,
+               .manager = *tree,
+               .properties = *properties,
+               .player = *playerPane,
+               .messages = *messageDisplay},
+              size());
 
   ConnectViews();
   DressViews();
@@ -66,10 +61,12 @@ TCMainFrame::TCMainFrame(const TCSettings& programSettings, TCPlayer& player, co
 
 TCMainFrame::~TCMainFrame() {
   // The panes go with the toolkit's part of this window and tell of it, when nobody is left to be told.
-  for (QDockWidget* pane : {managerDock, propertiesDock, playerDock, messageDock}) pane->disconnect(this);
+  panes->disconnect(this);
 }
 
 void TCMainFrame::ConnectViews() {
+  connect(panes, &TCPaneSet::panesChanged, this, &TCMainFrame::marksChanged);
+  connect(panes, &TCPaneSet::keyboardFreed, view, [this] { view->TakeFocus(); });
   connect(playControls, &TCPlayControlsBar::typingEnded, view, [this] { view->TakeFocus(); });
   connect(&bars, &TCBarSet::shownBarsChanged, this, &TCMainFrame::marksChanged);
   // The mouse stays with the playlist while songs are dragged out of it; the tree shows where they would go.
@@ -89,32 +86,15 @@ void TCMainFrame::DressViews() {
 }
 
 void TCMainFrame::SaveLayout(QSettings& layout) const {
+  KeepState(layout, BarsName(), saveState());
+  panes->SaveLayout(layout);
   view->SaveColumnWidths(layout);
 }
 
 void TCMainFrame::RestoreLayout(const QSettings& layout) {
+  restoreState(KeptState(layout, BarsName()));
+  panes->RestoreLayout(layout);
   view->LoadColumnWidths(layout);
-}
-
-QDockWidget* TCMainFrame::AddPane(TCCommandId id, TCTextId title, QWidget& content) {
-  auto* pane = new QDockWidget(ToQString(TextOf(title)), inner);
-  // Saved layouts know a pane by this name.
-  pane->setObjectName(QStringLiteral("Pane%1").arg(static_cast<int>(id)));
-  pane->setWidget(&content);
-  connect(pane, &QDockWidget::visibilityChanged, this, &TCMainFrame::marksChanged);
-  return pane;
-}
-
-void TCMainFrame::ArrangePanes() {
-  inner->addDockWidget(Qt::LeftDockWidgetArea, managerDock);
-  inner->addDockWidget(Qt::BottomDockWidgetArea, propertiesDock);
-  inner->splitDockWidget(propertiesDock, playerDock, Qt::Horizontal);
-  inner->splitDockWidget(playerDock, messageDock, Qt::Horizontal);
-  // On a small screen the playlist keeps the most of the width.
-  inner->resizeDocks({managerDock}, {std::min(kManagerWidth, width() / kPaneShare)}, Qt::Horizontal);
-  constexpr int kEach = kPaneSize.width();
-  inner->resizeDocks({propertiesDock, playerDock, messageDock}, {kEach, kEach, kEach}, Qt::Horizontal);
-  inner->resizeDocks({playerDock}, {std::max(kPaneSize.height(), height() / kPaneShare)}, Qt::Vertical);
 }
 
 void TCMainFrame::PlaceOnScreen() {
@@ -122,23 +102,16 @@ void TCMainFrame::PlaceOnScreen() {
 }
 
 bool TCMainFrame::Handles(TCCommandId command) {
-  switch (command) {
-    case TCCommandId::PlaylistManagerPane:
-    case TCCommandId::PropertiesPane:
-    case TCCommandId::PlayerPane:
-    case TCCommandId::MessagePane:
-    case TCCommandId::ToolbarVisible:
-    case TCCommandId::StatusBarVisible:
-    case TCCommandId::Exit:
-      return true;
-    default:
-      return false;
-  }
+  return TCPaneSet::IsPane(command) || command == TCCommandId::LiveViewMode ||
+         command == TCCommandId::ToolbarVisible || command == TCCommandId::StatusBarVisible ||
+         command == TCCommandId::Exit;
 }
 
 bool TCMainFrame::OnCommand(TCCommandId command) {
-  if (QDockWidget* pane = PaneOf(command)) {
-    pane->setVisible(pane->isHidden());
+  if (TCPaneSet::IsPane(command)) {
+    panes->Toggle(command);
+  } else if (command == TCCommandId::LiveViewMode) {
+    ToggleLiveView();
   } else if (command == TCCommandId::ToolbarVisible) {
     bars.Toggle();
   } else if (command == TCCommandId::StatusBarVisible) {
@@ -152,25 +125,20 @@ bool TCMainFrame::OnCommand(TCCommandId command) {
 }
 
 bool TCMainFrame::IsChecked(TCCommandId command) const {
-  // "Hidden" is what somebody asked for; a pane behind another tab or in a window not yet shown is open.
-  if (const QDockWidget* pane = PaneOf(command)) return !pane->isHidden();
+  if (TCPaneSet::IsPane(command)) return panes->IsOpen(command);
+  if (command == TCCommandId::LiveViewMode) return settings.liveViewMode;
   if (command == TCCommandId::ToolbarVisible) return bars.AnyShown();
   return command == TCCommandId::StatusBarVisible && !statusLine->isHidden();
 }
 
-QDockWidget* TCMainFrame::PaneOf(TCCommandId command) const {
-  switch (command) {
-    case TCCommandId::PlaylistManagerPane:
-      return managerDock;
-    case TCCommandId::PropertiesPane:
-      return propertiesDock;
-    case TCCommandId::PlayerPane:
-      return playerDock;
-    case TCCommandId::MessagePane:
-      return messageDock;
-    default:
-      return nullptr;
+void TCMainFrame::ToggleLiveView() {
+  settings.liveViewMode = !settings.liveViewMode;
+  if (settings.liveViewMode) {
+    panes->EnterLiveView();
+  } else {
+    panes->LeaveLiveView();
   }
+  Q_EMIT marksChanged();
 }
 
 void TCMainFrame::ShowTitle(std::u16string_view name, TCModifiedMark modified) {

@@ -4,7 +4,6 @@
 // only.
 #pragma once
 
-#include <QDockWidget>
 #include <QMainWindow>
 #include <QSettings>
 #include <cstdint>
@@ -13,6 +12,7 @@
 
 #include "app/bar_set.h"
 #include "app/general_reports_tab.h"
+#include "app/pane_set.h"
 #include "app/play_controls_bar.h"
 #include "app/properties_pane.h"
 #include "app/status_line.h"
@@ -31,9 +31,9 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   Q_OBJECT
 
  public:
-  // Builds everything the window holds, shown or not: songs play and lines are kept while their panes are
-  // closed. Sets the player's volume to 100.
-  TCMainFrame(const TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor);
+  // Builds everything the window holds. Sets the player's volume to 100. Of the options the frame changes
+  // live view alone.
+  TCMainFrame(TCSettings& programSettings, TCPlayer& player, const TCPlayerMonitor& monitor);
 
   ~TCMainFrame() override;
 
@@ -45,12 +45,17 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   [[nodiscard]] TCPlayControlsBar& PlayControls() { return *playControls; }
   [[nodiscard]] TCBarSet& Bars() { return bars; }
   [[nodiscard]] TCStatusLine& StatusLine() { return *statusLine; }
+  [[nodiscard]] TCPaneSet& Panes() { return *panes; }
 
-  // The frame's own commands: its panes and bars, the status bar and Exit.
+  // The frame's own commands: its panes and bars, live view, the status bar and Exit.
   [[nodiscard]] static bool Handles(TCCommandId command);
   bool OnCommand(TCCommandId command);
-  // The pane or bar that the command stands for is open.
+  // The pane or bar that the command stands for is open; the option is on.
   [[nodiscard]] bool IsChecked(TCCommandId command) const;
+
+  // Closes the panes, or brings them back; the option is the caller's.
+  void EnterLiveView() { panes->EnterLiveView(); }
+  void LeaveLiveView() { panes->LeaveLiveView(); }
 
   // What the user arranged by hand, for the next start.
   void SaveLayout(QSettings& layout) const;
@@ -70,12 +75,10 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   bool event(QEvent* event) override;
 
  private:
-  QDockWidget* AddPane(TCCommandId id, TCTextId title, QWidget& content);
   void ConnectViews();
   void DressViews();
-  void ArrangePanes();
   void PlaceOnScreen();
-  [[nodiscard]] QDockWidget* PaneOf(TCCommandId command) const;
+  void ToggleLiveView();
 
   // The options that colours and fonts come from, as they are shown.
   struct TCShownLook {
@@ -90,23 +93,18 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
     friend bool operator==(const TCShownType&, const TCShownType&) = default;
   };
 
-  const TCSettings& settings;
+  TCSettings& settings;
   std::optional<TCShownLook> shownLook;
   std::optional<TCShownType> shownPlaylistType;
   std::optional<TCShownType> shownLyricType;
 
-  // The panes and the playlist live in a window of their own inside this one, so that their layout and the
-  // command bars' can be kept and restored apart. The toolkit owns every child.
-  QMainWindow* inner = nullptr;
+  // The toolkit owns every child.
+  TCPaneSet* panes = nullptr;
   TCBrevantView* view = nullptr;
   TCPlayListManagerTreeView* tree = nullptr;
   TCPropertiesPane* properties = nullptr;
   TCWMPPaneContainer* playerPane = nullptr;
   TCGeneralReportsTab* messageDisplay = nullptr;
-  QDockWidget* managerDock = nullptr;
-  QDockWidget* propertiesDock = nullptr;
-  QDockWidget* playerDock = nullptr;
-  QDockWidget* messageDock = nullptr;
   TCPlayControlsBar* playControls = nullptr;
   TCBarSet bars;
   TCStatusLine* statusLine = nullptr;

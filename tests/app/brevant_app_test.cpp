@@ -144,6 +144,19 @@ TEST_F(BrevantApp, ColumnWidthsComeBackOnlyWithTheLastWindowState) {
   EXPECT_EQ(Frame().PlaylistView().columnWidth(1), 217);
 }
 
+TEST_F(BrevantApp, LiveViewComesBackWithTheLayoutBehindIt) {
+  Start();
+  Press(Qt::Key_Home);
+  EXPECT_TRUE(Frame().close());
+  EXPECT_EQ(Written(u"LiveViewMode"), u"Yes");
+  app.reset();
+  Start();
+  EXPECT_FALSE(Frame().Tree().isVisible());
+  EXPECT_TRUE(app->Actions().ActionOf(TCCommandId::LiveViewMode)->isChecked());
+  Press(Qt::Key_Home);
+  EXPECT_TRUE(Frame().Tree().isVisible());
+}
+
 TEST_F(BrevantApp, OpensTheLastDocumentWhenNoneIsNamed) {
   files.Put(kIniPath, "[Brevant]\r\nLastLoadedFileName=\\shows\\show.brv\r\n");
   Start();

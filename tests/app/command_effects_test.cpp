@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QWhatsThis>
 #include <algorithm>
 #include <array>
 
@@ -43,6 +44,11 @@ class CommandEffects : public TCWholeProgram {
     player.ForgetCalls();
     Trigger(id);
     EXPECT_EQ(LastCall(), call);
+  }
+
+  // The page of the guide that is open.
+  [[nodiscard]] QString GuideTitle() {
+    return app->Help().Window() != nullptr ? app->Help().Window()->Page().Title() : QString();
   }
 
   // The option turns over with each use, and the mark with it.
@@ -298,6 +304,9 @@ const std::array kEffects = {
              [](Program& p) { p.ExpectToggle(Id::FoldersSaveFormat, &TCSettings::foldersSaveFormat); }},
     TCEffect{Id::LoadLastFile,
              [](Program& p) { p.ExpectToggle(Id::LoadLastFile, &TCSettings::loadLastFileOnProgramRun); }},
+    TCEffect{
+        Id::LoadLastWindowState,
+        [](Program& p) { p.ExpectToggle(Id::LoadLastWindowState, &TCSettings::loadLastWindowState); }},
     TCEffect{Id::Reset, [](Program& p) { p.ExpectToggle(Id::Reset, &TCSettings::resetPending); }},
 
     TCEffect{Id::SongLatency,
@@ -431,6 +440,17 @@ const std::array kEffects = {
     TCEffect{Id::PropertiesPane, [](Program& p) { p.ExpectPane(Id::PropertiesPane, p.Frame().Properties()); }},
     TCEffect{Id::PlayerPane, [](Program& p) { p.ExpectPane(Id::PlayerPane, p.Frame().PlayerPane()); }},
     TCEffect{Id::MessagePane, [](Program& p) { p.ExpectPane(Id::MessagePane, p.Frame().MessageDisplay()); }},
+    TCEffect{Id::LiveViewMode,
+             [](Program& p) {
+               const TCBrevantView& list = p.Frame().PlaylistView();
+               const QSize before = list.size();
+               p.ExpectToggle(Id::LiveViewMode, &TCSettings::liveViewMode);
+               EXPECT_EQ(list.size(), before);
+               p.Trigger(Id::LiveViewMode);
+               QCoreApplication::processEvents();
+               EXPECT_EQ(list.size(), p.Frame().centralWidget()->size()) << "nothing but the playlist";
+               EXPECT_FALSE(p.app->Actions().ActionOf(Id::PlayerPane)->isChecked());
+             }},
     TCEffect{Id::StatusBarVisible,
              [](Program& p) { p.ExpectPane(Id::StatusBarVisible, p.Frame().StatusLine()); }},
     TCEffect{Id::ToolbarVisible,
@@ -450,6 +470,22 @@ const std::array kEffects = {
     TCEffect{Id::SwallowF4, [](Program& p) { p.ExpectCall(Id::SwallowF4, ""); }},
     TCEffect{Id::Cut, [](Program& p) { p.ExpectNothing(Id::Cut); }},
     TCEffect{Id::Undo, [](Program& p) { p.ExpectNothing(Id::Undo); }},
+    TCEffect{Id::HelpTopics,
+             [](Program& p) {
+               p.Trigger(Id::HelpTopics);
+               EXPECT_EQ(p.GuideTitle(), QStringLiteral("The Brevant guide"));
+             }},
+    TCEffect{Id::Help,
+             [](Program& p) {
+               p.Trigger(Id::Help);
+               EXPECT_EQ(p.GuideTitle(), QStringLiteral("Performing"));
+             }},
+    TCEffect{Id::ContextHelp,
+             [](Program& p) {
+               p.Trigger(Id::ContextHelp);
+               EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+               QWhatsThis::leaveWhatsThisMode();
+             }},
     TCEffect{Id::About,
              [](Program& p) {
                p.Trigger(Id::About);

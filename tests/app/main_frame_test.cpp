@@ -76,10 +76,42 @@ TEST_F(MainFrame, ThePanesTitlesAreDrawnAsTheyStand) {
       << titles.join(u'|').toStdString();
 }
 
-TEST_F(MainFrame, PanesThatAreNotBuiltAreNotItsOwn) {
-  for (const TCCommandId command : {TCCommandId::LiveViewMode, TCCommandId::Play}) {
-    EXPECT_FALSE(TCMainFrame::Handles(command));
-    EXPECT_FALSE(frame.OnCommand(command));
+TEST_F(MainFrame, WhatIsNotItsOwnItLeavesAlone) {
+  EXPECT_FALSE(TCMainFrame::Handles(TCCommandId::Play));
+  EXPECT_FALSE(frame.OnCommand(TCCommandId::Play));
+}
+
+TEST_F(MainFrame, LiveViewTurnsTheOptionOverAndLeavesMenuBarsAndStatusBarAlone) {
+  frame.resize(1200, 800);
+  frame.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame));
+  const QSignalSpy marks(&frame, &TCMainFrame::marksChanged);
+  EXPECT_TRUE(TCMainFrame::Handles(TCCommandId::LiveViewMode));
+  EXPECT_FALSE(frame.IsChecked(TCCommandId::LiveViewMode));
+  EXPECT_TRUE(frame.OnCommand(TCCommandId::LiveViewMode));
+  EXPECT_TRUE(settings.liveViewMode);
+  EXPECT_TRUE(frame.IsChecked(TCCommandId::LiveViewMode));
+  EXPECT_GT(marks.count(), 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(frame.PlaylistView().size(), frame.centralWidget()->size());
+  EXPECT_TRUE(frame.PlayControls().isVisible());
+  EXPECT_TRUE(frame.StatusLine().isVisible());
+  EXPECT_TRUE(frame.OnCommand(TCCommandId::LiveViewMode));
+  EXPECT_FALSE(settings.liveViewMode);
+  EXPECT_TRUE(frame.Tree().isVisible());
+}
+
+TEST_F(MainFrame, ThePlaylistGetsTheKeyboardOfAPaneThatIsClosed) {
+  frame.show();
+  frame.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+  for (const TCCommandId command : {TCCommandId::PlaylistManagerPane, TCCommandId::LiveViewMode}) {
+    frame.Tree().setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), &frame.Tree());
+    frame.OnCommand(command);
+    EXPECT_EQ(QApplication::focusWidget(), &frame.PlaylistView());
+    frame.OnCommand(command);
+    EXPECT_EQ(QApplication::focusWidget(), &frame.PlaylistView()) << "an opened pane does not take it";
   }
 }
 
