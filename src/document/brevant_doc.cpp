@@ -32,7 +32,9 @@ constexpr std::array kOptionCommands = {
     Toggle<&TCSettings::autoSongAdvance>(TCCommandId::AutoSongAdvance),
     Toggle<&TCSettings::autoPlayPlayList>(TCCommandId::AutoPlayPlayList),
     Toggle<&TCSettings::autoRecycle>(TCCommandId::AutoRecycle),
-    Toggle<&TCSettings::whiteOnBlack>(TCCommandId::WhiteOnBlack),  // with two colours that follow it
+    // With the two colours that follow it.
+    OptionCommand{TCCommandId::WhiteOnBlack, [](const TCSettings& settings) { return settings.whiteOnBlack; },
+                  [](TCSettings& settings) { settings.SetWhiteOnBlack(!settings.whiteOnBlack); }},
     Toggle<&TCSettings::dynamicPlayColours>(TCCommandId::DynamicPlayColours),
     Toggle<&TCSettings::immediatePlay>(TCCommandId::ImmediatePlay),
     Toggle<&TCSettings::playlistManagerImmediatePlay>(TCCommandId::PlaylistManagerImmediatePlay),
@@ -41,7 +43,8 @@ constexpr std::array kOptionCommands = {
     Toggle<&TCSettings::foldersSaveFormat>(TCCommandId::FoldersSaveFormat),
     Toggle<&TCSettings::loadLastFileOnProgramRun>(TCCommandId::LoadLastFile),
     Toggle<&TCSettings::loadLastWindowState>(TCCommandId::LoadLastWindowState),
-    Toggle<&TCSettings::resetPending>(TCCommandId::Reset),
+    OptionCommand{TCCommandId::Reset, [](const TCSettings& settings) { return settings.resetPending; },
+                  [](TCSettings& settings) { settings.ToggleReset(); }},
 };
 
 const OptionCommand* OptionOf(TCCommandId command) {
@@ -244,9 +247,7 @@ bool TCBrevantDoc::OnCommand(TCCommandId command) {
 }
 
 void TCBrevantDoc::ToggleOption(TCCommandId command) {
-  TCSettings& settings = parts.record.settings;
-  OptionOf(command)->invert(settings);
-  if (command == TCCommandId::WhiteOnBlack) settings.SetWhiteOnBlack(settings.whiteOnBlack);
+  OptionOf(command)->invert(parts.record.settings);
   parts.frame.ShowOptions();
   RefreshProperties();
   if (command == TCCommandId::WhiteOnBlack || command == TCCommandId::DynamicPlayColours)

@@ -12,6 +12,9 @@ namespace brevant {
 std::u16string CleanName(std::u16string_view typed) {
   std::u16string name(typed);
   std::erase(name, u'"');
+  // A paste can bring them into a field of one line, which shows a blank for each.
+  std::replace_if(
+      name.begin(), name.end(), [](char16_t unit) { return unit == u'\r' || unit == u'\n'; }, u' ');
   return std::u16string(Trim(name));
 }
 

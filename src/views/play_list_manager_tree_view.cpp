@@ -46,6 +46,10 @@ TCPlayListManagerTreeView::TCPlayListManagerTreeView(QWidget* parent)
       edgeScroll(*this, [this](QPoint place) { AimAt(place); }) {
   setObjectName(QStringLiteral("playListManagerTree"));
   setAccessibleName(QStringLiteral("Play List Manager"));
+  setWhatsThis(
+      QStringLiteral("All groups, playlists and songs of the document. A double-click, or Enter, takes a "
+                     "playlist or a song to "
+                     "the playlist window; entries are renamed, dragged to another place and removed here."));
   setModel(nodes);
   setItemDelegate(delegate);
   setIconSize(kPictureSize);
