@@ -21,6 +21,14 @@ QLabel* AddText(QVBoxLayout& layout, const QString& text) {
   return label;
 }
 
+TCAboutBox* OpenOver(QWidget& parent) {
+  for (QObject* child : parent.children()) {
+    auto* box = dynamic_cast<TCAboutBox*>(child);
+    if (box != nullptr && box->isVisible()) return box;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 TCAboutBox::TCAboutBox(const QStringList& libraries, QWidget* parent) : QDialog(parent) {
@@ -53,12 +61,14 @@ TCAboutBox::TCAboutBox(const QStringList& libraries, QWidget* parent) : QDialog(
 }
 
 void TCAboutBox::Open(const QStringList& libraries, QWidget& parent) {
-  for (const QObject* child : parent.children()) {
-    if (dynamic_cast<const TCAboutBox*>(child) != nullptr) return;
-  }
+  if (OpenOver(parent) != nullptr) return;
   auto* box = new TCAboutBox(libraries, &parent);
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->open();
+}
+
+void TCAboutBox::Close(QWidget& parent) {
+  if (TCAboutBox* box = OpenOver(parent)) box->accept();
 }
 
 }  // namespace brevant

@@ -15,6 +15,9 @@ class TCAboutBox : public QDialog {
   // Opens one over `parent` and returns at once: the poll goes on, and the box closes and deletes itself on
   // Enter, Esc, Space or its button. Nothing when one is open already.
   static void Open(const QStringList& libraries, QWidget& parent);
+
+  // Closes the one that is open over `parent`, if any.
+  static void Close(QWidget& parent);
 };
 
 }  // namespace brevant

@@ -1,5 +1,6 @@
 #include "app/add_play_items_dlg.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -104,6 +105,7 @@ QComboBox* TCAddPlayItemsDlg::MakeList(const QString& name, TCTextId label,
   auto* list = new QComboBox(this);
   list->setObjectName(name);
   list->setAccessibleName(ToQString(TextOf(label)));
+  list->view()->setAccessibleName(list->accessibleName());
   list->setModel(new QStringListModel(list));
   // Not as wide as its longest name: that would be measured for each of thousands.
   list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -1,6 +1,8 @@
 #include "app/brevant_app.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QItemSelectionModel>
 #include <QMenuBar>
 #include <utility>
@@ -150,22 +152,65 @@ void TCBrevantApp::ConnectParts() {
 void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   frame.show();
   frame.PlaylistView().TakeFocus();
-  firstPaint.emplace(frame, [this, startFile] {
+  firstFile = startFile;
+  firstPaint.emplace(frame, [this] {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
-    OpenFirstDocument(startFile);
+    OpenFirstDocument();
     if (RestoresWindow(record.settings) && record.settings.liveViewMode) frame.EnterLiveView();
     TCAboutBox::Open(libraries, frame);
   });
 }
 
-void TCBrevantApp::OpenFirstDocument(const TCStartFile& startFile) {
-  if (!startFile.named) {
-    if (record.settings.loadLastFileOnProgramRun) LoadLastFile();
-  } else if (startFile.modelPath) {
-    document.OpenDocumentFile(*startFile.modelPath);
-  } else {
-    frame.ShowStatus(RefusedNameText(startFile.native));
+void TCBrevantApp::OpenFirstDocument() {
+  firstDocumentOpened = true;
+  if (firstFile.named) {
+    OpenNamed(firstFile);
+  } else if (record.settings.loadLastFileOnProgramRun) {
+    LoadLastFile();
   }
+}
+
+void TCBrevantApp::OpenNamed(const TCStartFile& file) {
+  if (file.modelPath) {
+    document.OpenDocumentFile(*file.modelPath);
+  } else {
+    frame.ShowStatus(RefusedNameText(file.native));
+  }
+}
+
+void TCBrevantApp::ComeForward() {
+  frame.setWindowState(frame.windowState() & ~Qt::WindowMinimized);
+  frame.show();
+  frame.raise();
+  QWidget* dialog = QApplication::activeModalWidget();
+  if (dialog != nullptr) dialog->raise();
+  (dialog != nullptr ? dialog : &frame)->activateWindow();
+}
+
+bool TCBrevantApp::IsHeldByDialog(const std::string& nativeName) {
+  if (QApplication::activeModalWidget() == nullptr) return false;
+  frame.ShowStatus(u"Not opened while a dialog is open: " +
+                   FromQString(QFileInfo(QFile::decodeName(nativeName.c_str())).fileName()));
+  return true;
+}
+
+bool TCBrevantApp::OpenFromOutside(const std::string& nativeName) {
+  const TCStartFile wanted{true, nativeName, TCNativePaths::FromNative(nativeName)};
+  if (!firstDocumentOpened) {
+    firstFile = wanted;
+    return true;
+  }
+  TCAboutBox::Close(frame);  // it asks nothing
+  ComeForward();
+  if (IsHeldByDialog(nativeName)) return false;
+  // Not inside the call: the user may be asked something, and whoever called waits for an answer.
+  QMetaObject::invokeMethod(
+      this,
+      [this, wanted] {
+        if (!IsHeldByDialog(wanted.native)) OpenNamed(wanted);
+      },
+      Qt::QueuedConnection);
+  return true;
 }
 
 void TCBrevantApp::LoadLastFile() {

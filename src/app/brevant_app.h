@@ -16,6 +16,7 @@
 #include "app/help.h"
 #include "app/key_filter.h"
 #include "app/main_frame.h"
+#include "app/program_door.h"
 #include "app/qt_prompts.h"
 #include "document/brevant_doc.h"
 #include "model/app_record.h"
@@ -48,12 +49,16 @@ struct TCStartFile {
   std::optional<std::u16string> modelPath;  // empty when the model cannot hold the name
 };
 
-class TCBrevantApp : public QObject {
+class TCBrevantApp : public QObject, public TCProgramDoor {
  public:
   explicit TCBrevantApp(const TCAppParts& parts);
 
   // Shows the main window; once it can be seen, opens the first document and shows the About box.
   void InitInstance(const TCStartFile& startFile);
+
+  // TCProgramDoor. A file that is wanted before the first document is opened is opened in its place.
+  void ComeForward() override;
+  bool OpenFromOutside(const std::string& nativeName) override;
 
   // The session ends and nobody can be asked.
   void EndSession();
@@ -71,7 +76,9 @@ class TCBrevantApp : public QObject {
   void ConnectProperties();
   void DropRowsAt(QPoint globalPosition);
   void DropFiles(const QList<QByteArray>& nativeNames);
-  void OpenFirstDocument(const TCStartFile& startFile);
+  void OpenFirstDocument();
+  void OpenNamed(const TCStartFile& file);
+  [[nodiscard]] bool IsHeldByDialog(const std::string& nativeName);
   void LoadLastFile();
 
   TCFileSystem& files;
@@ -89,6 +96,8 @@ class TCBrevantApp : public QObject {
   TCFileDrops fileDrops;
   TCCloseGuard closeGuard;
   std::optional<TCFirstPaint> firstPaint;
+  TCStartFile firstFile;
+  bool firstDocumentOpened = false;
   QMenu* playlistMenu = nullptr;  // the frame owns it, and the next one
   QMenu* treeMenu = nullptr;
 };

@@ -31,6 +31,9 @@ struct TCCommandLine {
 [[nodiscard]] std::optional<std::u16string> ModelPathOf(std::string_view file,
                                                         std::string_view workingFolder);
 
+// The absolute name of that file, in the system's own bytes.
+[[nodiscard]] std::string AbsoluteNameOf(std::string_view file, std::string_view workingFolder);
+
 // What the program answers to --help.
 [[nodiscard]] std::string_view UsageText();
 

@@ -42,7 +42,7 @@ TCGeneralReportsTab::TCGeneralReportsTab(QWidget* parent) : QPlainTextEdit(paren
       "newest line at the bottom."));
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   setUndoRedoEnabled(false);
   setLineWrapMode(NoWrap);
   setFrameShape(NoFrame);

@@ -40,6 +40,9 @@ TCHelpWindow::TCHelpWindow()
   findField->setPlaceholderText(find);
   findField->setToolTip(find + QStringLiteral(" (Ctrl+F)"));
   findField->setClearButtonEnabled(true);
+  for (QToolButton* clear : findField->findChildren<QToolButton*>()) {
+    clear->setAccessibleName(QStringLiteral("Clear the word"));
+  }
   findField->setMaximumWidth(kFindWidthInCharacters * fontMetrics().averageCharWidth());
   notFound->setObjectName(QStringLiteral("NotFound"));
 

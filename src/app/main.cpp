@@ -6,8 +6,10 @@
 
 #include "app/app_folders.h"
 #include "app/brevant_app.h"
+#include "app/bus_probe.h"
 #include "app/command_line.h"
 #include "app/drive_folders.h"
+#include "app/running_program.h"
 #include "app/stage_style.h"
 #include "app/termination_signals.h"
 #include "playback/gst/gst_length_probe.h"
@@ -24,11 +26,31 @@ TCCommandLine CommandLineOf(int argc, char** argv) {
   return ReadCommandLine({all.begin() + (all.empty() ? 0 : 1), all.end()});
 }
 
+std::string WorkingFolder() {
+  std::error_code ignored;
+  return std::filesystem::current_path(ignored).native();
+}
+
 TCStartFile StartFileOf(const TCCommandLine& line) {
   if (!line.file) return {};
-  std::error_code ignored;
-  const std::string workingFolder = std::filesystem::current_path(ignored).native();
-  return {true, *line.file, ModelPathOf(*line.file, workingFolder)};
+  return {true, *line.file, ModelPathOf(*line.file, WorkingFolder())};
+}
+
+// What a second start leaves with.
+int HandOver(const TCRunningProgram& first, const TCCommandLine& line, const QVariantMap& platformData) {
+  std::optional<std::string> file;
+  if (line.file) file = AbsoluteNameOf(*line.file, WorkingFolder());
+  switch (first.HandOver(file, platformData)) {
+    case TCRunningProgram::TCHandOver::Done:
+      return 0;
+    case TCRunningProgram::TCHandOver::DialogOpen:
+      std::fputs("brevant: the running program has a dialog open, and opened nothing\n", stderr);
+      return 1;
+    case TCRunningProgram::TCHandOver::NoAnswer:
+      break;
+  }
+  std::fputs("brevant: the running program does not answer\n", stderr);
+  return 1;
 }
 
 QStringList LibraryNames() {
@@ -48,6 +70,10 @@ int main(int argc, char** argv) {
   if (wish == TCLaunchWish::ShowHelp) return std::fputs(UsageText().data(), stdout) < 0 ? 1 : 0;
   if (wish == TCLaunchWish::ShowVersion) return std::puts("Brevant " BREVANT_VERSION) < 0 ? 1 : 0;
 
+  LeaveOutASilentBus();
+  const QVariantMap platformData = TCRunningProgram::PlatformData();
+  // The desktop finds the entry of a window by this name.
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.korvel.Brevant"));
   // Takes the toolkit's own options out of the arguments.
   QApplication toolkit(argc, argv);
   const TCCommandLine commandLine = CommandLineOf(argc, argv);
@@ -55,6 +81,7 @@ int main(int argc, char** argv) {
     std::fputs(UsageText().data(), stderr);
     return 2;
   }
+  TCRunningProgram running;  // is known by the time the window is built
   QApplication::setStyle(new TCStageStyle);
 
   TCDiskFiles ownFiles{TCNativePaths()};
@@ -66,6 +93,10 @@ int main(int argc, char** argv) {
 
   const QString layoutFile = QFile::decodeName(paths.ToNative(folders.settings + u"Layout.ini").c_str());
   TCBrevantApp program({files, player, player, paths, folders, layoutFile, LibraryNames(), &lengthProbe});
+  if (running.Standing() == TCRunningProgram::TCStanding::Second) {
+    return HandOver(running, commandLine, platformData);
+  }
+  running.Serve(program);
   TCTerminationSignals terminationSignals;
   QObject::connect(&terminationSignals, &TCTerminationSignals::endWanted, &program,
                    &TCBrevantApp::EndSession);

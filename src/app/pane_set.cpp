@@ -5,6 +5,7 @@
 #include <chrono>
 #include <utility>
 
+#include "app/accessible_pane.h"
 #include "app/kept_state.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
@@ -55,6 +56,7 @@ TCPaneSet::TCPaneSet(QWidget* frame) : QMainWindow(frame) {
   // By itself a main window is always a window of its own, whatever its parent.
   setWindowFlags(Qt::Widget);
   setObjectName(QStringLiteral("Panes"));
+  CallPanesByTheirTitles();
   setAccessibleName(QStringLiteral("Playlist and panes"));
   setContextMenuPolicy(Qt::NoContextMenu);
   settled.setSingleShot(true);

@@ -32,7 +32,7 @@ std::string Between(const std::string& text, const std::string& before, const st
 TEST(DesktopFiles, OpenTheDocumentTypeThatTheMimeFileDeclares) {
   const std::string type = Between(ReadFile(kFiles / "brevant.xml"), "<mime-type type=\"", "\"");
   EXPECT_EQ(type, "application/x-brevant-document");
-  EXPECT_EQ(Between(ReadFile(kFiles / "brevant.desktop"), "\nMimeType=", ";\n"), type);
+  EXPECT_EQ(Between(ReadFile(kFiles / "org.korvel.Brevant.desktop"), "\nMimeType=", ";\n"), type);
 }
 
 TEST(DesktopFiles, KnowADocumentByTheExtensionThatTheProgramSavesUnder) {
@@ -44,8 +44,17 @@ TEST(DesktopFiles, KnowADocumentByTheExtensionThatTheProgramSavesUnder) {
 TEST(DesktopFiles, NameIconsThatAreInstalled) {
   const std::string documentIcon = Between(ReadFile(kFiles / "brevant.xml"), "<icon name=\"", "\"");
   EXPECT_TRUE(fs::exists(kFiles / (documentIcon + ".svg"))) << documentIcon;
-  const std::string programIcon = Between(ReadFile(kFiles / "brevant.desktop"), "\nIcon=", "\n");
+  const std::string programIcon = Between(ReadFile(kFiles / "org.korvel.Brevant.desktop"), "\nIcon=", "\n");
   EXPECT_TRUE(fs::exists(fs::path(BREVANT_ICONS) / (programIcon + ".svg"))) << programIcon;
+}
+
+TEST(DesktopFiles, GoByTheNameThatTheProgramHasOnTheBus) {
+  const std::string name = "org.korvel.Brevant";
+  EXPECT_NE(ReadFile(kFiles / (name + ".desktop")).find("\nDBusActivatable=true\n"), std::string::npos);
+  EXPECT_EQ(Between(ReadFile(kFiles / (name + ".service.in")), "\nName=", "\n"), name);
+  const std::string program = ReadFile(fs::path(BREVANT_SOURCES) / "app" / "running_program.cpp");
+  EXPECT_NE(program.find("QStringLiteral(\"" + name + "\")"), std::string::npos);
+  EXPECT_NE(program.find("QStringLiteral(\"/org/korvel/Brevant\")"), std::string::npos);
 }
 
 }  // namespace
