@@ -61,9 +61,11 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       closeGuard(frame, layout, settingsFile, record, document),
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
-  if (RestoresWindow(record.settings)) frame.RestoreLayout(layout);
+  const bool restores = RestoresWindow(record.settings);
+  if (restores) frame.RestorePlacement(layout);
   FillMenuBar(*frame.menuBar(), actions);
-  frame.Bars().Fill(actions);
+  frame.Bars().Fill(actions);  // into the rows that the window's width asks for
+  if (restores) frame.RestoreLayout(layout);
   ConnectParts();
   document.OnNewDocument();
 }
@@ -154,9 +156,16 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   firstPaint.emplace(frame, [this, startFile] {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument(startFile);
-    if (RestoresWindow(record.settings) && record.settings.liveViewMode) frame.EnterLiveView();
+    RestoreWindow();
+    fileDrops.Accept();
     TCAboutBox::Open(libraries, frame);
   });
+}
+
+void TCBrevantApp::RestoreWindow() {
+  if (!RestoresWindow(record.settings)) return;
+  frame.RestorePlacement(layout);
+  if (record.settings.liveViewMode) frame.EnterLiveView();
 }
 
 void TCBrevantApp::OpenFirstDocument(const TCStartFile& startFile) {

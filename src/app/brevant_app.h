@@ -51,7 +51,8 @@ class TCBrevantApp : public QObject {
  public:
   explicit TCBrevantApp(const TCAppParts& parts);
 
-  // Shows the main window; once it can be seen, opens the first document and shows the About box.
+  // Shows the main window; once it can be seen, opens the first document, maximises the window and enters
+  // live view as it was left, takes files that are dropped, and shows the About box.
   void InitInstance(const TCStartFile& startFile);
 
   // The session ends and nobody can be asked.
@@ -71,6 +72,7 @@ class TCBrevantApp : public QObject {
   void DropFiles(const QList<QByteArray>& nativeNames);
   void OpenFirstDocument(const TCStartFile& startFile);
   void LoadLastFile();
+  void RestoreWindow();
 
   TCFileSystem& files;
   QStringList libraries;

@@ -8,6 +8,7 @@
 #include "app/kept_state.h"
 #include "app/picture_icon.h"
 #include "app/stage_palette.h"
+#include "app/window_placement.h"
 #include "resources/icons/icon_names.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
@@ -95,6 +96,17 @@ void TCMainFrame::RestoreLayout(const QSettings& layout) {
   restoreState(KeptState(layout, BarsName()));
   panes->RestoreLayout(layout);
   view->LoadColumnWidths(layout);
+}
+
+void TCMainFrame::SavePlacement(QSettings& layout) const {
+  brevant::SavePlacement(*this, layout);
+}
+
+void TCMainFrame::RestorePlacement(const QSettings& layout) {
+  const std::optional<TCWindowPlacement> saved = SavedPlacement(layout);
+  if (!saved) return;
+  panes->ExpectAnotherSize();
+  PlaceWindow(*this, *saved);
 }
 
 void TCMainFrame::PlaceOnScreen() {

@@ -14,9 +14,8 @@ namespace {
 
 constexpr QSize kPaneSize(400, 200);
 constexpr int kManagerWidth = 400;
-// The panes below the playlist have a third of a tall window: three lyric lines of the usual size. The one
-// beside it has a third of a narrow window.
-constexpr int kPaneShare = 3;
+// Of a narrow window the pane beside the playlist has no more than a third.
+constexpr int kManagerShare = 3;
 // By then a window manager has maximised a window that was to be.
 constexpr std::chrono::milliseconds kSettleTime(1000);
 
@@ -95,10 +94,10 @@ void TCPaneSet::ArrangeFor(QSize window) {
   splitDockWidget(properties, player, Qt::Horizontal);
   splitDockWidget(player, messages, Qt::Horizontal);
   // On a small screen the playlist keeps the most of the width.
-  resizeDocks({manager}, {std::min(kManagerWidth, window.width() / kPaneShare)}, Qt::Horizontal);
+  resizeDocks({manager}, {std::min(kManagerWidth, window.width() / kManagerShare)}, Qt::Horizontal);
   constexpr int kEach = kPaneSize.width();
   resizeDocks({properties, player, messages}, {kEach, kEach, kEach}, Qt::Horizontal);
-  resizeDocks({player}, {std::max(kPaneSize.height(), window.height() / kPaneShare)}, Qt::Vertical);
+  resizeDocks({player}, {kPaneSize.height()}, Qt::Vertical);
 }
 
 void TCPaneSet::PaneShown(const QDockWidget& pane, bool visible) {
@@ -159,6 +158,10 @@ void TCPaneSet::SaveLayout(QSettings& layout) const {
 void TCPaneSet::RestoreLayout(const QSettings& layout) {
   const QByteArray saved = KeptState(layout, LayoutName());
   if (restoreState(saved)) restored = saved;
+}
+
+void TCPaneSet::ExpectAnotherSize() {
+  if (restored && isVisible()) settled.start(kSettleTime);
 }
 
 void TCPaneSet::resizeEvent(QResizeEvent* event) {

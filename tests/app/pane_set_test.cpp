@@ -123,7 +123,7 @@ TEST_F(PaneSet, AFirstStartHasTheManagerAtTheLeftAndThreePanesBelow) {
   EXPECT_LT(place(Id::PlayerPane).right(), place(Id::MessagePane).left());
   for (const Id id : {Id::PropertiesPane, Id::PlayerPane, Id::MessagePane}) {
     EXPECT_GE(place(id).width(), 400);
-    EXPECT_GE(place(id).height(), 200);
+    EXPECT_EQ(place(id).height(), 200);
     EXPECT_GT(place(id).top(), own.playlist.geometry().bottom());
     EXPECT_EQ(place(id).bottom(), own.panes.height() - 1);
   }
