@@ -33,7 +33,9 @@ class TCSilentPrompts final : public TCPrompts {
   TCSaveAnswer AskSaveChanges(std::u16string_view) override { return TCSaveAnswer::Cancel; }
   std::optional<std::u16string> ChooseDocumentToOpen() override { return {}; }
   std::optional<std::u16string> ChooseDocumentToSave(std::u16string_view) override { return {}; }
-  std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion&) override { return {}; }
+  std::optional<std::vector<std::u16string>> ChooseMediaFiles(const TCMediaFileQuestion&) override {
+    return {};
+  }
   bool ConfirmRemove(std::u16string_view) override { return true; }
   bool EditSetLists(TCAddPlayItems&) override { return false; }
   bool EditSongProperties(TCSongPropertiesForm&) override { return false; }
@@ -42,7 +44,8 @@ class TCSilentPrompts final : public TCPrompts {
 // A document in the middle of its use: the playlist in its midst is current, shown, and open in the tree.
 class TCStudio {
  public:
-  explicit TCStudio(std::int32_t songs) {
+  explicit TCStudio(std::int32_t songs, std::int32_t inPlaylist = kSongsInPlaylist)
+      : songsInPlaylist(inPlaylist) {
     for (std::int32_t i = 0; i < songs; ++i) AddSong(i);
     store.currentGroup = static_cast<std::int32_t>(store.groups.size()) / 2;
     store.RecalcAllTotalTimes();
@@ -50,6 +53,10 @@ class TCStudio {
       widget->resize(600, 800);
       widget->show();
     }
+    Show();
+  }
+
+  void Show() {
     treePresenter.BuildAll();
     presenter.ShowPlaylist(store.currentGroup, 0);
     tree.SelectNode(Song(0).treeNode);
@@ -71,22 +78,25 @@ class TCStudio {
   TCPlayListManagerTreeView tree;
   TCPlaylistPresenter presenter{record, view, tree};
   TCTreePresenter treePresenter{store, tree};
-  TCEditParts parts{record, files, treePresenter, presenter, view, frame, messages, prompts, [] {}};
+  TCSongCheck check{files, store, treePresenter, presenter};
+  TCEditParts parts{record, check, treePresenter, presenter, view, frame, messages, prompts, [] {}};
   TCSetListEditor editor{parts};
   TCEntryMover mover{parts};
   TCSongPlacement placement{parts, editor};
 
  private:
   void AddSong(std::int32_t number) {
-    const std::int32_t playlists = number / kSongsInPlaylist;
-    if (number % (kSongsInPlaylist * kPlaylistsInGroup) == 0)
+    const std::int32_t playlists = number / songsInPlaylist;
+    if (number % (songsInPlaylist * kPlaylistsInGroup) == 0)
       store.groups.emplace_back().name = Numbered("Tour ", playlists / kPlaylistsInGroup);
     std::vector<TCPlayList>& lists = store.groups.back().playlists;
-    if (number % kSongsInPlaylist == 0) lists.emplace_back().name = Numbered("Evening ", playlists);
+    if (number % songsInPlaylist == 0) lists.emplace_back().name = Numbered("Evening ", playlists);
     TCPlayListItem& song = lists.back().items.emplace_back();
     song.SetPath(u"C:\\Music\\" + Numbered("A song of some length, number ", number) + u".mp3");
     song.time = u"03:25";
   }
+
+  std::int32_t songsInPlaylist = kSongsInPlaylist;
 };
 
 void MoveASong(benchmark::State& state) {
@@ -159,6 +169,31 @@ void RemoveASong(benchmark::State& state) {
   }
 }
 
+// Of one playlist that is open in the tree; the songs that go stand side by side, or each beside one that
+// stays.
+void RemoveHalfTheRows(benchmark::State& state) {
+  const auto songs = static_cast<std::int32_t>(state.range(0));
+  const bool sideBySide = state.range(1) != 0;
+  TCStudio studio(songs, songs);
+  const std::vector<TCPlayListItem> all = studio.store.CurrentPlaylist()->items;
+  const QAbstractItemModel& rows = *studio.view.model();
+  for (auto _ : state) {
+    state.PauseTiming();
+    studio.store.CurrentPlaylist()->items = all;
+    studio.Show();
+    QItemSelection selected;
+    for (int i = 0; i < songs / 2; ++i) {
+      const int row = sideBySide ? i + songs / 4 : 2 * i;
+      selected.append(QItemSelectionRange(rows.index(row, 0), rows.index(row, rows.columnCount() - 1)));
+    }
+    studio.view.selectionModel()->select(selected, QItemSelectionModel::ClearAndSelect);
+    studio.Paint();
+    state.ResumeTiming();
+    studio.editor.RemoveSelectedRows();
+    studio.Paint();
+  }
+}
+
 void BuildTheWholeTree(benchmark::State& state) {
   TCStudio studio(static_cast<std::int32_t>(state.range(0)));
   for (auto _ : state) {
@@ -188,6 +223,10 @@ BREVANT_EDIT_BENCHMARK(MoveAGroup);
 BREVANT_EDIT_BENCHMARK(RenameASong);
 BREVANT_EDIT_BENCHMARK(AddASong);
 BREVANT_EDIT_BENCHMARK(RemoveASong);
+BENCHMARK(RemoveHalfTheRows)
+    ->ArgNames({"songs", "sideBySide"})
+    ->ArgsProduct({{100, 1'000, 10'000}, {1, 0}})
+    ->Unit(benchmark::kMillisecond);
 BREVANT_EDIT_BENCHMARK(BuildTheWholeTree);
 BREVANT_EDIT_BENCHMARK(OpenTheWholeTree);
 

@@ -51,7 +51,20 @@ TCAddPlayItemsDlg::TCAddPlayItemsDlg(TCAddPlayItems& setListForm, QWidget* paren
       create(MakeButton(QStringLiteral("Create"), TCTextId::CreateButton, [this] { form.Create(); })),
       ok(MakeOk()),
       cancel(MakeCancel()),
-      help(MakeButton(QStringLiteral("Help"), TCTextId::HelpButton, [] {})) {  // there is no page to open
+      help(MakeButton(QStringLiteral("Help"), TCTextId::HelpButton,
+                      [] {})) {  // it never did anything; F1 does
+  groupList->setWhatsThis(QStringLiteral("The group that the songs' playlist is in."));
+  createGroup->setWhatsThis(QStringLiteral("Makes a new group and chooses it."));
+  playlistList->setWhatsThis(QStringLiteral("The playlist that the songs are added to."));
+  createSet->setWhatsThis(QStringLiteral("Makes a new playlist in the chosen group and chooses it."));
+  findSongs->setWhatsThis(QStringLiteral("Finds song files on the disk and enters their paths below."));
+  songFiles->setWhatsThis(
+      QStringLiteral("The paths of the songs to add, each in double quotes, with blanks between."));
+  create->setWhatsThis(
+      QStringLiteral("Adds the songs to the playlist and leaves this window open for more."));
+  ok->setWhatsThis(QStringLiteral("Closes this window and adds nothing that Create has not added."));
+  cancel->setWhatsThis(QStringLiteral("Closes this window. What has been created stays."));
+  help->setWhatsThis(QStringLiteral("This button does nothing. F1 opens the guide."));
   LayOut();
   ShowForm();
   songFiles->setFocus();

@@ -16,14 +16,12 @@
 namespace brevant {
 namespace {
 
-constexpr std::u16string_view kFontFace = u"Times New Roman";
-
 TCAppRecord LoadRecord(const TCSettingsFile& settingsFile) {
   TCAppRecord record;
   settingsFile.LoadSettings(record);
   // A face chosen in an earlier run does not come back; the sizes do.
-  record.settings.playListFontTypeName = kFontFace;
-  record.settings.lyricsFontTypeName = kFontFace;
+  record.settings.playListFontTypeName = kDefaultFontFace;
+  record.settings.lyricsFontTypeName = kDefaultFontFace;
   return record;
 }
 
@@ -54,7 +52,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls(),
                 .properties = &frame.Properties()}),
-      router(frame, document, libraries),
+      router(frame, document, help, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
@@ -139,6 +137,7 @@ void TCBrevantApp::ConnectParts() {
   ConnectPlaylist();
   ConnectTree();
   ConnectProperties();
+  connect(&help, &TCHelp::windowMade, this, [this](QWidget& window) { keyFilter.PerformIn(window); });
   connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();

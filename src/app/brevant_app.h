@@ -13,6 +13,7 @@
 #include "app/command_router.h"
 #include "app/file_drops.h"
 #include "app/first_paint.h"
+#include "app/help.h"
 #include "app/key_filter.h"
 #include "app/main_frame.h"
 #include "app/qt_prompts.h"
@@ -61,6 +62,7 @@ class TCBrevantApp : public QObject {
   [[nodiscard]] TCMainFrame& Frame() { return frame; }
   [[nodiscard]] TCBrevantDoc& Document() { return document; }
   [[nodiscard]] const TCCommandActions& Actions() const { return actions; }
+  [[nodiscard]] TCHelp& Help() { return help; }
   [[nodiscard]] TCAppRecord& Record() { return record; }
 
  private:
@@ -82,6 +84,7 @@ class TCBrevantApp : public QObject {
   TCMainFrame frame;
   TCQtPrompts prompts;
   TCBrevantDoc document;
+  TCHelp help;
   TCCommandRouter router;
   TCCommandActions actions;
   TCKeyFilter keyFilter;

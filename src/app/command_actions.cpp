@@ -7,6 +7,7 @@
 #include "app/picture_icon.h"
 #include "app/qt_keys.h"
 #include "app/tool_tips.h"
+#include "app/whats_this.h"
 #include "resources/command_table.h"
 #include "resources/icons/icon_names.h"
 #include "resources/menu_text.h"
@@ -41,10 +42,11 @@ void TCCommandActions::AddActions(QWidget& window) {
   for (const TCCommand& command : Commands()) {
     if (!target.Handles(command.id)) continue;
     auto action = std::make_unique<QAction>(ToQString(command.menuText));
-    action->setObjectName(QStringLiteral("Command%1").arg(static_cast<int>(command.id)));
+    action->setObjectName(ActionName(command.id));
     action->setIconText(NameOf(command));
     action->setToolTip(ToQString(ToolTipWithKeys(command)));
     action->setStatusTip(ToQString(StatusLine(command)));
+    action->setWhatsThis(WhatsThisText(command));
     action->setCheckable(command.trait == TCCommandTrait::Checkable);
     // In a menu a picture would take the place of the tick.
     action->setIconVisibleInMenu(!action->isCheckable());

@@ -17,6 +17,7 @@ QAction* MakeAlias(QAction& source, const QString& text, QMenu& menu) {
   alias->setObjectName(source.objectName());
   alias->setStatusTip(source.statusTip());
   alias->setToolTip(source.toolTip());
+  alias->setWhatsThis(source.whatsThis());
   alias->setCheckable(source.isCheckable());
   alias->setChecked(source.isChecked());
   QObject::connect(alias, &QAction::triggered, &source, &QAction::trigger);

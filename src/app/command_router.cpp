@@ -16,12 +16,13 @@ bool IsKeyAlone(TCCommandId command) {
 
 }  // namespace
 
-TCCommandRouter::TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document, QStringList libraryNames)
-    : frame(mainFrame), doc(document), libraries(std::move(libraryNames)) {}
+TCCommandRouter::TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document, TCHelp& helpCommands,
+                                 QStringList libraryNames)
+    : frame(mainFrame), doc(document), help(helpCommands), libraries(std::move(libraryNames)) {}
 
 bool TCCommandRouter::Handles(TCCommandId command) const {
   return command == TCCommandId::About || command == TCCommandId::FocusPlaylist || IsKeyAlone(command) ||
-         TCMainFrame::Handles(command) || TCBrevantDoc::Handles(command);
+         TCHelp::Handles(command) || TCMainFrame::Handles(command) || TCBrevantDoc::Handles(command);
 }
 
 void TCCommandRouter::OnCommand(TCCommandId command) {
@@ -29,7 +30,7 @@ void TCCommandRouter::OnCommand(TCCommandId command) {
     TCAboutBox::Open(libraries, frame);
   } else if (command == TCCommandId::FocusPlaylist) {
     frame.PlaylistView().TakeFocus();
-  } else if (!frame.OnCommand(command)) {
+  } else if (!help.OnCommand(command) && !frame.OnCommand(command)) {
     doc.OnCommand(command);
   }
 }

@@ -48,6 +48,8 @@ TCDialogEnterUserText::TCDialogEnterUserText(const TCTextPrompt& prompt, QWidget
   textField->setObjectName(QStringLiteral("Text"));
   textField->setAccessibleName(ToQString(prompt.prompt));
   textField->setAccessibleDescription(ToQString(prompt.example));
+  textField->setWhatsThis(
+      QStringLiteral("What is asked for above. Enter takes it, Esc leaves everything as it was."));
   textField->setMinimumWidth(kPromptWidthInCharacters * fontMetrics().averageCharWidth());
   textField->selectAll();
 

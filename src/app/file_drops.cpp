@@ -39,7 +39,12 @@ bool TCFileDrops::eventFilter(QObject* watched, QEvent* event) {
   if (!isDrag) {
     window.activateWindow();
     QMetaObject::invokeMethod(
-        this, [this, names] { Q_EMIT filesDropped(names); }, Qt::QueuedConnection);
+        this,
+        [this, names] {
+          // A key that came with the drop may have opened a dialog, which no drop may edit behind.
+          if (QApplication::activeModalWidget() == nullptr) Q_EMIT filesDropped(names);
+        },
+        Qt::QueuedConnection);
   }
   return true;
 }

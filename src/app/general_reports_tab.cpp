@@ -37,6 +37,9 @@ TCRgb RgbOf(const QColor& colour) {
 TCGeneralReportsTab::TCGeneralReportsTab(QWidget* parent) : QPlainTextEdit(parent) {
   setObjectName(QStringLiteral("messageDisplay"));
   setAccessibleName(ToQString(TextOf(TCTextId::MessagePaneTitle)));
+  setWhatsThis(QStringLiteral(
+      "The words of the song that plays, if it has a lyric file; else what the program has to tell you, the "
+      "newest line at the bottom."));
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   setFocusPolicy(Qt::ClickFocus);

@@ -7,6 +7,8 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <QWhatsThis>
+#include <algorithm>
 #include <utility>
 
 namespace brevant {
@@ -16,6 +18,11 @@ namespace {
 bool IsPartOf(const QWidget& root, const QWidget* widget) {
   while (widget != nullptr && widget != &root) widget = widget->parentWidget();
   return widget != nullptr;
+}
+
+bool IsModifier(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||
+         key == Qt::Key_AltGr;
 }
 
 }  // namespace
@@ -41,6 +48,15 @@ TCKeyFocus FocusKind(const QWidget* focus) {
 TCKeyFilter::TCKeyFilter(const TCCommandActions& commandActions, QWidget& window)
     : actions(commandActions), mainWindow(window) {
   qApp->installEventFilter(this);
+}
+
+void TCKeyFilter::PerformIn(QWidget& window) {
+  std::erase(besideMain, nullptr);
+  besideMain.emplace_back(&window);
+}
+
+bool TCKeyFilter::IsBesideMain(const QWidget& window) const {
+  return std::ranges::any_of(besideMain, [&window](const QPointer<QWidget>& one) { return one == &window; });
 }
 
 void TCKeyFilter::LetKeep(QWidget& widget, TCKeepsKey keeps) {
@@ -85,6 +101,7 @@ const QWidget* TCKeyFilter::WindowOf(const QWidget& widget) const {
 
 TCKeyFilter::TCKeyPlace TCKeyFilter::PlaceOf(const QWidget& widget) const {
   const QWidget* window = widget.window();
+  if (IsBesideMain(*window)) return TCKeyPlace::Dialog;
   const bool belongsToMain = IsPartOf(mainWindow, window);
   if (belongsToMain && window->windowType() == Qt::Dialog) return TCKeyPlace::Dialog;
   // A pane that floats is a tool window of the main window. A menu is a window of another kind.
@@ -116,6 +133,11 @@ bool TCKeyFilter::eventFilter(QObject* receiver, QEvent* event) {
   const int swallowed = std::exchange(swallowedKey, 0);
   if (event->type() == QEvent::KeyPress) return key.key() == swallowed;
   NotePlaceOf(*widget, key);
+  if (key.key() == Qt::Key_Escape && QWhatsThis::inWhatsThisMode()) {
+    key.accept();  // it ends the asking, and cancels nothing else
+    return true;
+  }
+  if (widget->inherits("QWhatsThat")) return FilterOverAnswer(*static_cast<QWidget*>(receiver), key);
   switch (PlaceOf(*widget)) {
     case TCKeyPlace::Elsewhere:
       return false;
@@ -155,6 +177,27 @@ bool TCKeyFilter::FilterOverride(const QWidget& receiver, QKeyEvent& event) {
   return false;
 }
 
+// The answer to "what is this?" goes with any key, and a key of the show performs all the same.
+bool TCKeyFilter::FilterOverAnswer(QWidget& answer, QKeyEvent& event) {
+  if (IsModifier(event.key())) return false;
+  answer.close();
+  const QWidget* below = QApplication::activeWindow();
+  if (below == nullptr || event.key() == Qt::Key_Escape) return Swallow(event);
+  if (PlaceOf(*below) == TCKeyPlace::Dialog) return FilterInDialog(*below, event) || Swallow(event);
+  if (PlaceOf(*below) == TCKeyPlace::MainWindow &&
+      VerdictOn(event, below->focusWidget()) == TCKeyVerdict::Table) {
+    Trigger(event);
+  }
+  return Swallow(event);
+}
+
+bool TCKeyFilter::Trigger(const QKeyEvent& event) {
+  QAction* action = actions.ActionOf(actions.CommandOfKey(event.key(), event.modifiers()).command);
+  if (action == nullptr) return false;
+  action->trigger();
+  return true;
+}
+
 // The main window's shortcuts do not act in front of it, so what is the table's is fired from here.
 bool TCKeyFilter::FilterInDialog(const QWidget& receiver, QKeyEvent& event) {
   const QWidget* focus = receiver.window()->focusWidget();
@@ -164,12 +207,8 @@ bool TCKeyFilter::FilterInDialog(const QWidget& receiver, QKeyEvent& event) {
     case TCKeyVerdict::Untouched:
     case TCKeyVerdict::Widget:
       return false;
-    case TCKeyVerdict::Table: {
-      QAction* action = actions.ActionOf(actions.CommandOfKey(event.key(), event.modifiers()).command);
-      if (action == nullptr) return false;
-      action->trigger();
-      return Swallow(event);
-    }
+    case TCKeyVerdict::Table:
+      return Trigger(event) && Swallow(event);
     case TCKeyVerdict::Swallow:
       return Swallow(event);
   }

@@ -40,10 +40,11 @@ TCKeyVerdict DecideOwner(const TCKeyPress& press) {
 
 TCKeyVerdict DecideKey(const TCKeyPress& press) {
   const TCKeyVerdict owner = DecideOwner(press);
-  if (owner == TCKeyVerdict::Table) {
-    const bool wouldActAgain = press.bound && press.held;
-    return wouldActAgain && !press.commandRepeats ? TCKeyVerdict::Swallow : owner;
-  }
+  // A widget that keeps a command's key does something of the kind with it: Enter in the tree plays a song.
+  const bool actsOnTheShow =
+      owner == TCKeyVerdict::Table || (owner == TCKeyVerdict::Widget && press.focus == TCKeyFocus::Ordinary);
+  if (actsOnTheShow && press.bound && press.held && !press.commandRepeats) return TCKeyVerdict::Swallow;
+  if (owner == TCKeyVerdict::Table) return owner;
   // The press has opened or closed a window, and its repeats mean nothing to the one that is there now: they
   // would be typed into a prompt, or press the button of a question.
   return press.heldFromElsewhere ? TCKeyVerdict::Swallow : owner;

@@ -22,7 +22,7 @@ struct TCKeyPress {
   bool bound = false;              // the key belongs to a command that exists
   bool held = false;               // the key is down already and this is the keyboard repeating it
   bool heldFromElsewhere = false;  // ... since it was pressed in another window
-  bool commandRepeats = false;     // the command may act again and again while its key is held
+  bool commandRepeats = false;     // the command, or the widget in its place, may act again while it is held
 };
 
 enum class TCKeyVerdict {

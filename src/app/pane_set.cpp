@@ -82,6 +82,7 @@ void TCPaneSet::AddPane(TCCommandId id, QWidget& content) {
   // Saved layouts know a pane by this name.
   pane->setObjectName(QStringLiteral("Pane%1").arg(static_cast<int>(id)));
   pane->setWidget(&content);
+  pane->setWhatsThis(content.whatsThis());
   connect(pane, &QDockWidget::visibilityChanged, this,
           [this, pane](bool visible) { PaneShown(*pane, visible); });
   panes[index] = pane;

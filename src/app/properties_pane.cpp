@@ -80,6 +80,9 @@ class TCPropertyDelegate final : public QStyledItemDelegate {
 TCPropertiesPane::TCPropertiesPane(QWidget* parent) : QTreeWidget(parent) {
   setObjectName(QStringLiteral("properties"));
   setAccessibleName(ToQString(TextOf(TCTextId::PropertiesPaneTitle)));
+  setWhatsThis(QStringLiteral(
+      "Tells of the selected song, the options' numbers, the song's lyric file and the program's folders. "
+      "Nothing is changed here."));
   setColumnCount(2);
   setHeaderLabels({QStringLiteral("Property"), QStringLiteral("Value")});  // read aloud, not shown
   setHeaderHidden(true);

@@ -105,6 +105,7 @@ void TCQtPrompts::SetUp(QFileDialog& dialog) const {
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
   QFileDialog dialog(Parent(), QStringLiteral("Open"));
+  dialog.setObjectName(QStringLiteral("OpenDocument"));
   SetUp(dialog);
   dialog.setFileMode(QFileDialog::ExistingFile);
   return Choose(dialog);
@@ -112,6 +113,7 @@ std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToSave(std::u16string_view suggestedPath) {
   QFileDialog dialog(Parent(), QStringLiteral("Save As"));
+  dialog.setObjectName(QStringLiteral("SaveDocument"));
   SetUp(dialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   if (!suggestedPath.empty()) dialog.selectFile(QFile::decodeName(paths.ToNative(suggestedPath).c_str()));
@@ -139,9 +141,11 @@ void TCQtPrompts::SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& 
   dialog.selectFile(last.fileName());
 }
 
-std::vector<std::u16string> TCQtPrompts::ChooseMediaFiles(const TCMediaFileQuestion& question) {
+std::optional<std::vector<std::u16string>> TCQtPrompts::ChooseMediaFiles(
+    const TCMediaFileQuestion& question) {
   const bool one = question.count == TCChooseFiles::One;
   QFileDialog dialog(Parent(), one ? QStringLiteral("Choose a Song") : QStringLiteral("Find Songs"));
+  dialog.setObjectName(QStringLiteral("FindSongs"));
   SetUpForMedia(dialog, question);
   if (Run(dialog) != QDialog::Accepted) return {};
   mediaFolder = dialog.directory().absolutePath();

@@ -28,7 +28,8 @@ class TCQtPrompts final : public TCPrompts {
       std::u16string_view suggestedPath) override;
   // Begins where the last song file was, else where the chooser was left, else as the other choosers do. A
   // name that the model cannot hold is left out and told in the status bar.
-  [[nodiscard]] std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion& question) override;
+  [[nodiscard]] std::optional<std::vector<std::u16string>> ChooseMediaFiles(
+      const TCMediaFileQuestion& question) override;
   [[nodiscard]] bool ConfirmRemove(std::u16string_view question) override;
   [[nodiscard]] bool EditSetLists(TCAddPlayItems& form) override;
   [[nodiscard]] bool EditSongProperties(TCSongPropertiesForm& form) override;

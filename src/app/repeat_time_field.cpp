@@ -21,6 +21,7 @@ TCRepeatTimeField::TCRepeatTimeField(const QString& name, const QString& toolTip
   setTimeRange(kStart, kLast);
   setAccessibleName(name);
   setToolTip(toolTip);
+  setWhatsThis(toolTip);
   // By default a turn of the wheel over the field would change the range and take the keys from the playlist.
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -38,6 +38,16 @@ TCSongProperties::TCSongProperties(TCSongPropertiesForm& songForm, QWidget* pare
           MakeBox(QStringLiteral("ExtensionForAll"), TCTextId::ExtensionForAllBox, form.extensionForAll)),
       ok(MakeOk()),
       cancel(MakeCancel()) {
+  songPath->setWhatsThis(QStringLiteral("The folder of the song's file."));
+  setDir->setWhatsThis(QStringLiteral("Takes the folder of a song that you choose on the disk."));
+  songName->setWhatsThis(QStringLiteral("The name of the song's file."));
+  songTime->setWhatsThis(QStringLiteral("How long the song is."));
+  playlistName->setWhatsThis(QStringLiteral("The playlist that the song is in."));
+  groupName->setWhatsThis(QStringLiteral("The group that the playlist is in."));
+  pathForAll->setWhatsThis(QStringLiteral("OK gives this folder to all songs of the playlist."));
+  extensionForAll->setWhatsThis(QStringLiteral("OK gives this file type to all songs of the playlist."));
+  ok->setWhatsThis(QStringLiteral("Takes over what stands here."));
+  cancel->setWhatsThis(QStringLiteral("Closes this window and changes nothing."));
   LayOut();
   ShowForm();
   songPath->setFocus();

@@ -17,6 +17,11 @@ TCStatusLine::TCStatusLine(QWidget* parent, std::chrono::milliseconds messageTim
   keyHelpPane.setText(ToQString(TextOf(TCTextId::KeyHelp)));
   // The name is what a screen reader reads out, so it holds the whole text even where the pane cuts it.
   keyHelpPane.setAccessibleName(keyHelpPane.text());
+  messagePane.setWhatsThis(
+      QStringLiteral("What the program has just done or waits for; and what a menu entry or a button does "
+                     "while you point at "
+                     "it."));
+  keyHelpPane.setWhatsThis(QStringLiteral("The keys that a performance needs most."));
   messagePane.setContentsMargins(6, 0, 6, 0);
   keyHelpPane.setContentsMargins(6, 0, 6, 0);
 

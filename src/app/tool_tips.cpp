@@ -38,11 +38,13 @@ std::u16string ToolTipWithKeys(const TCCommand& command) {
   const bool named = std::ranges::all_of(keys, [&words](const std::u16string& key) {
     return std::ranges::find(words, ToLower(key)) != words.end();
   });
-  if (named) return tip;
+  return named ? tip : tip + u" (" + KeysText(command.id) + u")";
+}
 
+std::u16string KeysText(TCCommandId command) {
   std::u16string list;
-  for (const std::u16string& key : keys) list += (list.empty() ? u"" : u", ") + key;
-  return tip + u" (" + list + u")";
+  for (const std::u16string& key : KeysOf(command)) list += (list.empty() ? u"" : u", ") + key;
+  return list;
 }
 
 }  // namespace brevant

@@ -11,4 +11,7 @@ namespace brevant {
 // already: "Set the auto repeat begin time (Z)", but "Increase Volume, F9".
 [[nodiscard]] std::u16string ToolTipWithKeys(const TCCommand& command);
 
+// The keys that really act, "P, F5"; empty for a command without one.
+[[nodiscard]] std::u16string KeysText(TCCommandId command);
+
 }  // namespace brevant

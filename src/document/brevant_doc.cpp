@@ -32,7 +32,9 @@ constexpr std::array kOptionCommands = {
     Toggle<&TCSettings::autoSongAdvance>(TCCommandId::AutoSongAdvance),
     Toggle<&TCSettings::autoPlayPlayList>(TCCommandId::AutoPlayPlayList),
     Toggle<&TCSettings::autoRecycle>(TCCommandId::AutoRecycle),
-    Toggle<&TCSettings::whiteOnBlack>(TCCommandId::WhiteOnBlack),  // with two colours that follow it
+    // With the two colours that follow it.
+    OptionCommand{TCCommandId::WhiteOnBlack, [](const TCSettings& settings) { return settings.whiteOnBlack; },
+                  [](TCSettings& settings) { settings.SetWhiteOnBlack(!settings.whiteOnBlack); }},
     Toggle<&TCSettings::dynamicPlayColours>(TCCommandId::DynamicPlayColours),
     Toggle<&TCSettings::immediatePlay>(TCCommandId::ImmediatePlay),
     Toggle<&TCSettings::playlistManagerImmediatePlay>(TCCommandId::PlaylistManagerImmediatePlay),
@@ -41,7 +43,8 @@ constexpr std::array kOptionCommands = {
     Toggle<&TCSettings::foldersSaveFormat>(TCCommandId::FoldersSaveFormat),
     Toggle<&TCSettings::loadLastFileOnProgramRun>(TCCommandId::LoadLastFile),
     Toggle<&TCSettings::loadLastWindowState>(TCCommandId::LoadLastWindowState),
-    Toggle<&TCSettings::resetPending>(TCCommandId::Reset),
+    OptionCommand{TCCommandId::Reset, [](const TCSettings& settings) { return settings.resetPending; },
+                  [](TCSettings& settings) { settings.ToggleReset(); }},
 };
 
 const OptionCommand* OptionOf(TCCommandId command) {
@@ -59,6 +62,7 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
       properties(parts.record, parts.folders, parts.playlistView, parts.properties),
       presenter(parts.record, parts.playlistView, parts.treeView, [this] { RefreshProperties(); }),
       tree(parts.record.setLists, parts.treeView),
+      songCheck(parts.files, parts.record.setLists, tree, presenter),
       editor(EditParts()),
       mover(EditParts()),
       placement(EditParts(), editor),
@@ -67,7 +71,7 @@ TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
       volumeAndSeek(parts.record.settings, parts.player, parts.repeatFields) {}
 
 TCEditParts TCBrevantDoc::EditParts() {
-  return {parts.record,   parts.files,        tree,
+  return {parts.record,   songCheck,          tree,
           presenter,      parts.playlistView, parts.frame,
           parts.messages, parts.prompts,      [this] { SetModified(); }};
 }
@@ -243,9 +247,7 @@ bool TCBrevantDoc::OnCommand(TCCommandId command) {
 }
 
 void TCBrevantDoc::ToggleOption(TCCommandId command) {
-  TCSettings& settings = parts.record.settings;
-  OptionOf(command)->invert(settings);
-  if (command == TCCommandId::WhiteOnBlack) settings.SetWhiteOnBlack(settings.whiteOnBlack);
+  OptionOf(command)->invert(parts.record.settings);
   parts.frame.ShowOptions();
   RefreshProperties();
   if (command == TCCommandId::WhiteOnBlack || command == TCCommandId::DynamicPlayColours)
@@ -260,7 +262,7 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
   switch (command) {
     case TCCommandId::SongLatency:
       setLists.RecalcAllTotalTimes();
-      presenter.ShowPlaylist(setLists.currentGroup, setLists.currentPlaylist);
+      presenter.ShowAgain();
       return;
     case TCCommandId::LyricsFontSize:
     case TCCommandId::LyricLines:
@@ -272,10 +274,13 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
 }
 
 void TCBrevantDoc::OnPlayTimerTick() {
+  songCheck.TakeLateAnswers();
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
   if (measuring) ShowTimeRun();
-  if (timesChanged) SetModified();
+  if (!timesChanged) return;
+  presenter.ShowAgain();
+  SetModified();
 }
 
 void TCBrevantDoc::ShowTimeRun() {

@@ -13,6 +13,7 @@
 #include "document/prompts.h"
 #include "document/properties_presenter.h"
 #include "document/set_list_editor.h"
+#include "document/song_check.h"
 #include "document/song_placement.h"
 #include "document/tree_presenter.h"
 #include "model/app_record.h"
@@ -145,6 +146,7 @@ class TCBrevantDoc {
   TCPropertiesPresenter properties;
   TCPlaylistPresenter presenter;
   TCTreePresenter tree;
+  TCSongCheck songCheck;
   TCSetListEditor editor;
   TCEntryMover mover;
   TCSongPlacement placement;

@@ -7,16 +7,16 @@
 #include "document/frame_display.h"
 #include "document/playlist_presenter.h"
 #include "document/prompts.h"
+#include "document/song_check.h"
 #include "document/tree_presenter.h"
 #include "model/app_record.h"
 #include "model/message_display.h"
-#include "text/file_system.h"
 
 namespace brevant {
 
 struct TCEditParts {
   TCAppRecord& record;
-  TCFileSystem& files;
+  TCSongCheck& check;
   TCTreePresenter& tree;
   TCPlaylistPresenter& playlist;
   TCPlaylistDisplay& view;

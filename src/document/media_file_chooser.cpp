@@ -1,5 +1,7 @@
 #include "document/media_file_chooser.h"
 
+#include <utility>
+
 #include "text/case_folding.h"
 #include "text/path_parts.h"
 #include "text/quoted_words.h"
@@ -21,11 +23,12 @@ TCMediaFileChooser::TCMediaFileChooser(TCAppRecord& appRecord, TCPrompts& userPr
 
 std::vector<std::u16string> TCMediaFileChooser::Choose(TCChooseFiles count) {
   TCSettings& settings = record.settings;
-  std::vector<std::u16string> paths =
+  std::optional<std::vector<std::u16string>> paths =
       prompts.ChooseMediaFiles({count, SplitQuotedWords(ToLower(record.setLists.validMediaExtensions)),
                                 TypeIn(settings.lastMediaFileExtSpec), settings.lastMediaFileName});
-  if (paths.empty()) settings.lastMediaFileName.clear();
-  return paths;
+  if (paths) return *std::move(paths);
+  settings.lastMediaFileName.clear();
+  return {};
 }
 
 std::u16string TCMediaFileChooser::ChooseSongs() {

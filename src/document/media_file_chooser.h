@@ -15,10 +15,11 @@ class TCMediaFileChooser {
   TCMediaFileChooser(TCAppRecord& appRecord, TCPrompts& userPrompts);
 
   // Model paths in double quotes with blanks between, as the song text of Create Set Lists holds them. The
-  // first one and its type are remembered. Empty when the user cancelled, which forgets the last file.
+  // first one and its type are remembered. Empty when the user cancelled, which forgets the last file, and
+  // when no chosen file can be used, which does not.
   [[nodiscard]] std::u16string ChooseSongs();
 
-  // One file, whose type is remembered. Empty when the user cancelled, which forgets the last file.
+  // One file, whose type is remembered. Empty as above.
   [[nodiscard]] std::optional<std::u16string> ChooseSong();
 
  private:

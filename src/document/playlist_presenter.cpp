@@ -17,6 +17,10 @@ void TCPlaylistPresenter::ShowPlaylist(std::int32_t group, std::int32_t playlist
   Show({group, playlist}, TCShowRows::KeepPlace);
 }
 
+void TCPlaylistPresenter::ShowAgain() {
+  Show(record.setLists.shown, TCShowRows::KeepPlace);
+}
+
 void TCPlaylistPresenter::ShowEditedPlaylist(TCPlaylistPosition position) {
   Show(position, TCShowRows::Edited);
 }
@@ -56,7 +60,7 @@ void TCPlaylistPresenter::Recolour() {
 }
 
 void TCPlaylistPresenter::ShowColours() {
-  // Of what stands on the screen: while an empty playlist is current that is the one before.
+  // Of what stands on the screen, as ShowAgain has it.
   const TCPlayList* playlist = PlaylistAt(record.setLists, record.setLists.shown);
   if (playlist == nullptr) return;
   std::vector<TCRowColours> colours;

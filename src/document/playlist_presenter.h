@@ -33,6 +33,8 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
   // Redraws the colours after an option changed them, also when no song is current.
   void ShowColours();
   void Clear();
+  // Draws the playlist that stands on the screen anew, which while an empty one is current is the one before.
+  void ShowAgain();
   // As ShowPlaylist; if this playlist stands there already, its songs are not at the rows where they were.
   void ShowEditedPlaylist(TCPlaylistPosition position);
 

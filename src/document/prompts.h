@@ -51,8 +51,10 @@ class TCPrompts {
   [[nodiscard]] virtual std::optional<std::u16string> ChooseDocumentToOpen() = 0;
   [[nodiscard]] virtual std::optional<std::u16string> ChooseDocumentToSave(
       std::u16string_view suggestedPath) = 0;
-  // Model paths in the order of the chooser; none when the user cancelled.
-  [[nodiscard]] virtual std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion& question) = 0;
+  // Model paths in the order of the chooser, without names that the model cannot hold, which may leave none;
+  // empty when the user cancelled.
+  [[nodiscard]] virtual std::optional<std::vector<std::u16string>> ChooseMediaFiles(
+      const TCMediaFileQuestion& question) = 0;
 
   // A question with Yes and No; true is Yes.
   [[nodiscard]] virtual bool ConfirmRemove(std::u16string_view question) = 0;

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "lyrics/lyric_file.h"
-#include "model/media_check.h"
 #include "resources/string_table.h"
 #include "text/path_parts.h"
 #include "text/white_space.h"
@@ -14,8 +12,33 @@ namespace brevant {
 std::u16string CleanName(std::u16string_view typed) {
   std::u16string name(typed);
   std::erase(name, u'"');
+  // A paste can bring them into a field of one line, which shows a blank for each.
+  std::replace_if(
+      name.begin(), name.end(), [](char16_t unit) { return unit == u'\r' || unit == u'\n'; }, u' ');
   return std::u16string(Trim(name));
 }
+
+namespace {
+
+struct TCNodeRun {
+  TCTreeNode first = TCTreeNode::None;
+  std::size_t count = 0;
+};
+
+// The nodes of songs of the current playlist, those of neighbouring rows as one run; the last run first, so
+// that each leaves fewer behind it to be numbered anew. `rows` ascend.
+std::vector<TCNodeRun> NodesOf(const TCSetListStore& store, const std::vector<std::int32_t>& rows) {
+  std::vector<TCNodeRun> runs;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const bool neighbour = i > 0 && rows[i] == rows[i - 1] + 1;
+    if (!neighbour) runs.push_back({store.GetSongTreeNode(rows[i]), 0});
+    ++runs.back().count;
+  }
+  std::reverse(runs.begin(), runs.end());
+  return runs;
+}
+
+}  // namespace
 
 TCSetListEditor::TCSetListEditor(const TCEditParts& editParts) : parts(editParts) {}
 
@@ -111,9 +134,7 @@ void TCSetListEditor::RenameSong(TCSongPosition at, std::u16string_view name) {
   TCPlayListItem& song = *SongAt(parts.Store(), at);
   // A name with a backslash in it is read from a saved document as folder and name; so it is here.
   song.SetPath(std::u16string(std::u16string_view(song.folder)) + std::u16string(name));
-  CheckSongFile(parts.files, song);
-  song.lyrics = {};
-  LoadLyrics(parts.files, song.FullPath(), song.lyrics);
+  parts.check.CheckSongFiles(at, 1);
   if (at.Playlist() == parts.Store().shown) parts.playlist.RefreshSongRow(at.song, song);
 }
 
@@ -129,11 +150,9 @@ void TCSetListEditor::RemoveSelectedRows() {
   TCSetListStore& store = parts.Store();
   const TCPlaylistPosition current = store.CurrentPosition();
   const std::vector<std::int32_t> rows = parts.view.SelectedRows();
-  std::vector<TCTreeNode> nodes;
-  nodes.reserve(rows.size());
-  for (const std::int32_t row : rows) nodes.push_back(store.GetSongTreeNode(row));
+  const std::vector<TCNodeRun> nodes = NodesOf(store, rows);
   if (!RemoveSongs(store, current, rows)) return;
-  for (const TCTreeNode node : nodes) parts.tree.Tree().DeleteNode(node);
+  for (const TCNodeRun& run : nodes) parts.tree.Tree().DeleteNodes(run.first, run.count);
   parts.ShowChangedPlaylist(current);
   parts.view.ResetMouseState();
   parts.Changed();

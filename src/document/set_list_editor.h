@@ -8,7 +8,8 @@
 
 namespace brevant {
 
-// As a name may be kept: without double quotes, which no document can hold, and without blanks at its ends.
+// As a name may be kept: without double quotes, which no document can hold, with a blank for each character
+// that would break its line, and without blanks at its ends.
 [[nodiscard]] std::u16string CleanName(std::u16string_view typed);
 
 class TCSetListEditor {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "lyrics/lyric_file.h"
 #include "model/media_check.h"
 #include "resources/string_table.h"
 #include "text/numbers.h"
@@ -93,12 +92,15 @@ void TCSongPlacement::PlaceText(std::u16string_view text) {
 
 void TCSongPlacement::PlaceFiles(const std::vector<std::u16string>& paths) {
   if (paths.empty() || !MakeStoreReady()) return;
-  const auto placed =
+  const auto placed = static_cast<std::int32_t>(
       std::find_if_not(paths.begin(), paths.end(),
                        [this](const std::u16string& path) { return PlaceFile(path) == Placed::Yes; }) -
-      paths.begin();
-  // The last song placed is selected, and all of them went into its playlist.
-  if (placed > 0) parts.ShowChangedPlaylist(parts.tree.SelectedEntry().Playlist());
+      paths.begin());
+  if (placed == 0) return;
+  // The last song placed is selected, and the others stand right before it.
+  const TCSongPosition last = parts.tree.SelectedEntry().Song();
+  parts.check.CheckSongFiles({last.group, last.playlist, last.song - placed + 1}, placed);
+  parts.ShowChangedPlaylist(last.Playlist());
 }
 
 bool TCSongPlacement::MakeStoreReady() {
@@ -123,8 +125,6 @@ TCSongPlacement::Placed TCSongPlacement::PlaceFile(std::u16string_view path) {
   TCSongPosition place{selected.group, selected.playlist, selected.song + 1};
   if (selected.kind == TCNodeKind::Playlist) place.song = static_cast<std::int32_t>(playlist->items.size());
 
-  CheckSongFile(parts.files, song);
-  LoadLyrics(parts.files, song.FullPath(), song.lyrics);
   InsertSong(store, place, std::move(song));
   parts.tree.AddSongNodes(place, 1);
   parts.Changed();

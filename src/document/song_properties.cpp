@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "document/set_list_editor.h"
-#include "lyrics/lyric_file.h"
 #include "model/media_check.h"
 #include "text/path_parts.h"
 
@@ -22,12 +21,6 @@ std::u16string CleanFolder(std::u16string_view typed) {
   std::replace(folder.begin(), folder.end(), u'/', u'\\');
   if (!folder.empty() && folder.back() != u'\\') folder += u'\\';
   return folder;
-}
-
-// Nothing of another file's lyrics stays.
-void ReadLyricsAgain(TCFileSystem& files, TCPlayListItem& song) {
-  song.lyrics = {};
-  LoadLyrics(files, song.FullPath(), song.lyrics);
 }
 
 }  // namespace
@@ -62,9 +55,12 @@ void TCSongPropertiesForm::Apply() {
   ApplyToSong(*song);
   if (pathForAll || extensionForAll) {
     ApplyToAll(list, *song);
+    parts.check.CheckSongFiles({position.group, position.playlist, 0},
+                               static_cast<std::int32_t>(list.items.size()));
     parts.ShowChangedPlaylist(position.Playlist());
   } else {
     parts.tree.RenameSongNode(*song);
+    parts.check.CheckSongFiles(position, 1);
     if (position.Playlist() == parts.Store().shown) parts.playlist.RefreshSongRow(position.song, *song);
   }
   parts.Changed();
@@ -73,21 +69,16 @@ void TCSongPropertiesForm::Apply() {
 void TCSongPropertiesForm::ApplyToSong(TCPlayListItem& song) const {
   const std::u16string name = CleanName(songName);
   song.SetPath(CleanFolder(songPath) + (name.empty() ? song.fileName : name));
-  CheckSongFile(parts.files, song);
-  ReadLyricsAgain(parts.files, song);
 }
 
 void TCSongPropertiesForm::ApplyToAll(TCPlayList& list, const TCPlayListItem& song) {
   // Copies: the song is one of those that change.
   const std::u16string folder{std::u16string_view(song.folder)};
   const std::u16string fileName = song.fileName;
-  if (pathForAll) SetFolderForAllSongs(parts.files, list, folder);
+  if (pathForAll) SetFolderForAllSongs(list, folder);
   // A name without a type has none to give; it would leave every song with a bare dot.
-  if (extensionForAll && !song.extension.empty()) SetExtensionForAllSongs(parts.files, list, fileName);
-  for (TCPlayListItem& item : list.items) {
-    ReadLyricsAgain(parts.files, item);
-    parts.tree.RenameSongNode(item);
-  }
+  if (extensionForAll && !song.extension.empty()) SetExtensionForAllSongs(list, fileName);
+  for (const TCPlayListItem& item : list.items) parts.tree.RenameSongNode(item);
 }
 
 }  // namespace brevant

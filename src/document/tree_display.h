@@ -21,8 +21,10 @@ class TCTreeDisplay {
   // nothing added, below the third level or when `parent` is not there.
   virtual std::vector<TCTreeNode> AddNodes(TCTreeNode parent, std::size_t index,
                                            std::vector<std::u16string> texts) = 0;
-  // With everything under it. When the selected node goes, the tree selects a neighbour.
-  virtual void DeleteNode(TCTreeNode node) = 0;
+  // `first` and the siblings behind it, `count` nodes or as many as there are, with everything under them.
+  // When the selected node goes, the tree selects a neighbour.
+  virtual void DeleteNodes(TCTreeNode first, std::size_t count) = 0;
+  void DeleteNode(TCTreeNode node) { DeleteNodes(node, 1); }
   // Puts a node, and all under it, at place `index` of `parent` (None: the top level), counted without the
   // node itself. It keeps its handle, and stays open and selected if it was. Never between levels.
   virtual void MoveNode(TCTreeNode node, TCTreeNode parent, std::size_t index) = 0;

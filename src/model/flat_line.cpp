@@ -7,6 +7,7 @@ namespace brevant {
 namespace {
 
 constexpr char16_t kQuote = u'"';
+constexpr char16_t kReturn = u'\r';
 
 void SkipPastQuote(std::u16string_view& rest) {
   const std::size_t quote = rest.find(kQuote);
@@ -31,7 +32,7 @@ std::u16string_view TakeQuoted(std::u16string_view& rest) {
 void AppendQuoted(std::u16string& line, std::u16string_view text) {
   line += kQuote;
   for (const char16_t unit : text) {
-    if (unit != kQuote) line += unit;
+    if (unit != kQuote && unit != kReturn) line += unit;
   }
   line += kQuote;
   line += u' ';

@@ -19,7 +19,8 @@ struct TCFlatLine {
 // Never fails: what is missing is empty, and a text without its closing quote takes the whole rest.
 [[nodiscard]] TCFlatLine ParseFlatLine(std::u16string_view line);
 
-// The format knows no escape, so a double quote in a text is left out rather than breaking the line.
+// The format knows no escape, so what would break the line is left out of its quoted texts: double quotes and
+// carriage returns. The time is written as it is held.
 [[nodiscard]] std::u16string FormatFlatLine(std::u16string_view group, std::u16string_view playlist,
                                             const TCPlayListItem& song);
 

@@ -19,24 +19,16 @@ TCSongStatus SongFileStatus(TCFileSystem& files, std::u16string_view path) {
   return files.FileExists(path) ? TCSongStatus::Found : TCSongStatus::NotFound;
 }
 
-void CheckSongFile(TCFileSystem& files, TCPlayListItem& song) {
-  song.status = SongFileStatus(files, song.FullPath());
-}
-
-void SetFolderForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view folder) {
+void SetFolderForAllSongs(TCPlayList& playlist, std::u16string_view folder) {
   const TCSharedText sharedFolder{std::u16string(folder)};
-  for (TCPlayListItem& song : playlist.items) {
-    song.folder = sharedFolder;
-    CheckSongFile(files, song);
-  }
+  for (TCPlayListItem& song : playlist.items) song.folder = sharedFolder;
 }
 
-void SetExtensionForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view fileName) {
+void SetExtensionForAllSongs(TCPlayList& playlist, std::u16string_view fileName) {
   const TCSharedText extension = ExtensionPart(fileName);
   for (TCPlayListItem& song : playlist.items) {
     song.fileName = ReplaceExtension(song.fileName, extension);
     song.extension = extension;
-    CheckSongFile(files, song);
   }
 }
 

@@ -15,12 +15,10 @@ namespace brevant {
 // Found when the file can be opened for reading, else NotFound.
 [[nodiscard]] TCSongStatus SongFileStatus(TCFileSystem& files, std::u16string_view path);
 
-// Sets the status from the presence of the file alone.
-void CheckSongFile(TCFileSystem& files, TCPlayListItem& song);
-
 // How a set list is repaired whose songs moved to another folder (`folder` with its trailing backslash) or
-// were converted to another type (the type of `fileName`). Every song is changed and checked again, in order.
-void SetFolderForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view folder);
-void SetExtensionForAllSongs(TCFileSystem& files, TCPlayList& playlist, std::u16string_view fileName);
+// were converted to another type (the type of `fileName`). Every song is changed and has then to be checked
+// again.
+void SetFolderForAllSongs(TCPlayList& playlist, std::u16string_view folder);
+void SetExtensionForAllSongs(TCPlayList& playlist, std::u16string_view fileName);
 
 }  // namespace brevant

@@ -1,6 +1,5 @@
 #include "model/set_list.h"
 
-#include "resources/string_table.h"
 #include "text/path_parts.h"
 
 namespace brevant {

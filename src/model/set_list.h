@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lyrics/lyrics.h"
+#include "resources/string_table.h"
 #include "text/shared_text.h"
 
 namespace brevant {
@@ -59,7 +60,7 @@ struct TCPlayListItem {
 struct TCPlayList {
   std::u16string name;
   TCSharedText folder;  // of the playlist file; empty when it was listed without a folder
-  std::u16string extension = u"brvpl";
+  std::u16string extension{TextOf(TCTextId::PlayListExtension)};
   std::u16string totalTime;
   std::int32_t state1 = 0;
   TCTreeNode treeNode = TCTreeNode::None;
@@ -71,7 +72,7 @@ struct TCPlayList {
 struct TCPlayGroups {
   std::u16string name;
   TCSharedText folder;  // of the group list file; bare playlist names are resolved against it
-  std::u16string extension = u"brvgl";
+  std::u16string extension{TextOf(TCTextId::GroupListExtension)};
   TCTreeNode treeNode = TCTreeNode::None;
   std::vector<TCPlayList> playlists;
 };

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "model/set_list.h"
+#include "resources/string_table.h"
 
 namespace brevant {
 
@@ -45,8 +46,9 @@ struct TCSetListStore {
   std::u16string lastPlayListName;
   std::u16string lastSongName;
 
-  std::u16string validMediaExtensions = u"mid mp3 wav wma";  // without dots, separated by blanks
-  std::int32_t songLatencySeconds = 15;                      // the nominal gap between two songs of a set
+  // Without dots, separated by blanks.
+  std::u16string validMediaExtensions{TextOf(TCTextId::DefaultMediaExtensions)};
+  std::int32_t songLatencySeconds = 15;  // the nominal gap between two songs of a set
 
   // Drops all groups and sets the current position to 0, 0, 0; none is shown.
   void ClearSetLists();

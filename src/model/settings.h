@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace brevant {
 
@@ -11,6 +12,9 @@ namespace brevant {
 using TCRgb = std::uint32_t;
 inline constexpr TCRgb kBlack = 0x000000;
 inline constexpr TCRgb kWhite = 0xFFFFFF;
+
+// Of the playlist and of the lyrics.
+inline constexpr std::u16string_view kDefaultFontFace = u"Times New Roman";
 
 struct TCSettings {
   bool loadLastWindowState = true;
@@ -29,8 +33,8 @@ struct TCSettings {
   std::u16string lastMediaFileName;
   std::u16string lastMediaFileExtSpec;
 
-  std::u16string playListFontTypeName = u"Times New Roman";
-  std::u16string lyricsFontTypeName = u"Times New Roman";
+  std::u16string playListFontTypeName{kDefaultFontFace};
+  std::u16string lyricsFontTypeName{kDefaultFontFace};
 
   std::int32_t seekStepSeconds = 2;
   std::int32_t volumeStep = 5;  // on the scale 0 to 100

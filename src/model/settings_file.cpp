@@ -1,5 +1,6 @@
 #include "model/settings_file.h"
 
+#include <algorithm>
 #include <array>
 
 #include "text/case_folding.h"
@@ -79,8 +80,8 @@ constexpr std::array kRows = {
     Text(u"LastGroupListName", BREVANT_FIELD(setLists.lastGroupListName)),
     Text(u"LastPlayListName", BREVANT_FIELD(setLists.lastPlayListName)),
     Text(u"LastSongName", BREVANT_FIELD(setLists.lastSongName)),
-    Text(u"PlayListFontTypeName", BREVANT_FIELD(settings.playListFontTypeName), u"Times New Roman"),
-    Text(u"LyricsFontTypeName", BREVANT_FIELD(settings.lyricsFontTypeName), u"Times New Roman"),
+    Text(u"PlayListFontTypeName", BREVANT_FIELD(settings.playListFontTypeName), kDefaultFontFace),
+    Text(u"LyricsFontTypeName", BREVANT_FIELD(settings.lyricsFontTypeName), kDefaultFontFace),
     Number(u"SongLatencySeconds", BREVANT_FIELD(setLists.songLatencySeconds)),
     Number(u"FastFowardFastReverseTimeStep", BREVANT_FIELD(settings.seekStepSeconds)),
     Number(u"VolumeStep", BREVANT_FIELD(settings.volumeStep)),
@@ -130,8 +131,12 @@ void ReadRow(const TCIniText& ini, const Row& row, TCAppRecord& record) {
   }
 }
 
-// Reading removes blanks round a value and one pair of quotes; a text that has its own is wrapped once more.
-std::u16string ProtectedText(const std::u16string& text) {
+// A value as it has to stand in the file to be read as `text`. Reading removes blanks round a value and one
+// pair of quotes; a text that has its own is wrapped once more. A line break, which a name out of a damaged
+// document may hold, becomes a blank: what stands behind it would be read as keys and headings.
+std::u16string ProtectedText(std::u16string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char16_t unit) { return unit == u'\r' || unit == u'\n'; }, u' ');
   if (text.empty()) return text;
   const auto isBlank = [](char16_t unit) { return unit == u' ' || unit == u'\t'; };
   const bool quoted =

@@ -1,24 +1,20 @@
 #include "playback/transport.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
+#include <vector>
 
 #include "playback/player_length_probe.h"
+#include "text/disk_question.h"
 #include "text/time_text.h"
 
 namespace brevant {
 
 namespace {
 
-// What Play waits for a disk: longer than one in order takes, too short for a stall to be noticed.
-constexpr std::chrono::milliseconds kDiskPatience(100);
-
 TCSongStatus StatusOf(std::future<bool>& found) {
   return found.get() ? TCSongStatus::Found : TCSongStatus::NotFound;
-}
-
-bool HasCome(const std::future<bool>& answer, std::chrono::milliseconds patience) {
-  return answer.wait_for(patience) == std::future_status::ready;
 }
 
 // Null when there is a silent probe, or nothing to measure with.
@@ -57,14 +53,15 @@ void TCTransport::Play() {
 
 void TCTransport::StartSong(std::u16string_view path) {
   awaitedFile.reset();
-  std::future<bool> found = files.AskForFile(path);
+  std::future<bool> found =
+      AskDisk(files, [asked = std::u16string(path)](TCFileSystem& disk) { return disk.FileExists(asked); });
   if (HasCome(found, kDiskPatience)) {
     const TCSongStatus status = StatusOf(found);
     TakeStatus(store.currentSong, path, status);
     if (status == TCSongStatus::NotFound) return;
   } else {
     // The player tries its own way meanwhile.
-    awaitedFile = {store.currentSong, std::u16string(path), std::move(found)};
+    awaitedFile = {store.GetSongTreeNode(store.currentSong), std::u16string(path), std::move(found)};
   }
   const bool accepted = player->Play();
   state.playing = true;
@@ -75,19 +72,28 @@ void TCTransport::StartSong(std::u16string_view path) {
 }
 
 void TCTransport::TakeStatus(std::int32_t index, std::u16string_view path, TCSongStatus status) {
-  TCPlayListItem* song = store.SongAt(index);
-  if (song != nullptr && song->FullPath() == path) {
+  if (TCPlayListItem* song = store.SongAt(index)) {
     song->status = status;
     display.RefreshSongRow(index, *song);
   }
   if (status == TCSongStatus::NotFound) messages.AppendMessage(TCTextId::UnableToPlayMissingFile, path);
 }
 
+std::int32_t TCTransport::IndexOf(const TCAwaitedFile& file) const {
+  const TCPlayList* playlist = store.CurrentPlaylist();
+  if (playlist == nullptr) return -1;
+  const std::vector<TCPlayListItem>& songs = playlist->items;
+  const auto found = std::find_if(songs.begin(), songs.end(), [&file](const TCPlayListItem& song) {
+    return song.treeNode == file.song && song.FullPath() == file.path;
+  });
+  return found == songs.end() ? -1 : static_cast<std::int32_t>(found - songs.begin());
+}
+
 void TCTransport::TakeLateAnswer() {
   if (!HasCome(awaitedFile->found, std::chrono::milliseconds(0))) return;
   TCAwaitedFile file = *std::exchange(awaitedFile, std::nullopt);
   const TCSongStatus status = StatusOf(file.found);
-  TakeStatus(file.index, file.path, status);
+  TakeStatus(IndexOf(file), file.path, status);
   if (status == TCSongStatus::Found) return;
   state.playing = false;
   state.refreshSongTime = false;

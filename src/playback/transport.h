@@ -88,13 +88,16 @@ class TCTransport {
  private:
   // The answer about a song's file that had not come when Play was done with waiting.
   struct TCAwaitedFile {
-    std::int32_t index = -1;  // of the song, in the playlist that was current
+    TCTreeNode song = TCTreeNode::None;  // edits may move it meanwhile
     std::u16string path;
     std::future<bool> found;
   };
 
   // Starts what the player has loaded, the current song.
   void StartSong(std::u16string_view path);
+  // The song's place in the current playlist; -1 when it is not there any more or has another path.
+  [[nodiscard]] std::int32_t IndexOf(const TCAwaitedFile& file) const;
+  // An index that names no song changes no status.
   void TakeStatus(std::int32_t index, std::u16string_view path, TCSongStatus status);
   // As if it had come at once: a song that is not there was never started.
   void TakeLateAnswer();

@@ -1,6 +1,5 @@
 #include "text/disk_files.h"
 
-#include <fcntl.h>
 #include <limits.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -44,14 +43,12 @@ bool TCDiskFiles::FileExists(std::u16string_view path) {
   return OpenForReading(path, Expect::Found).file.IsOpen();
 }
 
-std::future<bool> TCDiskFiles::AskForFile(std::u16string_view path) {
-  const auto answer = std::make_shared<std::promise<bool>>();
-  const bool asked = questions.Start([answer, native = paths.ToNative(path)] {
-    TCOtherCase ownOtherCase;
-    answer->set_value(FindRegularFile(native, ownOtherCase).file.IsOpen());
+void TCDiskFiles::Ask(std::function<void(TCFileSystem& disk)> question) {
+  const bool asked = questions.Start([question, nativePaths = paths] {
+    TCDiskFiles disk(nativePaths);
+    question(disk);
   });
-  if (!asked) answer->set_value(FileExists(path));
-  return answer->get_future();
+  if (!asked) question(*this);
 }
 
 std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::size_t maxBytes) {
@@ -87,14 +84,9 @@ bool TCDiskFiles::ReplaceFile(std::u16string_view path, std::string_view bytes) 
 bool TCDiskFiles::CopyFile(std::u16string_view from, std::u16string_view to) {
   const std::string source = Locate(paths.ToNative(from));
   const std::string target = Locate(paths.ToNative(to));
+  const bool copied = !source.empty() && !target.empty() && CopyFileSafely(source, target);
   ForgetFolders();
-  // A second name for the file takes no space and is there at once. It stays as it is because ReplaceFile
-  // never writes into the old file.
-  unlink(target.c_str());
-  if (linkat(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
-  std::error_code failure;
-  const auto replacing = std::filesystem::copy_options::overwrite_existing;
-  return std::filesystem::copy_file(source, target, replacing, failure) && !failure;
+  return copied;
 }
 
 bool TCDiskFiles::MakeFolder(std::u16string_view path) {

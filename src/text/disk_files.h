@@ -2,7 +2,7 @@
 #pragma once
 
 #include <chrono>
-#include <future>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,8 +25,8 @@ class TCDiskFiles final : public TCFileSystem {
   explicit TCDiskFiles(TCNativePaths paths, TCOtherCase::Clock clock = std::chrono::steady_clock::now);
 
   [[nodiscard]] bool FileExists(std::u16string_view path) override;
-  // Asks on a thread that nobody waits for.
-  [[nodiscard]] std::future<bool> AskForFile(std::u16string_view path) override;
+  // On a thread that nobody waits for.
+  void Ask(std::function<void(TCFileSystem& disk)> question) override;
   [[nodiscard]] std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override;
 
   // Also false for a file that is write-protected, and for one in a folder that takes no new file: the new

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cstddef>
-#include <future>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,13 +18,10 @@ class TCFileSystem {
   // or device is no file, and asking about one never blocks.
   [[nodiscard]] virtual bool FileExists(std::u16string_view path) = 0;
 
-  // FileExists for whoever must not wait for a disk that has stopped answering: the answer may come at once,
-  // later, or never. Waits for nothing, and neither does the end of what is returned.
-  [[nodiscard]] virtual std::future<bool> AskForFile(std::u16string_view path) {
-    std::promise<bool> answer;
-    answer.set_value(FileExists(path));
-    return answer.get_future();
-  }
+  // For whoever must not wait for a disk that has stopped answering: `question` runs at once, later, or never
+  // to its end, on a thread and with a file system of its own; it owns what it uses. Waits for nothing. See
+  // AskDisk.
+  virtual void Ask(std::function<void(TCFileSystem& disk)> question) { question(*this); }
 
   // All bytes of the file; empty when it is no readable regular file, when reading breaks off, or when it
   // holds more than `maxBytes`.

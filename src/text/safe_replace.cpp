@@ -20,6 +20,7 @@ namespace {
 // As many as the kernel itself follows.
 constexpr int kMaxLinks = 40;
 constexpr int kMaxAttempts = 100;
+constexpr std::size_t kBlockBytes = std::size_t{64} << 10;
 
 // With its trailing slash; empty for a name in the working folder.
 std::string FolderOf(const std::string& native) {
@@ -38,13 +39,18 @@ std::optional<std::string> FollowLinks(std::string native) {
   return std::nullopt;
 }
 
-// A file of our own beside the target, under a name that nobody else uses.
+// A name of our own, which nobody else uses.
+std::string NewName(const std::string& folder, std::random_device& random) {
+  return folder + ".brevant-" + std::to_string(random()) + ".tmp";
+}
+
+// A file of our own beside the target.
 class TCNewFile {
  public:
   TCNewFile(const std::string& folder, mode_t mode) {
     std::random_device random;
     for (int attempt = 0; attempt < kMaxAttempts && !file.IsOpen(); ++attempt) {
-      name = folder + ".brevant-" + std::to_string(random()) + ".tmp";
+      name = NewName(folder, random);
       file = TCFileHandle(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
       if (!file.IsOpen() && errno != EEXIST) break;
     }
@@ -75,11 +81,23 @@ class TCNewFile {
       if (written <= 0) return false;
       bytes.remove_prefix(static_cast<std::size_t>(written));
     }
-    return fsync(file.Get()) == 0;
+    return true;
   }
 
+  [[nodiscard]] bool WriteAllOf(const TCFileHandle& source) const {
+    std::string block(kBlockBytes, '\0');
+    while (true) {
+      const ssize_t got = read(source.Get(), block.data(), block.size());
+      if (got == 0) return true;
+      if (got < 0 && errno == EINTR) continue;
+      if (got < 0 || !Write(std::string_view(block).substr(0, static_cast<std::size_t>(got)))) return false;
+    }
+  }
+
+  // Waits until what was written is on the disk.
   [[nodiscard]] bool MoveTo(const std::string& target) {
-    if (!file.Close() || rename(name.c_str(), target.c_str()) != 0) return false;
+    const bool safe = fsync(file.Get()) == 0 && file.Close();
+    if (!safe || rename(name.c_str(), target.c_str()) != 0) return false;
     needsRemoval = false;
     return true;
   }
@@ -97,7 +115,38 @@ void KeepNewName(const std::string& folder) {
   if (handle.IsOpen()) fsync(handle.Get());
 }
 
+// Gives the file one name more, which replaces `target` in one step.
+bool LinkTo(const std::string& target, const std::string& source) {
+  std::random_device random;
+  for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
+    const std::string name = NewName(FolderOf(target), random);
+    if (linkat(AT_FDCWD, source.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0) {
+      const bool moved = rename(name.c_str(), target.c_str()) == 0;
+      unlink(name.c_str());  // it is still there when `target` was a name of the same file already
+      return moved;
+    }
+    if (errno != EEXIST) return false;
+  }
+  return false;
+}
+
+bool WriteCopy(const std::string& target, const std::string& source) {
+  const TCFileHandle file(open(source.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+  struct stat status {};
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  TCNewFile copy(FolderOf(target), 0600);
+  if (!copy.IsOpen()) return false;
+  copy.TakeOver(status);
+  return copy.WriteAllOf(file) && copy.MoveTo(target);
+}
+
 }  // namespace
+
+bool CopyFileSafely(const std::string& source, const std::string& target) {
+  if (!LinkTo(target, source) && !WriteCopy(target, source)) return false;
+  KeepNewName(FolderOf(target));
+  return true;
+}
 
 bool ReplaceFileSafely(const std::string& native, std::string_view bytes) {
   const std::optional<std::string> target = FollowLinks(native);

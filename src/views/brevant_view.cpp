@@ -38,6 +38,9 @@ TCBrevantView::TCBrevantView(QWidget* parent)
       edgeScroll(*this, [this](QPoint place) { SelectUnderDrag(RowUnder(place)); }) {
   setObjectName(QStringLiteral("playlistView"));
   setAccessibleName(QStringLiteral("Playlist"));
+  setWhatsThis(QStringLiteral(
+      "The playlist, one song a row. The green song is the current one, and Enter plays it; a double-click "
+      "plays the row under the pointer. The header says how long the whole playlist takes."));
   setModel(playlistModel);
   setHorizontalHeader(columnHeader);
   setItemDelegate(new TCPlaylistRowDelegate(this));

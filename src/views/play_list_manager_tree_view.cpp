@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QToolTip>
+#include <algorithm>
 #include <utility>
 
 #include "text/white_space.h"
@@ -45,6 +46,10 @@ TCPlayListManagerTreeView::TCPlayListManagerTreeView(QWidget* parent)
       edgeScroll(*this, [this](QPoint place) { AimAt(place); }) {
   setObjectName(QStringLiteral("playListManagerTree"));
   setAccessibleName(QStringLiteral("Play List Manager"));
+  setWhatsThis(
+      QStringLiteral("All groups, playlists and songs of the document. A double-click, or Enter, takes a "
+                     "playlist or a song to "
+                     "the playlist window; entries are renamed, dragged to another place and removed here."));
   setModel(nodes);
   setItemDelegate(delegate);
   setIconSize(kPictureSize);
@@ -112,24 +117,25 @@ std::vector<TCTreeNode> TCPlayListManagerTreeView::AddNodes(TCTreeNode parent, s
   return nodes->AddNodes(parent, index, texts);
 }
 
-void TCPlayListManagerTreeView::DeleteNode(TCTreeNode node) {
-  const QModelIndex index = nodes->IndexOf(node);
-  if (!index.isValid()) return;
+void TCPlayListManagerTreeView::DeleteNodes(TCTreeNode first, std::size_t count) {
+  const QModelIndex index = nodes->IndexOf(first);
+  if (!index.isValid() || count == 0) return;
+  const int siblings = nodes->rowCount(index.parent());
+  const int end = index.row() + static_cast<int>(std::min(count, static_cast<std::size_t>(siblings)));
   QModelIndex selected = nodes->IndexOf(SelectedNode());
-  while (selected.isValid() && selected != index) selected = selected.parent();
-  if (selected.isValid()) {
+  while (selected.isValid() && selected.parent() != index.parent()) selected = selected.parent();
+  if (selected.isValid() && selected.row() >= index.row() && selected.row() < end) {
     // What was typed so far goes with the node.
     if (state() == EditingState) closeEditor(delegate->Editor(), QAbstractItemDelegate::NoHint);
-    const int last = nodes->rowCount(index.parent()) - 1;
     QModelIndex neighbour = index.parent();
-    if (index.row() < last) {
-      neighbour = index.siblingAtRow(index.row() + 1);
+    if (end < siblings) {
+      neighbour = index.siblingAtRow(end);
     } else if (index.row() > 0) {
       neighbour = index.siblingAtRow(index.row() - 1);
     }
     SelectUnscrolled(nodes->NodeAt(neighbour));
   }
-  nodes->DeleteNode(node);
+  nodes->DeleteNodes(first, count);
 }
 
 void TCPlayListManagerTreeView::MoveNode(TCTreeNode node, TCTreeNode parent, std::size_t index) {

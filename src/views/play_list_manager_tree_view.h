@@ -45,7 +45,7 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
 
   std::vector<TCTreeNode> AddNodes(TCTreeNode parent, std::size_t index,
                                    std::vector<std::u16string> texts) override;
-  void DeleteNode(TCTreeNode node) override;
+  void DeleteNodes(TCTreeNode first, std::size_t count) override;
   void MoveNode(TCTreeNode node, TCTreeNode parent, std::size_t index) override;
   void ClearNodes() override;
   void SetNodeText(TCTreeNode node, std::u16string_view text) override;

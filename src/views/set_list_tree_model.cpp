@@ -48,16 +48,17 @@ std::vector<TCTreeNode> TCSetListTreeModel::AddNodes(TCTreeNode parentNode, std:
   return added;
 }
 
-void TCSetListTreeModel::DeleteNode(TCTreeNode node) {
-  const TCSlot slot = SlotOf(node);
-  if (slot == kRoot) return;
-  const TCSlot parentSlot = nodes[slot].parent;
-  const int row = nodes[slot].row;
-  beginRemoveRows(IndexOfSlot(parentSlot), row, row);
-  FreeSlot(slot);
+void TCSetListTreeModel::DeleteNodes(TCTreeNode firstNode, std::size_t count) {
+  const TCSlot firstSlot = SlotOf(firstNode);
+  if (firstSlot == kRoot || count == 0) return;
+  const TCSlot parentSlot = nodes[firstSlot].parent;
   std::vector<TCSlot>& siblings = nodes[parentSlot].children;
-  siblings.erase(siblings.begin() + row);
-  Renumber(parentSlot, static_cast<std::size_t>(row), siblings.size());
+  const auto first = static_cast<std::size_t>(nodes[firstSlot].row);
+  const std::size_t end = first + std::min(count, siblings.size() - first);
+  beginRemoveRows(IndexOfSlot(parentSlot), static_cast<int>(first), static_cast<int>(end) - 1);
+  for (std::size_t place = first; place < end; ++place) FreeSlot(siblings[place]);
+  siblings.erase(siblings.begin() + Offset(first), siblings.begin() + Offset(end));
+  Renumber(parentSlot, first, siblings.size());
   endRemoveRows();
 }
 

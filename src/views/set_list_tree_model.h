@@ -35,7 +35,7 @@ class TCSetListTreeModel final : public QAbstractItemModel {
   // As TCTreeDisplay has them.
   std::vector<TCTreeNode> AddNodes(TCTreeNode parent, std::size_t index,
                                    const std::vector<std::u16string>& texts);
-  void DeleteNode(TCTreeNode node);
+  void DeleteNodes(TCTreeNode first, std::size_t count);
   void MoveNode(TCTreeNode node, TCTreeNode parent, std::size_t index);
   void ClearNodes();
   void SetText(TCTreeNode node, const QString& text);

@@ -123,6 +123,21 @@ void CWMPHost::Build() {
   ReserveFor(totalLabel, QStringLiteral("00:00"));
   ReserveFor(volumeValueLabel, QStringLiteral("100"));
 
+  setWhatsThis(
+      QStringLiteral("The player: the song that is loaded, what the player does with it, and what the sound "
+                     "system has to say."));
+  songLabel.setWhatsThis(QStringLiteral("The song that is loaded into the player."));
+  phaseLabel.setWhatsThis(QStringLiteral("What the player does with the song."));
+  noticeLabel.setWhatsThis(QStringLiteral("What the sound system or the song's file has to say."));
+  elapsedLabel.setWhatsThis(QStringLiteral("How much of the song has been played."));
+  totalLabel.setWhatsThis(QStringLiteral("How long the song is; --:-- while that is not known."));
+  volumeValueLabel.setWhatsThis(QStringLiteral("The volume, from 0 to 100."));
+  seekSlider.setWhatsThis(QStringLiteral(
+      "Where the song is. Press where you want to be, or drag the handle; it works while a song plays or is "
+      "paused."));
+  volumeSlider.setWhatsThis(
+      QStringLiteral("The program's own volume, from 0 to 100. F8 and F9 and the mouse wheel turn it, too."));
+
   seekSlider.setAccessibleName(QStringLiteral("Song position"));
   seekSlider.setSingleStep(static_cast<int>(kTenths));
   volumeSlider.setAccessibleName(QStringLiteral("Volume"));
@@ -130,16 +145,20 @@ void CWMPHost::Build() {
   volumeSlider.setSingleStep(1);
   volumeSlider.setPageStep(10);
 
-  const auto describe = [](QToolButton& button, const QString& name, const QString& tip) {
+  const auto describe = [](QToolButton& button, const QString& name, const QString& tip,
+                           const QString& says) {
     button.setAccessibleName(name);
     button.setToolTip(tip);
+    button.setWhatsThis(says);
     button.setAutoRaise(true);
     button.setFocusPolicy(Qt::NoFocus);
     button.setIconSize({kButtonIcon, kButtonIcon});
   };
-  describe(playButton, QStringLiteral("Play"), QStringLiteral("Play"));
-  describe(pauseButton, QStringLiteral("Pause"), QStringLiteral("Pause - Continue"));
-  describe(stopButton, QStringLiteral("Stop"), QStringLiteral("Stop"));
+  describe(playButton, QStringLiteral("Play"), QStringLiteral("Play"),
+           QStringLiteral("Plays the green song from its beginning."));
+  describe(pauseButton, QStringLiteral("Pause"), QStringLiteral("Pause - Continue"),
+           QStringLiteral("Pauses the song, and lets it go on."));
+  describe(stopButton, QStringLiteral("Stop"), QStringLiteral("Stop"), QStringLiteral("Stops the song."));
 
   auto* songRow = new QHBoxLayout;
   songRow->addWidget(&songLabel, 1);

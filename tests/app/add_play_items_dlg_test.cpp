@@ -179,7 +179,7 @@ TEST_F(AddPlayItemsDlg, ANameThatIsNotGivenChangesNothing) {
 
 TEST_F(AddPlayItemsDlg, FindSongsPutsTheFilesInQuotesIntoTheField) {
   Open();
-  rig.prompts.mediaAnswers = {{u"\\music\\Grey Waves.mp3", u"\\music\\b.wav"}};
+  rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"\\music\\Grey Waves.mp3", u"\\music\\b.wav"}};
   Click("FindSongs");
   EXPECT_EQ(rig.prompts.lastMediaQuestion.count, TCChooseFiles::Several);
   EXPECT_EQ(Songs().Text(), u"\"\\music\\Grey Waves.mp3\" \"\\music\\b.wav\"");
@@ -191,7 +191,7 @@ TEST_F(AddPlayItemsDlg, CancellingFindSongsKeepsTheFieldAndForgetsTheLastFile) {
   rig.record.settings.lastMediaFileName = u"\\music\\a.mp3";
   Open();
   QTest::keyClicks(&Songs(), QStringLiteral("C:\\b.mp3"));
-  rig.prompts.mediaAnswers = {{}};
+  rig.prompts.mediaAnswers = {std::nullopt};
   Click("FindSongs");
   EXPECT_EQ(rig.prompts.lastMediaQuestion.initialPath, u"\\music\\a.mp3");
   EXPECT_EQ(Songs().toPlainText(), QStringLiteral("C:\\b.mp3"));
@@ -236,7 +236,7 @@ TEST_F(AddPlayItemsDlg, HelpDoesNothing) {
 
 TEST_F(AddPlayItemsDlg, AltWithTheUnderlinedLetterFindsSongsFromTheField) {
   Open();
-  rig.prompts.mediaAnswers = {{u"\\music\\a.mp3"}};
+  rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"\\music\\a.mp3"}};
   QTest::keyClick(&Songs(), Qt::Key_S, Qt::AltModifier);
   EXPECT_TRUE(
       QTest::qWaitFor([this] { return Songs().toPlainText() == QStringLiteral("\"\\music\\a.mp3\""); }));

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "dialog_answer.h"
+#include "views/stage_mouse.h"
 #include "views/text_conversion.h"
 #include "whole_program.h"
 
@@ -33,6 +34,32 @@ class Arrange : public TCWholeProgram {
     const QRect row = Tree().visualRect(node);
     return {row.left() + 40, row.center().y()};
   }
+  [[nodiscard]] QPoint OnScreen(const QModelIndex& node) {
+    return Tree().viewport()->mapToGlobal(PlaceOf(node));
+  }
+  [[nodiscard]] QPoint PlaceOfRow(int row) {
+    TCBrevantView& view = Frame().PlaylistView();
+    return view.visualRect(view.model()->index(row, 1)).center();
+  }
+  // Selects both rows, one by one, and drags them with Ctrl to a place on the screen.
+  void CtrlDragBothRowsTo(QPoint globalPlace) {
+    TCBrevantView& view = Frame().PlaylistView();
+    TCStageMouse mouse(*view.viewport());
+    view.clearSelection();
+    for (const int row : {1, 0}) mouse.Click(PlaceOfRow(row), Qt::ControlModifier);
+    ASSERT_EQ(view.SelectedRows().size(), 2u);
+    mouse.Press(PlaceOfRow(1), Qt::ControlModifier);
+    mouse.Drag(view.viewport()->mapFromGlobal(globalPlace) - QPoint(0, 3), Qt::ControlModifier);
+    mouse.Drag(view.viewport()->mapFromGlobal(globalPlace), Qt::ControlModifier);
+    mouse.Release(view.viewport()->mapFromGlobal(globalPlace), Qt::ControlModifier);
+    QCoreApplication::sendPostedEvents();
+  }
+  [[nodiscard]] QStringList Songs(std::size_t playlist) {
+    QStringList names;
+    for (const TCPlayListItem& song : app->Record().setLists.groups[0].playlists[playlist].items)
+      names.append(ToQString(song.fileName));
+    return names;
+  }
   [[nodiscard]] QStringList Rows() {
     QStringList names;
     for (int row = 0; row < Frame().PlaylistView().model()->rowCount(); ++row) names.append(CellText(row, 4));
@@ -50,6 +77,16 @@ class Arrange : public TCWholeProgram {
 TEST_F(Arrange, ADoubleClickInTheTreeShowsThePlaylist) {
   QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, PlaceOf(Node(1)));
   EXPECT_EQ(Rows(), QStringList{QStringLiteral("three.mp3")});
+}
+
+TEST_F(Arrange, ADoubleClickOnAGroupOpensOrClosesItAndLoadsNothing) {
+  const QModelIndex group = Node(0).parent();
+  for (const bool open : {false, true}) {
+    QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, PlaceOf(group));
+    EXPECT_EQ(Tree().isExpanded(group), open);
+  }
+  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));
+  EXPECT_TRUE(player.GetUrl().empty());
 }
 
 TEST_F(Arrange, EnterOnASongMakesItCurrentAndPlaysOnlyWithBothOptionsOn) {
@@ -128,6 +165,43 @@ TEST_F(Arrange, ARowDraggedOntoAnotherTakesItsPlace) {
   QTest::mouseRelease(&viewport, Qt::LeftButton, {}, place(1));
   EXPECT_EQ(Rows(), (QStringList{QStringLiteral("two.mp3"), QStringLiteral("one.mp3")}));
   EXPECT_EQ(Frame().PlaylistView().SelectedRow(), 1);
+}
+
+TEST_F(Arrange, RowsDraggedWithCtrlOntoAPlaylistOfTheTreeAreAppendedThereInOrder) {
+  CtrlDragBothRowsTo(OnScreen(Node(1)));
+  EXPECT_EQ(Songs(1),
+            (QStringList{QStringLiteral("three.mp3"), QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));
+  EXPECT_EQ(Songs(0), (QStringList{QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));
+  EXPECT_EQ(Tree().currentIndex(), Node(1, 1)) << "the first of the copies is selected";
+  EXPECT_EQ(Rows(), Songs(0)) << "the playlist that was dragged from still stands there";
+  EXPECT_TRUE(app->Document().IsModified());
+}
+
+TEST_F(Arrange, RowsDraggedWithCtrlOntoASongGoToItsPlaylistsEnd) {
+  CtrlDragBothRowsTo(OnScreen(Node(1, 0)));
+  EXPECT_EQ(Songs(1),
+            (QStringList{QStringLiteral("three.mp3"), QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));
+}
+
+TEST_F(Arrange, RowsDraggedWithCtrlWithinThePlaylistAreCopiedToItsOwnEnd) {
+  SelectNode(Node(1));
+  CtrlDragBothRowsTo(Frame().PlaylistView().viewport()->mapToGlobal(PlaceOfRow(0)));
+  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("one.mp3"), QStringLiteral("two.mp3"),
+                                 QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));
+  EXPECT_EQ(Tree().currentIndex(), Node(0, 2));
+}
+
+TEST_F(Arrange, WithEditingDisabledNothingThatIsDraggedArrives) {
+  Settings().disableEditing = 1;
+  CtrlDragBothRowsTo(OnScreen(Node(1)));
+  EXPECT_EQ(Songs(1), QStringList{QStringLiteral("three.mp3")});
+  EXPECT_FALSE(app->Document().IsModified());
+}
+
+TEST_F(Arrange, RowsDraggedWithCtrlOntoAGroupGoNowhere) {
+  CtrlDragBothRowsTo(OnScreen(Node(0).parent()));
+  EXPECT_EQ(Songs(0).size() + Songs(1).size(), 3);
+  EXPECT_FALSE(app->Document().IsModified());
 }
 
 TEST_F(Arrange, BehindAnOpenPromptNoCommandReplacesTheDocument) {

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QWhatsThis>
 #include <algorithm>
 #include <array>
 
@@ -43,6 +44,11 @@ class CommandEffects : public TCWholeProgram {
     player.ForgetCalls();
     Trigger(id);
     EXPECT_EQ(LastCall(), call);
+  }
+
+  // The page of the guide that is open.
+  [[nodiscard]] QString GuideTitle() {
+    return app->Help().Window() != nullptr ? app->Help().Window()->Page().Title() : QString();
   }
 
   // The option turns over with each use, and the mark with it.
@@ -464,6 +470,22 @@ const std::array kEffects = {
     TCEffect{Id::SwallowF4, [](Program& p) { p.ExpectCall(Id::SwallowF4, ""); }},
     TCEffect{Id::Cut, [](Program& p) { p.ExpectNothing(Id::Cut); }},
     TCEffect{Id::Undo, [](Program& p) { p.ExpectNothing(Id::Undo); }},
+    TCEffect{Id::HelpTopics,
+             [](Program& p) {
+               p.Trigger(Id::HelpTopics);
+               EXPECT_EQ(p.GuideTitle(), QStringLiteral("The Brevant guide"));
+             }},
+    TCEffect{Id::Help,
+             [](Program& p) {
+               p.Trigger(Id::Help);
+               EXPECT_EQ(p.GuideTitle(), QStringLiteral("Performing"));
+             }},
+    TCEffect{Id::ContextHelp,
+             [](Program& p) {
+               p.Trigger(Id::ContextHelp);
+               EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+               QWhatsThis::leaveWhatsThisMode();
+             }},
     TCEffect{Id::About,
              [](Program& p) {
                p.Trigger(Id::About);

@@ -86,5 +86,15 @@ TEST_F(FileDrops, NothingIsDroppedBehindADialog) {
   EXPECT_FALSE(Drop({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
 }
 
+TEST_F(FileDrops, ADialogThatOpensBeforeTheDropIsOverEndsIt) {
+  window.show();
+  EXPECT_TRUE(Drop({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
+  QDialog dialog(&window);
+  dialog.setModal(true);
+  dialog.show();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(dropped.isEmpty());
+}
+
 }  // namespace
 }  // namespace brevant

@@ -16,6 +16,7 @@
 
 #include "app/stage_style.h"
 #include "fake_target.h"
+#include "timed_key.h"
 
 namespace brevant {
 namespace {
@@ -226,31 +227,19 @@ TEST_F(KeyFilter, AWidgetKeepsTheKeysItHasClaimed) {
       << "its claim holds only while it has focus";
 }
 
-// A key event with a time of its own, sent as the display server's events come in.
-void Send(QWidget* widget, QEvent::Type type, Qt::Key key, unsigned long time, bool autoRepeat,
-          const QString& text = {}) {
-  if (type == QEvent::KeyPress &&
-      qt_sendShortcutOverrideEvent(widget, time, key, Qt::NoModifier, {}, autoRepeat)) {
-    return;
-  }
-  QKeyEvent event(type, key, Qt::NoModifier, 0, 0, 0, text, autoRepeat);
-  event.setTimestamp(time);
-  QCoreApplication::sendEvent(widget, &event);
-}
-
 TEST_F(KeyFilter, AHeldKeyActsOnceUnlessItsCommandMayRepeat) {
   Focus(list);
   for (const bool recognised : {true, false}) {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down}) {
       target.ran.clear();
       unsigned long time = recognised ? 10000 : 20000;
-      Send(list, QEvent::KeyPress, key, time, false);
+      SendKey(list, QEvent::KeyPress, key, time, false);
       for (int i = 0; i < 4; ++i) {
         time += 30;
-        Send(list, QEvent::KeyRelease, key, time, recognised);
-        Send(list, QEvent::KeyPress, key, time, recognised);
+        SendKey(list, QEvent::KeyRelease, key, time, recognised);
+        SendKey(list, QEvent::KeyPress, key, time, recognised);
       }
-      Send(list, QEvent::KeyRelease, key, time + 30, false);
+      SendKey(list, QEvent::KeyRelease, key, time + 30, false);
       QCoreApplication::sendPostedEvents();
       if (key == Qt::Key_Space) {
         EXPECT_EQ(target.ran, Ran{TCCommandId::PauseContinue});
@@ -268,7 +257,7 @@ TEST_F(KeyFilter, NothingOfAHeldKeyReachesTheDialogThatItOpened) {
     unsigned long time = recognised ? 10000 : 20000;
     Activate(window);
     Focus(list);
-    Send(list, QEvent::KeyPress, Qt::Key_P, time, false, letter);
+    SendKey(list, QEvent::KeyPress, Qt::Key_P, time, false, letter);
     QDialog dialog(&window);
     auto* field = new QLineEdit(&dialog);
     dialog.open();
@@ -280,46 +269,46 @@ TEST_F(KeyFilter, NothingOfAHeldKeyReachesTheDialogThatItOpened) {
       }
       for (int i = 0; i < 4; ++i) {
         time += 30;
-        Send(receiver, QEvent::KeyRelease, Qt::Key_P, time, recognised);
-        Send(receiver, QEvent::KeyPress, Qt::Key_P, time, recognised, letter);
+        SendKey(receiver, QEvent::KeyRelease, Qt::Key_P, time, recognised);
+        SendKey(receiver, QEvent::KeyPress, Qt::Key_P, time, recognised, letter);
       }
     }
     EXPECT_EQ(field->text(), QString());
-    Send(field, QEvent::KeyRelease, Qt::Key_P, time + 30, false);
+    SendKey(field, QEvent::KeyRelease, Qt::Key_P, time + 30, false);
 
-    Send(field, QEvent::KeyPress, Qt::Key_P, time + 100, false, letter);
-    Send(field, QEvent::KeyRelease, Qt::Key_P, time + 130, recognised);
-    Send(field, QEvent::KeyPress, Qt::Key_P, time + 130, recognised, letter);
-    Send(field, QEvent::KeyRelease, Qt::Key_P, time + 160, false);
+    SendKey(field, QEvent::KeyPress, Qt::Key_P, time + 100, false, letter);
+    SendKey(field, QEvent::KeyRelease, Qt::Key_P, time + 130, recognised);
+    SendKey(field, QEvent::KeyPress, Qt::Key_P, time + 130, recognised, letter);
+    SendKey(field, QEvent::KeyRelease, Qt::Key_P, time + 160, false);
     EXPECT_EQ(field->text(), QStringLiteral("pp")) << "pressed anew it is typed, and repeats";
   }
 }
 
 TEST_F(KeyFilter, AHeldKeyPressesNoButtonOfTheDialogThatItOpened) {
   Focus(list);
-  Send(list, QEvent::KeyPress, Qt::Key_Space, 1000, false);
+  SendKey(list, QEvent::KeyPress, Qt::Key_Space, 1000, false);
   QDialog dialog(&window);
   auto* dialogButton = new QPushButton(&dialog);
   dialog.open();
   Activate(dialog);
   Focus(dialogButton);
   const auto repeat = [dialogButton](unsigned long time) {
-    Send(dialogButton, QEvent::KeyRelease, Qt::Key_Space, time, false);
-    Send(dialogButton, QEvent::KeyPress, Qt::Key_Space, time, false);
+    SendKey(dialogButton, QEvent::KeyRelease, Qt::Key_Space, time, false);
+    SendKey(dialogButton, QEvent::KeyPress, Qt::Key_Space, time, false);
   };
   repeat(1030);
   EXPECT_FALSE(dialogButton->isDown());
-  Send(dialogButton, QEvent::KeyRelease, Qt::Key_Space, 1060, false);
-  Send(dialogButton, QEvent::KeyPress, Qt::Key_Space, 1200, false);
+  SendKey(dialogButton, QEvent::KeyRelease, Qt::Key_Space, 1060, false);
+  SendKey(dialogButton, QEvent::KeyPress, Qt::Key_Space, 1200, false);
   EXPECT_TRUE(dialogButton->isDown());
 }
 
 TEST_F(KeyFilter, TwoQuickPressesAreTwo) {
   Focus(list);
-  Send(list, QEvent::KeyPress, Qt::Key_Space, 1000, false);
-  Send(list, QEvent::KeyRelease, Qt::Key_Space, 1040, false);
-  Send(list, QEvent::KeyPress, Qt::Key_Space, 1050, false);
-  Send(list, QEvent::KeyRelease, Qt::Key_Space, 1090, false);
+  SendKey(list, QEvent::KeyPress, Qt::Key_Space, 1000, false);
+  SendKey(list, QEvent::KeyRelease, Qt::Key_Space, 1040, false);
+  SendKey(list, QEvent::KeyPress, Qt::Key_Space, 1050, false);
+  SendKey(list, QEvent::KeyRelease, Qt::Key_Space, 1090, false);
   QCoreApplication::sendPostedEvents();
   EXPECT_EQ(target.ran, Ran(2, TCCommandId::PauseContinue));
 }

@@ -60,7 +60,11 @@ TEST(KeyRules, SayWhoHasAKey) {
       {"Alt alone", Unbound(Qt::Key_Alt, kOrdinary, Qt::AltModifier), TCKeyVerdict::Untouched},
       {"an arrow that the tree keeps", Kept(Bound(Qt::Key_Down, kOrdinary)), TCKeyVerdict::Widget},
       {"Enter that the tree keeps, held", Kept(Held(Bound(Qt::Key_Return, kOrdinary), false)),
+       TCKeyVerdict::Swallow},
+      {"an arrow that the tree keeps, held", Kept(Held(Bound(Qt::Key_Down, kOrdinary), true)),
        TCKeyVerdict::Widget},
+      {"a key of no command that the tree keeps, held",
+       Kept(Held(Unbound(Qt::Key_Down, kOrdinary, Qt::ShiftModifier), false)), TCKeyVerdict::Widget},
 
       {"a letter being typed", Bound(Qt::Key_P, kTyping), TCKeyVerdict::Widget},
       {"a blank being typed", Bound(Qt::Key_Space, kTyping), TCKeyVerdict::Widget},

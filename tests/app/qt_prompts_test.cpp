@@ -217,7 +217,7 @@ TEST_F(QtPrompts, HundredsOfSongsAreChosenAtOnce) {
     list.selectAll();
     Accept(dialog);
   });
-  EXPECT_EQ(prompts.ChooseMediaFiles(SongQuestion()).size(), 300U);
+  EXPECT_EQ(prompts.ChooseMediaFiles(SongQuestion())->size(), 300U);
 }
 
 TEST_F(QtPrompts, OneSongIsChosenWhereOneIsWanted) {
@@ -243,7 +243,7 @@ TEST_F(QtPrompts, AFileOfATypeInCapitalsIsOffered) {
     EXPECT_EQ(list.model()->index(0, 0, list.rootIndex()).data().toString(), QStringLiteral("LOUD.MP3"));
     dialog.reject();
   });
-  EXPECT_TRUE(prompts.ChooseMediaFiles(SongQuestion()).empty());
+  EXPECT_FALSE(prompts.ChooseMediaFiles(SongQuestion()).has_value());
 }
 
 TEST_F(QtPrompts, TheMediaChooserBeginsAtTheLastSongWhateverItsCase) {
@@ -255,7 +255,7 @@ TEST_F(QtPrompts, TheMediaChooserBeginsAtTheLastSongWhateverItsCase) {
     EXPECT_EQ(NameIn(dialog).text(), QStringLiteral("Last.mp3"));
     dialog.reject();
   });
-  EXPECT_TRUE(prompts.ChooseMediaFiles(question).empty());
+  EXPECT_FALSE(prompts.ChooseMediaFiles(question).has_value());
 }
 
 TEST_F(QtPrompts, WithoutALastSongTheMediaChooserBeginsWhereItWasLeftAndWithoutAName) {
@@ -269,14 +269,14 @@ TEST_F(QtPrompts, WithoutALastSongTheMediaChooserBeginsWhereItWasLeftAndWithoutA
       dialog.selectFile(Native("songs/a.mp3"));
       Accept(dialog);
     });
-    EXPECT_EQ(prompts.ChooseMediaFiles(SongQuestion()).size(), 1U);
+    EXPECT_EQ(prompts.ChooseMediaFiles(SongQuestion())->size(), 1U);
   }
   const TCDialogAnswer<QFileDialog> answer([this](QFileDialog& dialog) {
     EXPECT_EQ(dialog.directory().canonicalPath(), QDir(Native("songs")).canonicalPath());
     EXPECT_EQ(NameIn(dialog).text(), QString());
     dialog.reject();
   });
-  EXPECT_TRUE(prompts.ChooseMediaFiles(SongQuestion()).empty());
+  EXPECT_FALSE(prompts.ChooseMediaFiles(SongQuestion()).has_value());
 }
 
 TEST_F(QtPrompts, AFolderThatIsGoneLeavesTheMediaChooserInTheDocumentsFolder) {
@@ -287,7 +287,7 @@ TEST_F(QtPrompts, AFolderThatIsGoneLeavesTheMediaChooserInTheDocumentsFolder) {
     EXPECT_EQ(dialog.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
     dialog.reject();
   });
-  EXPECT_TRUE(prompts.ChooseMediaFiles(question).empty());
+  EXPECT_FALSE(prompts.ChooseMediaFiles(question).has_value());
 }
 
 TEST_F(QtPrompts, OfSeveralSongsTheOnesWithNamesTheModelCannotHoldAreLeftOut) {
@@ -301,6 +301,16 @@ TEST_F(QtPrompts, OfSeveralSongsTheOnesWithNamesTheModelCannotHoldAreLeftOut) {
   EXPECT_EQ(prompts.ChooseMediaFiles(SongQuestion()), std::vector{Model("good.mp3")});
   EXPECT_TRUE(frame.StatusLine().ShownMessage().endsWith(QStringLiteral("back\\slash.mp3")))
       << frame.StatusLine().ShownMessage().toStdString();
+}
+
+TEST_F(QtPrompts, AChoiceOfWhichNothingCanBeUsedIsNoCancelledOne) {
+  Write("back\\slash.mp3");
+  const TCDialogAnswer<QFileDialog> answer([this](QFileDialog& dialog) {
+    dialog.setDirectory(folder.path());
+    NameIn(dialog).setText(QStringLiteral("\"back\\slash.mp3\""));
+    Accept(dialog);
+  });
+  EXPECT_EQ(prompts.ChooseMediaFiles(SongQuestion()), std::vector<std::u16string>());
 }
 
 // The two larger dialogs over the real questions.
@@ -317,7 +327,7 @@ class QtPromptsOverAForm : public QtPrompts {
   }
 
   TCEditRig rig;
-  TCEditParts parts{rig.record, rig.files,    rig.treePresenter, rig.presenter, rig.view,
+  TCEditParts parts{rig.record, rig.check,    rig.treePresenter, rig.presenter, rig.view,
                     rig.frame,  rig.messages, prompts,           [] {}};
   TCSetListEditor editor{parts};
   TCSongPlacement placement{parts, editor};

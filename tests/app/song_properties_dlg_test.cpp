@@ -127,7 +127,7 @@ TEST_F(SongProperties, SetDirTakesTheFolderOfTheChosenFileAndKeepsWhatWasTyped) 
   Open();
   QTest::keyClick(&Find<QLineEdit>("SongName"), Qt::Key_End);
   QTest::keyClicks(&Find<QLineEdit>("SongName"), QStringLiteral("x"));
-  rig.prompts.mediaAnswers = {{u"\\music\\new\\other.wav"}};
+  rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"\\music\\new\\other.wav"}};
   Click("SetDir");
   EXPECT_EQ(rig.prompts.lastMediaQuestion.count, TCChooseFiles::One);
   EXPECT_EQ(rig.prompts.lastMediaQuestion.initialPath, u"C:\\Anchor.mp3");
@@ -140,7 +140,7 @@ TEST_F(SongProperties, SetDirTakesTheFolderOfTheChosenFileAndKeepsWhatWasTyped) 
 TEST_F(SongProperties, CancellingSetDirKeepsThePathAndForgetsTheLastFile) {
   rig.record.settings.lastMediaFileName = u"C:\\Anchor.mp3";
   Open();
-  rig.prompts.mediaAnswers = {{}};
+  rig.prompts.mediaAnswers = {std::nullopt};
   Click("SetDir");
   EXPECT_EQ(TextIn("SongPath"), QStringLiteral("C:\\"));
   EXPECT_EQ(rig.record.settings.lastMediaFileName, u"");
@@ -173,7 +173,7 @@ TEST_F(SongProperties, EnterIsOkFromEveryFieldAndEscapeGivesUp) {
 
 TEST_F(SongProperties, EnterOnSetDirIsSetDir) {
   Open();
-  rig.prompts.mediaAnswers = {{u"\\music\\a.mp3"}};
+  rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"\\music\\a.mp3"}};
   Find<QPushButton>("SetDir").setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(dialog->isVisible());

@@ -10,6 +10,7 @@
 
 #include "app/key_filter.h"
 #include "fake_target.h"
+#include "timed_key.h"
 #include "views/play_list_manager_tree_view.h"
 
 namespace brevant {
@@ -76,6 +77,18 @@ class TreeAndTable : public testing::Test {
     return Type(tree, key, modifiers);
   }
 
+  // Down, `repeats` times again, and up. Not all repeats come with the toolkit's mark.
+  void Hold(Qt::Key key, int repeats, bool marked, unsigned long time) {
+    SendKey(tree, QEvent::KeyPress, key, time, false);
+    for (int i = 0; i < repeats; ++i) {
+      time += 30;
+      SendKey(tree, QEvent::KeyRelease, key, time, marked);
+      SendKey(tree, QEvent::KeyPress, key, time, marked);
+    }
+    SendKey(tree, QEvent::KeyRelease, key, time + 30, false);
+    QCoreApplication::sendPostedEvents();
+  }
+
   TCFakeTarget target;
   QMainWindow window;
   TCPlayListManagerTreeView* tree = new TCPlayListManagerTreeView;
@@ -108,6 +121,39 @@ TEST_F(TreeAndTable, EnterIsTheTreesOnAPlaylistAndTheTablesOnAGroup) {
   tree->SelectNode(group);
   EXPECT_EQ(Type(Qt::Key_Return), Ran{TCCommandId::LoadSong});
   EXPECT_EQ(enters.count(), 2);
+}
+
+TEST_F(TreeAndTable, AHeldEnterActsOnceForItsPressAndOnceForItsRelease) {
+  QSignalSpy enters(tree, &TCPlayListManagerTreeView::enterPressed);
+  tree->SelectNode(playlists[0]);
+  for (const bool marked : {true, false}) {
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+      enters.clear();
+      Hold(enter, 5, marked, marked ? 10000 : 20000);
+      EXPECT_EQ(enters.count(), 2) << marked;
+      EXPECT_EQ(target.ran, Ran{});
+    }
+  }
+}
+
+TEST_F(TreeAndTable, TwoQuickEntersAreTwo) {
+  const QSignalSpy enters(tree, &TCPlayListManagerTreeView::enterPressed);
+  tree->SelectNode(playlists[0]);
+  Hold(Qt::Key_Return, 0, false, 1000);
+  Hold(Qt::Key_Return, 0, false, 1040);
+  EXPECT_EQ(enters.count(), 4);
+}
+
+TEST_F(TreeAndTable, AHeldArrowGoesOnAndOn) {
+  tree->AddNodes(group, 2, {u"Set 3", u"Set 4", u"Set 5"});
+  tree->SelectNode(group);
+  tree->expandAll();
+  for (const bool marked : {true, false}) {
+    tree->SelectNode(group);
+    Hold(Qt::Key_Down, 3, marked, marked ? 10000 : 20000);
+    EXPECT_EQ(tree->currentIndex().row(), 3) << marked;
+  }
+  EXPECT_EQ(target.ran, Ran{});
 }
 
 TEST_F(TreeAndTable, ShiftWithAnArrowMovesANode) {

@@ -145,7 +145,7 @@ TEST_F(AddPlayItemsTest, AChosenPlaylistThatIsNoneIsRefused) {
 TEST_F(AddPlayItemsTest, FoundSongsReplaceTheTextAndACancelledSearchLeavesIt) {
   TCAddPlayItems form = Open(u"Sets", u"One");
   form.songFiles = u"typed";
-  rig.prompts.mediaAnswers = {{}, {u"C:\\x.mp3", u"C:\\y.mp3"}};
+  rig.prompts.mediaAnswers = {std::nullopt, TCFakePrompts::TCPaths{u"C:\\x.mp3", u"C:\\y.mp3"}};
   form.FindSongs();
   EXPECT_EQ(form.songFiles, u"typed");
   form.FindSongs();

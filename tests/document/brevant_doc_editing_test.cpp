@@ -79,6 +79,15 @@ TEST_F(BrevantDocEditingTest, FoldersAreMadeUnaskedAndNamesAreAskedFor) {
   EXPECT_EQ(tree.Lines()[11], u"  R");
 }
 
+TEST_F(BrevantDocEditingTest, TwoNewGroupFoldersHaveOneName) {
+  tree.selected = TCTreeNode::None;
+  document.OnCommand(Id::NewGroupFolder);
+  document.OnCommand(Id::NewGroupFolder);
+  ASSERT_EQ(record.setLists.groups.size(), 4u);
+  EXPECT_EQ(record.setLists.groups[2].name, u"New Group Folder");
+  EXPECT_EQ(record.setLists.groups[3].name, u"New Group Folder");
+}
+
 TEST_F(BrevantDocEditingTest, RemoveTakesTheSelectedRowsUnlessTheTreeHasTheFocus) {
   view.selected = {0};
   Select(u"d.mp3");
@@ -335,6 +344,39 @@ TEST_F(BrevantDocEditingTest, RemovingOrMovingTheSoundingSongLeavesTheSound) {
   EXPECT_TRUE(document.Transport().State().playing);
   EXPECT_EQ(player.GetUrl(), u"C:\\a.mp3");
   EXPECT_THAT(player.Calls(), Not(Contains("Stop")));
+}
+
+TEST_F(BrevantDocEditingTest, MeasuredTimesAreShownInTheRowsThatStandThereWhileAnEmptyPlaylistIsCurrent) {
+  record.settings.confirmFileRemove = false;
+  tree.focused = true;
+  Select(u"c.mp3");
+  document.OnCommand(Id::Remove);
+  document.PickNode(tree.NodeNamed(u"Two"));
+  ASSERT_EQ(record.setLists.currentPlaylist, 1);
+  ASSERT_EQ(view.rows[1].texts.time, u"04:00");
+  player.SetDefaultSong({.length = 90.0});
+  document.OnCommand(Id::RefreshAllTimes);
+  for (int tick = 0; tick < 20; ++tick) {
+    player.Advance(0.3);
+    document.OnPlayTimerTick();
+  }
+  EXPECT_EQ(view.rows[1].texts.time, u"01:30");
+  EXPECT_EQ(view.header, u"One - Total Playlist Time: 03:15");
+}
+
+TEST_F(BrevantDocEditingTest, ATickTakesOverWhatAHangingDiskSaysOfPlacedSongs) {
+  files.Put(u"E:\\x.mp3");
+  files.hangs = true;
+  document.DropFiles({u"E:\\x.mp3"});
+  Select(u"One");
+  document.PlacePendingFiles();
+  ASSERT_EQ(view.rows.size(), 3u);
+  EXPECT_EQ(view.rows[2].texts.status, u"Pending");
+  document.OnPlayTimerTick();
+  EXPECT_EQ(view.rows[2].texts.status, u"Pending");
+  files.Wake();
+  document.OnPlayTimerTick();
+  EXPECT_EQ(view.rows[2].texts.status, u"Found");
 }
 
 }  // namespace

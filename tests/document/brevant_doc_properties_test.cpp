@@ -103,6 +103,16 @@ TEST_F(BrevantDocProperties, AnEditIsShown) {
   EXPECT_EQ(pane.Text(P::SongFileName), u"b.mp3");
 }
 
+TEST_F(BrevantDocProperties, LyricTagsThatASlowDiskGivesLaterAreShown) {
+  files.Put(u"C:\\x.lrc", "[ti:Harbour]");
+  files.hangs = true;
+  document.RenameNode(tree.NodeNamed(u"a.mp3"), u"x.mp3");
+  EXPECT_EQ(pane.Text(P::Title), u"");
+  files.Wake();
+  document.OnPlayTimerTick();
+  EXPECT_EQ(pane.Text(P::Title), u"Harbour");
+}
+
 TEST_F(BrevantDocProperties, SongPropertiesClosedWithOkAreShown) {
   prompts.songEdits = {[](TCSongPropertiesForm& form) {
     form.songName = u"x.mp3";

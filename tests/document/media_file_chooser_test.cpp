@@ -18,7 +18,7 @@ class MediaFileChooserTest : public testing::Test {
 };
 
 TEST_F(MediaFileChooserTest, SeveralSongsAreQuotedWithBlanksBetweenAndTheFirstIsRemembered) {
-  prompts.mediaAnswers = {{u"C:\\My Music\\a.Wav", u"C:\\b.mp3"}};
+  prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"C:\\My Music\\a.Wav", u"C:\\b.mp3"}};
   EXPECT_EQ(chooser.ChooseSongs(), u"\"C:\\My Music\\a.Wav\" \"C:\\b.mp3\"");
   EXPECT_EQ(record.settings.lastMediaFileName, u"C:\\My Music\\a.Wav");
   EXPECT_EQ(record.settings.lastMediaFileExtSpec, u"Wav");
@@ -29,7 +29,7 @@ TEST_F(MediaFileChooserTest, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) 
   record.setLists.validMediaExtensions = u"MP3 \"wav\"";
   record.settings.lastMediaFileName = u"C:\\a.mp3";
   record.settings.lastMediaFileExtSpec = u"mp3";
-  prompts.mediaAnswers = {{}};
+  prompts.mediaAnswers = {std::nullopt};
   EXPECT_EQ(chooser.ChooseSongs(), u"");
   EXPECT_THAT(prompts.lastMediaQuestion.types, ElementsAre(u"mp3", u"wav"));
   EXPECT_EQ(prompts.lastMediaQuestion.initialPath, u"C:\\a.mp3");
@@ -38,7 +38,7 @@ TEST_F(MediaFileChooserTest, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) 
 
 TEST_F(MediaFileChooserTest, BeforeTheFirstChoiceTheDefaultTypeIsThatOfTheFileSpec) {
   record.settings.lastMediaFileExtSpec = u"*.mp3";
-  prompts.mediaAnswers = {{}};
+  prompts.mediaAnswers = {std::nullopt};
   EXPECT_EQ(chooser.ChooseSongs(), u"");
   EXPECT_EQ(prompts.lastMediaQuestion.defaultType, u"mp3");
 }
@@ -46,7 +46,7 @@ TEST_F(MediaFileChooserTest, BeforeTheFirstChoiceTheDefaultTypeIsThatOfTheFileSp
 TEST_F(MediaFileChooserTest, CancellingForgetsTheLastFileSoThatTheNextChooserHasNone) {
   record.settings.lastMediaFileName = u"C:\\a.mp3";
   record.settings.lastMediaFileExtSpec = u"mp3";
-  prompts.mediaAnswers = {{}, {}};
+  prompts.mediaAnswers = {std::nullopt, std::nullopt};
   EXPECT_EQ(chooser.ChooseSongs(), u"");
   EXPECT_EQ(record.settings.lastMediaFileName, u"");
   EXPECT_EQ(record.settings.lastMediaFileExtSpec, u"mp3");
@@ -55,8 +55,18 @@ TEST_F(MediaFileChooserTest, CancellingForgetsTheLastFileSoThatTheNextChooserHas
   EXPECT_EQ(record.settings.lastMediaFileName, u"");
 }
 
+TEST_F(MediaFileChooserTest, AChoiceOfWhichNothingCanBeUsedKeepsTheLastFile) {
+  record.settings.lastMediaFileName = u"C:\\a.mp3";
+  record.settings.lastMediaFileExtSpec = u"mp3";
+  prompts.mediaAnswers = {TCFakePrompts::TCPaths(), TCFakePrompts::TCPaths()};
+  EXPECT_EQ(chooser.ChooseSongs(), u"");
+  EXPECT_FALSE(chooser.ChooseSong().has_value());
+  EXPECT_EQ(record.settings.lastMediaFileName, u"C:\\a.mp3");
+  EXPECT_EQ(record.settings.lastMediaFileExtSpec, u"mp3");
+}
+
 TEST_F(MediaFileChooserTest, OfOneSongOnlyTheTypeIsRemembered) {
-  prompts.mediaAnswers = {{u"D:\\Backup\\a.mid"}};
+  prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"D:\\Backup\\a.mid"}};
   EXPECT_EQ(chooser.ChooseSong(), u"D:\\Backup\\a.mid");
   EXPECT_EQ(prompts.lastMediaQuestion.count, TCChooseFiles::One);
   EXPECT_EQ(record.settings.lastMediaFileExtSpec, u"mid");

@@ -126,6 +126,10 @@ TEST_F(SetListEditorTest, DoubleQuotesAreDroppedFromANameAndItsEndsAreTrimmed) {
   EXPECT_EQ(CleanName(u"\t \""), u"");
 }
 
+TEST_F(SetListEditorTest, APastedLineBreakBecomesABlank) {
+  EXPECT_EQ(CleanName(u"\r\nMariner\nSets\r2\n"), u"Mariner Sets 2");
+}
+
 TEST_F(SetListEditorTest, EveryKindOfEntryIsRenamed) {
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Club"), u" Clubs "));
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Two"), u"Second"));

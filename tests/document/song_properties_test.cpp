@@ -135,7 +135,7 @@ TEST_F(SongPropertiesTest, ASongOfAnotherPlaylistIsRepairedWithoutTouchingTheVie
 
 TEST_F(SongPropertiesTest, SetDirTakesTheFolderOfAnySongAndLeavesTheRest) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
-  rig.prompts.mediaAnswers = {{u"E:\\Backup\\other.mid"}, {}};
+  rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"E:\\Backup\\other.mid"}, std::nullopt};
   form.SetDir();
   EXPECT_EQ(form.songPath, u"E:\\Backup\\");
   EXPECT_EQ(form.songName, u"a.mp3");

@@ -129,11 +129,49 @@ TEST_F(DocumentFileTest, AnotherRelativeFolderIsUsedAsWrittenAndTheTypeCountsInA
   EXPECT_EQ(store.groups[0].playlists.size(), 1u);
 }
 
+TEST_F(DocumentFileTest, ADotAndABackslashAnywhereInALinesFolderCostItsFirstTwoCharacters) {
+  files.PutUtf16(u"D:\\Docs\\\\Old.\\Tour.brvgl", u"p.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\\\Up.brvgl", u"p.brvpl\r\n");
+  ASSERT_TRUE(Open(u"E:\\Old.\\Tour.brvgl\r\n..\\Up.brvgl\r\n"));
+  ASSERT_EQ(store.groups.size(), 2u);
+  EXPECT_EQ(store.groups[0].name, u"Tour");
+  EXPECT_EQ(store.groups[0].folder.str(), u"E:\\Old.\\");
+  EXPECT_EQ(store.groups[1].name, u"Up");
+  EXPECT_EQ(store.groups[1].folder.str(), u"..\\");
+}
+
+TEST_F(DocumentFileTest, AnEmptyGroupListLeavesItsGroupNamedAfterTheWholeFileName) {
+  files.Put(u"D:\\Docs\\Empty.brvgl");
+  ASSERT_TRUE(Open(u"Empty.brvgl\r\n"));
+  ASSERT_EQ(store.groups.size(), 1u);
+  EXPECT_EQ(store.groups[0].name, u"Empty.brvgl");
+  EXPECT_EQ(store.groups[0].folder.str(), u"");
+  EXPECT_EQ(store.groups[0].extension, u"brv");
+  EXPECT_TRUE(store.groups[0].playlists.empty());
+  EXPECT_TRUE(messages.lines.empty());
+}
+
+TEST_F(DocumentFileTest, ALineOfAnotherTypeIsReportedInThreeMessages) {
+  files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\notes.txt", u"p.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
+  ASSERT_TRUE(Open(u"There.brvgl\r\nnotes.txt\r\n"));
+  ASSERT_EQ(store.groups.size(), 2u);
+  EXPECT_EQ(store.groups[1].name, u"notes.txt");
+  EXPECT_EQ(messages.lines,
+            (std::vector<std::u16string>{
+                u"Bad file type, unable to load the play list file named: D:\\Docs\\notes.txt",
+                u"Play lists must be text files not binary data files",
+                u"Unable to load play list lists file: notes.txt"}));
+}
+
 TEST_F(DocumentFileTest, AMissingGroupListIsReportedAndStaysEmptyWhileTheRestLoads) {
   files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
   ASSERT_TRUE(Open(u"Gone.brvgl\r\nThere.brvgl\r\n"));
   ASSERT_EQ(store.groups.size(), 2u);
   EXPECT_EQ(store.groups[0].name, u"Gone.brvgl");
+  EXPECT_EQ(store.groups[0].folder.str(), u"D:\\Docs\\");  // where it was looked for
+  EXPECT_EQ(store.groups[0].extension, u"brv");
   EXPECT_TRUE(store.groups[0].playlists.empty());
   EXPECT_EQ(store.groups[1].name, u"There");
   EXPECT_EQ(messages.lines.at(0), u"Unable to load play list lists file: Gone.brvgl");
@@ -163,6 +201,34 @@ TEST_F(DocumentFileTest, WhatIsSavedIsReadAgainAsItWas) {
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\copy.BRV"), files.BytesOf(kPath));
   EXPECT_EQ(store.documentFileName, u"copy.BRV");
   EXPECT_EQ(store.documentExtension, u"brv");
+}
+
+TEST_F(DocumentFileTest, SongsThatAreSavedStandThereAgainAfterTheNextOpen) {
+  store.groups.resize(2);
+  store.groups[0].name = u"Mariner\rSets";  // a return would end the line
+  store.groups[0].playlists.resize(2);
+  PlaylistOf(0, 0).name = u"Set 1";
+  PlaylistOf(0, 1).name = u"Set 2";
+  PlaylistOf(0, 0).items.emplace_back().SetPath(u"C:\\Music\\Open Road.mp3");
+  PlaylistOf(0, 0).items.emplace_back().SetPath(u"intro.wav");
+  PlaylistOf(0, 1).items.emplace_back().SetPath(u"Set>Song.mp3");
+  store.groups[1].name = u"Club";
+  store.groups[1].playlists.resize(1);
+  PlaylistOf(1, 0).name = u"Set 1";
+  PlaylistOf(1, 0).items.emplace_back().SetPath(u"\\late.mid");
+  PlaylistOf(1, 0).items[0].time = u"01:02:03";
+  const TextLines written = document.FlatLines();
+  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  EXPECT_EQ(written[0].substr(0, written[0].find(u"\" \"")), written[2].substr(0, written[2].find(u"\" \"")));
+
+  store.ClearSetLists();
+  ASSERT_TRUE(document.OpenSetListDocument(kPath));
+  EXPECT_EQ(document.FlatLines(), written);
+  ASSERT_EQ(store.groups.size(), 2u);
+  EXPECT_EQ(store.groups[0].playlists.size(), 2u);
+  EXPECT_EQ(PlaylistOf(0, 0).items.size(), 2u);
+  EXPECT_EQ(PlaylistOf(0, 1).items.at(0).fileName, u"Song.mp3");
+  EXPECT_EQ(PlaylistOf(1, 0).items.at(0).time, u"01:02:03");
 }
 
 TEST_F(DocumentFileTest, APlaylistWithoutSongsHasNoLine) {
@@ -248,6 +314,14 @@ TEST_F(DocumentFileTest, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
   files.failCopies = true;
   EXPECT_FALSE(document.SaveSetListDocument(kPath));
   EXPECT_EQ(files.BytesOf(kPath), "other text");
+}
+
+TEST_F(DocumentFileTest, SongsThatAreLoadedReplaceWhatStoodThere) {
+  store.groups.resize(2);
+  store.groups[1].name = u"A";
+  ASSERT_TRUE(document.LoadFlatDocument(JoinUtf16Lines({u"\"A\" \"P\" \"x.mp3\" 03:00"})));
+  ASSERT_EQ(store.groups.size(), 1u);
+  EXPECT_EQ(PlaylistOf(0, 0).items.size(), 1u);
 }
 
 TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {

@@ -25,6 +25,12 @@ TEST(FlatLineTest, ADoubleQuoteInANameIsLeftOut) {
   EXPECT_EQ(FormatFlatLine(u"The \"Best\"", u"P\"", song), u"\"The Best\" \"P\" \"x.mp3\" 00:00");
 }
 
+TEST(FlatLineTest, ACarriageReturnInATextIsLeftOutBecauseItWouldEndTheLine) {
+  TCPlayListItem song;
+  song.SetPath(u"C:\\x\r.mp3");
+  EXPECT_EQ(FormatFlatLine(u"Mariner\r\nSets", u"\rP", song), u"\"Mariner\nSets\" \"P\" \"C:\\x.mp3\" 00:00");
+}
+
 TEST(FlatLineTest, TheFourTextsOfALineAreRead) {
   const TCFlatLine line = ParseFlatLine(u"\"Mariner Sets\" \"Set 1\" \"C:\\My Songs\\z.wav\" 03:25");
   EXPECT_EQ(line.group, u"Mariner Sets");
@@ -38,6 +44,14 @@ TEST(FlatLineTest, BlanksRoundQuotesAndBehindTheTimeAreSkipped) {
   EXPECT_EQ(line.group, u"A");
   EXPECT_EQ(line.playlist, u"P");
   EXPECT_EQ(line.path, u"x.mp3");
+  EXPECT_EQ(line.time, u"01:02");
+}
+
+TEST(FlatLineTest, LeadingBlanksInsideTheQuotesAreSkippedAndTrailingOnesKept) {
+  const TCFlatLine line = ParseFlatLine(u"\"  A \" \"\t P \" \"   \" 01:02");
+  EXPECT_EQ(line.group, u"A ");
+  EXPECT_EQ(line.playlist, u"P ");
+  EXPECT_EQ(line.path, u"");
   EXPECT_EQ(line.time, u"01:02");
 }
 

@@ -64,6 +64,43 @@ TEST_F(GroupListFileTest, ABareNameIsTakenFromTheGroupListsFolderAndRemembered) 
   EXPECT_EQ(group.extension, u"brvgl");
 }
 
+TEST_F(GroupListFileTest, TheGroupIsNamedAfterItsFile) {
+  files.PutUtf16(u"D:\\Shows\\Summer.Tour.BRVPL", u"E:\\p.brvpl\r\n");
+  files.PutUtf16(u"E:\\p.brvpl", u"a.mp3\r\n");
+  group.folder = u"C:\\elsewhere\\";
+  ASSERT_TRUE(Load(u"D:\\Shows\\Summer.Tour.BRVPL"));
+  EXPECT_EQ(group.name, u"Summer.Tour");
+  EXPECT_EQ(group.folder.str(), u"D:\\Shows\\");
+  EXPECT_EQ(group.extension, u"BRVPL");
+}
+
+TEST_F(GroupListFileTest, ALineWithAFolderIsUsedAsWrittenAlsoWhenItBeginsWithADot) {
+  files.PutUtf16(u"D:\\Shows\\g.brvgl", u".\\p.brvpl\r\nSub\\q.brvpl\r\n");
+  files.PutUtf16(u".\\p.brvpl", u"a.mp3\r\n");
+  files.PutUtf16(u"Sub\\q.brvpl", u"a.mp3\r\nb.mp3\r\n");
+  group.folder = u"D:\\Shows\\";
+  ASSERT_TRUE(Load(u"D:\\Shows\\g.brvgl"));
+  EXPECT_TRUE(messages.lines.empty());
+  ASSERT_EQ(group.playlists.size(), 2u);
+  EXPECT_EQ(group.playlists[0].folder.str(), u".\\");
+  EXPECT_EQ(group.playlists[0].items.size(), 1u);
+  EXPECT_EQ(group.playlists[1].folder.str(), u"Sub\\");
+  EXPECT_EQ(group.playlists[1].items.size(), 2u);
+}
+
+TEST_F(GroupListFileTest, AnEmptyPlaylistFileIsNoFailureAndLeavesTheNameItWasListedUnder) {
+  files.PutUtf16(u"D:\\g.brvgl", u"empty.brvpl\r\n");
+  files.Put(u"D:\\empty.brvpl");
+  group.folder = u"D:\\";
+  group.name = u"g.brvgl";
+  ASSERT_TRUE(Load(u"D:\\g.brvgl"));
+  EXPECT_TRUE(messages.lines.empty());
+  ASSERT_EQ(group.playlists.size(), 1u);
+  EXPECT_EQ(group.playlists[0].name, u"empty.brvpl");
+  EXPECT_EQ(group.playlists[0].folder.str(), u"");
+  EXPECT_EQ(group.playlists[0].extension, u"brvgl");
+}
+
 TEST_F(GroupListFileTest, AMissingPlaylistIsReportedAndStaysEmptyWhileTheRestLoads) {
   files.PutUtf16(u"D:\\g.brvgl", u"gone.brvpl\r\nthere.brvpl\r\n");
   files.PutUtf16(u"D:\\there.brvpl", u"a.mp3\r\n");

@@ -41,33 +41,33 @@ TEST(MediaCheckTest, AnEmptyTypeIsInvalidEvenInAListWithAnEmptyWord) {
   EXPECT_FALSE(IsValidMediaExtension(store, u""));
 }
 
-TEST(MediaCheckTest, AFolderForAllSongsChecksEachOneThere) {
-  TCMemoryFiles files;
-  files.Put(u"E:\\Backup\\a.mp3");
+TEST(MediaCheckTest, AFolderForAllSongsLeadsEachOneThere) {
   TCPlayList playlist;
   playlist.items.resize(2);
   playlist.items[0].SetPath(u"C:\\a.mp3");
   playlist.items[1].SetPath(u"C:\\b.mp3");
-  SetFolderForAllSongs(files, playlist, u"E:\\Backup\\");
+  SetFolderForAllSongs(playlist, u"E:\\Backup\\");
   EXPECT_EQ(playlist.items[0].FullPath(), u"E:\\Backup\\a.mp3");
-  EXPECT_EQ(playlist.items[0].status, TCSongStatus::Found);
   EXPECT_EQ(playlist.items[1].FullPath(), u"E:\\Backup\\b.mp3");
-  EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
 }
 
 TEST(MediaCheckTest, AnExtensionForAllSongsReplacesTheirTypes) {
-  TCMemoryFiles files;
-  files.Put(u"C:\\a.wav");
   TCPlayList playlist;
   playlist.items.resize(2);
   playlist.items[0].SetPath(u"C:\\a.mp3");
   playlist.items[1].SetPath(u"C:\\b");
-  SetExtensionForAllSongs(files, playlist, u"x.wav");
+  SetExtensionForAllSongs(playlist, u"x.wav");
   EXPECT_EQ(playlist.items[0].fileName, u"a.wav");
   EXPECT_EQ(playlist.items[0].extension, u"wav");
-  EXPECT_EQ(playlist.items[0].status, TCSongStatus::Found);
   EXPECT_EQ(playlist.items[1].fileName, u"b.wav");
-  EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
+}
+
+TEST(MediaCheckTest, ASongIsFoundWhenItsFileCanBeOpened) {
+  TCMemoryFiles files;
+  files.Put(u"C:\\a.txt");
+  EXPECT_EQ(SongFileStatus(files, u"C:\\a.txt"), TCSongStatus::Found);
+  files.MakeUnreadable(u"C:\\a.txt");
+  EXPECT_EQ(SongFileStatus(files, u"C:\\a.txt"), TCSongStatus::NotFound);
 }
 
 }  // namespace

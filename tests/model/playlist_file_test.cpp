@@ -90,6 +90,14 @@ TEST_F(PlaylistFileTest, SongsAreFoundOrNotByTheirFilesAlone) {
   EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
 }
 
+TEST_F(PlaylistFileTest, ARelativeSongIsNotLookedForBesideThePlaylist) {
+  files.Put(u"D:\\Shows\\a.mp3");
+  files.Put(u"b.mp3");
+  ASSERT_TRUE(Load(u"a.mp3*01:00\r\nb.mp3*01:00\r\n"));
+  EXPECT_EQ(playlist.items[0].status, TCSongStatus::NotFound);
+  EXPECT_EQ(playlist.items[1].status, TCSongStatus::Found);
+}
+
 TEST_F(PlaylistFileTest, ThePlaylistIsNamedAfterItsFile) {
   ASSERT_TRUE(Load(u"a.mp3\r\n"));
   EXPECT_EQ(playlist.name, u"Set 1");

@@ -48,7 +48,13 @@ TEST_F(SettingsFileTest, WithoutAFileEveryOptionKeepsItsDefault) {
   EXPECT_FALSE(settings.autoRecycle);
   EXPECT_FALSE(settings.autoPlayPlayList);
   EXPECT_FALSE(settings.liveViewMode);
+  EXPECT_EQ(settings.lastMediaFileName, u"");
   EXPECT_EQ(settings.lastMediaFileExtSpec, u"");
+  EXPECT_EQ(record.setLists.lastGroupListName, u"");
+  EXPECT_EQ(record.setLists.lastPlayListName, u"");
+  EXPECT_EQ(record.setLists.lastSongName, u"");
+  EXPECT_EQ(settings.playListFontTypeName, u"Times New Roman");
+  EXPECT_EQ(settings.lyricsFontTypeName, u"Times New Roman");
   EXPECT_EQ(settings.playListFontSize, 14);
   EXPECT_EQ(settings.lyricsFontSize, 18);
   EXPECT_EQ(settings.numberLyricLines, 2);
@@ -59,6 +65,7 @@ TEST_F(SettingsFileTest, WithoutAFileEveryOptionKeepsItsDefault) {
   EXPECT_EQ(record.setLists.validMediaExtensions, u"mid mp3 wav wma");
   EXPECT_EQ(settings.backgroundColour, 0x000000u);
   EXPECT_EQ(settings.textColour, 0xFFFFFFu);
+  EXPECT_FALSE(settings.resetPending);
 }
 
 TEST_F(SettingsFileTest, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
@@ -72,16 +79,39 @@ TEST_F(SettingsFileTest, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
   for (const auto option : kOnWhenMissing) before.*option = false;
   before.playlistManagerImmediatePlay = true;
   before.autoPlayPlayList = true;
+  before.liveViewMode = true;
   before.playListFontSize = 33;
+  before.numberLyricLines = 7;
+  record.setLists.songLatencySeconds = 21;
   const TCSettings settings = Load("");
   EXPECT_TRUE(settings.settingsFileFound);
   for (const auto option : kOnWhenMissing) EXPECT_TRUE(settings.*option);
   EXPECT_FALSE(settings.playlistManagerImmediatePlay);
-  EXPECT_TRUE(settings.autoPlayPlayList);  // a missing key leaves it
-  EXPECT_FALSE(settings.liveViewMode);
+  EXPECT_TRUE(settings.autoPlayPlayList);  // a missing key leaves it, and those below
+  EXPECT_TRUE(settings.liveViewMode);
+  EXPECT_EQ(settings.playListFontSize, 33);
+  EXPECT_EQ(settings.numberLyricLines, 7);
+  EXPECT_EQ(record.setLists.songLatencySeconds, 21);
+  EXPECT_EQ(record.setLists.validMediaExtensions, u"mid mp3 wav wma");
   EXPECT_EQ(settings.lastMediaFileExtSpec, u"*.mp3");
   EXPECT_EQ(settings.lyricsFontSize, 33);  // the playlist's size just read
   EXPECT_EQ(settings.playListFontTypeName, u"Times New Roman");
+  EXPECT_EQ(settings.lyricsFontTypeName, u"Times New Roman");
+}
+
+TEST_F(SettingsFileTest, AFirstFileWithOnlyTheHeadingChangesThreeOptions) {
+  const TCSettings settings = Load("");
+  EXPECT_TRUE(settings.autoRecycle);
+  EXPECT_EQ(settings.lastMediaFileExtSpec, u"*.mp3");
+  EXPECT_EQ(settings.lyricsFontSize, 14);
+  EXPECT_FALSE(settings.playlistManagerImmediatePlay);
+  EXPECT_FALSE(settings.autoPlayPlayList);
+  EXPECT_FALSE(settings.liveViewMode);
+}
+
+TEST_F(SettingsFileTest, ALyricsSizeOfItsOwnIsReadWhateverThePlaylistsIs) {
+  EXPECT_EQ(Load("LyricsFontSize=21\r\nPlayListFontSize=40\r\n").lyricsFontSize, 21);
+  EXPECT_EQ(Load("LyricsFontSize=\r\nPlayListFontSize=40\r\n").lyricsFontSize, 40);
 }
 
 TEST_F(SettingsFileTest, MostOptionsAreOnUnlessTheValueBeginsWithN) {
@@ -187,6 +217,18 @@ TEST_F(SettingsFileTest, WhatWasWrittenIsReadBack) {
   EXPECT_EQ(record.setLists.validMediaExtensions, u"\"mp3\" \"wav\"");
   EXPECT_EQ(record.setLists.lastGroupListName, u"Zürich 東京");
   EXPECT_EQ(record.setLists.lastPlayListName, u" blanks ");
+}
+
+TEST_F(SettingsFileTest, ALineBreakInANameBringsNoKeyOrHeadingIntoTheFile) {
+  record.setLists.lastGroupListName = u"A\r\n[Other]\nVolumeStep=99\r";
+  ASSERT_TRUE(settingsFile.SaveSettings(record));
+  TCAppRecord readBack;
+  ASSERT_TRUE(settingsFile.LoadSettings(readBack));
+  EXPECT_EQ(readBack.setLists.lastGroupListName, u"A  [Other] VolumeStep=99 ");
+  EXPECT_EQ(readBack.settings.volumeStep, 5);
+  const std::optional<std::string> once = files.BytesOf(kPath);
+  ASSERT_TRUE(settingsFile.SaveSettings(record));
+  EXPECT_EQ(files.BytesOf(kPath), once);
 }
 
 TEST_F(SettingsFileTest, WhatElseStandsInTheFileIsKept) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "model/set_list_edit.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -153,6 +154,30 @@ TEST_F(TransportTest, ALateAnswerIsNotTakenForAnotherSongs) {
   EXPECT_EQ(store.groups[1].playlists[0].items[0].status, TCSongStatus::Pending);
   EXPECT_THAT(display.calls, Not(Contains("Row 0")));
   EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
+}
+
+TEST_F(TransportTest, ALateAnswerFindsItsSongWhereAnEditPutIt) {
+  files.hangs = true;
+  transport.Play();
+  ASSERT_TRUE(MoveSong(store, {0, 0, 0}, {0, 0, 2}));
+  files.Wake();
+  Run(0.3);
+  EXPECT_EQ(Song(2).status, TCSongStatus::Found);
+  EXPECT_THAT(display.calls, Contains("Row 2"));
+  EXPECT_THAT(display.calls, Not(Contains("Row 0")));
+}
+
+TEST_F(TransportTest, OfTwoEntriesOfOneFileTheLateAnswerIsForTheOneThatWasPlayed) {
+  Song(0).treeNode = static_cast<TCTreeNode>(1);
+  Song(1) = Song(0);
+  Song(1).treeNode = static_cast<TCTreeNode>(2);
+  store.currentSong = 1;
+  files.hangs = true;
+  transport.Play();
+  files.Wake();
+  Run(0.3);
+  EXPECT_EQ(Song(0).status, TCSongStatus::Pending);
+  EXPECT_EQ(Song(1).status, TCSongStatus::Found);
 }
 
 TEST_F(TransportTest, ALateAnswerAboutASongThatWasLeftChangesNothing) {

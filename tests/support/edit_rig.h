@@ -33,7 +33,8 @@ class TCEditRig {
   TCSetListStore& store = record.setLists;
   TCPlaylistPresenter presenter{record, view, tree};
   TCTreePresenter treePresenter{store, tree};
-  TCEditParts parts{record,   files,   treePresenter,         presenter, view, frame,
+  TCSongCheck check{files, store, treePresenter, presenter};
+  TCEditParts parts{record,   check,   treePresenter,         presenter, view, frame,
                     messages, prompts, [this] { ++modified; }};
   TCSetListEditor editor{parts};
   TCEntryMover mover{parts};

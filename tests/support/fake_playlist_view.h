@@ -1,6 +1,7 @@
 // A playlist view without a window: keeps the rows it is shown, for tests of the presenter and the document.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -41,7 +42,11 @@ class TCFakePlaylistView final : public TCPlaylistDisplay {
   }
   [[nodiscard]] std::int32_t SelectedRow() const override { return selected.empty() ? -1 : selected.front(); }
   [[nodiscard]] std::vector<std::int32_t> SelectedRows() const override { return selected; }
-  void SelectRow(std::int32_t row) override { selected = {row}; }
+  void SelectRow(std::int32_t row) override {
+    if (!selected.empty()) selected.erase(selected.begin());
+    if (!Has(row) || std::find(selected.begin(), selected.end(), row) != selected.end()) return;
+    selected.insert(std::lower_bound(selected.begin(), selected.end(), row), row);
+  }
   void ScrollToRow(std::int32_t row) override { scrolledTo = row; }
   void TakeFocus() override { ++focuses; }
   void SetDisplayFont(std::u16string_view, std::int32_t) override {}

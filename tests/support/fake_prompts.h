@@ -29,7 +29,8 @@ class TCFakePrompts final : public TCPrompts {
   std::u16string lastText;
   TCTextPromptMode lastMode = TCTextPromptMode::Property;
 
-  std::deque<std::vector<std::u16string>> mediaAnswers;
+  using TCPaths = std::vector<std::u16string>;
+  std::deque<std::optional<TCPaths>> mediaAnswers;
   TCMediaFileQuestion lastMediaQuestion;
   std::deque<bool> removeAnswers;
   std::u16string lastRemoveQuestion;
@@ -57,9 +58,9 @@ class TCFakePrompts final : public TCPrompts {
     lastName = suggestedPath;
     return Next(saveAsAnswers, std::optional<std::u16string>());
   }
-  std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion& question) override {
+  std::optional<TCPaths> ChooseMediaFiles(const TCMediaFileQuestion& question) override {
     lastMediaQuestion = question;
-    return Next(mediaAnswers, std::vector<std::u16string>());
+    return Next(mediaAnswers, std::nullopt);
   }
   bool ConfirmRemove(std::u16string_view question) override {
     lastRemoveQuestion = question;

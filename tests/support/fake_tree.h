@@ -59,13 +59,13 @@ class TCFakeTree final : public TCTreeDisplay {
     siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(index), added.begin(), added.end());
     return added;
   }
-  void DeleteNode(TCTreeNode node) override {
-    const auto found = nodes.find(node);
-    if (found == nodes.end()) return;
-    for (const TCTreeNode child : std::vector(found->second.children)) DeleteNode(child);
-    std::erase(ChildrenOf(nodes[node].parent), node);
-    nodes.erase(node);
-    if (selected == node) selected = TCTreeNode::None;
+  void DeleteNodes(TCTreeNode first, std::size_t count) override {
+    if (nodes.count(first) == 0) return;
+    const std::vector<TCTreeNode>& siblings = ChildrenOf(nodes[first].parent);
+    const auto begin = std::find(siblings.begin(), siblings.end(), first);
+    const auto left = static_cast<std::size_t>(siblings.end() - begin);
+    const auto end = begin + static_cast<std::ptrdiff_t>(std::min(count, left));
+    for (const TCTreeNode node : std::vector(begin, end)) Delete(node);
   }
   void MoveNode(TCTreeNode node, TCTreeNode parent, std::size_t index) override {
     if (nodes.count(node) == 0) return;
@@ -100,6 +100,12 @@ class TCFakeTree final : public TCTreeDisplay {
   void ResetMouseState() override { ++mouseResets; }
 
  private:
+  void Delete(TCTreeNode node) {
+    for (const TCTreeNode child : std::vector(nodes[node].children)) Delete(child);
+    std::erase(ChildrenOf(nodes[node].parent), node);
+    nodes.erase(node);
+    if (selected == node) selected = TCTreeNode::None;
+  }
   [[nodiscard]] std::vector<TCTreeNode>& ChildrenOf(TCTreeNode node) {
     return node == TCTreeNode::None ? roots : nodes[node].children;
   }

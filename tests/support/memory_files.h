@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cstddef>
-#include <future>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -24,7 +24,7 @@ class TCMemoryFiles final : public TCFileSystem {
   bool failCopies = false;
   bool failFolders = false;
   bool failDeletes = false;
-  bool hangs = false;  // AskForFile gets no answer until Wake
+  bool hangs = false;  // no question that is asked gets its answer until Wake
 
   // What was asked, in order, with the paths as they were given. Failed requests are recorded too.
   std::vector<std::u16string> existenceAsked;
@@ -72,15 +72,15 @@ class TCMemoryFiles final : public TCFileSystem {
     return Readable(path) != nullptr;
   }
 
-  [[nodiscard]] std::future<bool> AskForFile(std::u16string_view path) override {
-    if (!hangs) return TCFileSystem::AskForFile(path);
-    return questions.emplace_back(path, std::promise<bool>()).second.get_future();
+  void Ask(std::function<void(TCFileSystem& disk)> question) override {
+    if (!hangs) return question(*this);
+    questions.push_back(std::move(question));
   }
 
   // The disk no longer hangs: whoever asked meanwhile gets the answer now.
   void Wake() {
     hangs = false;
-    for (auto& [path, answer] : questions) answer.set_value(FileExists(path));
+    for (const auto& question : questions) question(*this);
     questions.clear();
   }
 
@@ -127,7 +127,7 @@ class TCMemoryFiles final : public TCFileSystem {
   std::map<std::u16string, std::string> files;
   std::set<std::u16string> unreadable;
   std::set<std::u16string> unwritable;
-  std::vector<std::pair<std::u16string, std::promise<bool>>> questions;
+  std::vector<std::function<void(TCFileSystem& disk)>> questions;
 };
 
 }  // namespace brevant

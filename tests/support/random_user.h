@@ -57,9 +57,12 @@ class TCRandomPrompts final : public TCPrompts {
   }
   TCSaveAnswer AskSaveChanges(std::u16string_view) override { return TCSaveAnswer::Discard; }
   std::optional<std::u16string> ChooseDocumentToOpen() override { return std::nullopt; }
-  std::optional<std::u16string> ChooseDocumentToSave(std::u16string_view) override { return std::nullopt; }
-  std::vector<std::u16string> ChooseMediaFiles(const TCMediaFileQuestion&) override {
-    return dice.Coin() ? std::vector<std::u16string>() : std::vector{dice.Path(), dice.Path()};
+  std::optional<std::u16string> ChooseDocumentToSave(std::u16string_view) override {
+    return u"D:\\random.brv";
+  }
+  std::optional<std::vector<std::u16string>> ChooseMediaFiles(const TCMediaFileQuestion&) override {
+    if (dice.Coin()) return std::nullopt;
+    return std::vector{dice.Path(), dice.Path()};
   }
   bool ConfirmRemove(std::u16string_view) override { return dice.Roll(4) != 0; }
   bool EditSetLists(TCAddPlayItems& form) override {
@@ -99,25 +102,54 @@ class TCRandomPrompts final : public TCPrompts {
   TCDice& dice;
 };
 
+// What a command may do beside what it was given for.
+struct TCDeed {
+  bool selectsARow = false;       // of the playlist
+  bool mayCountAsChange = false;  // also when all stays as it was: a name typed anew, a dialog closed with OK
+  bool endsModified = false;      // the document is saved, or another one
+};
+
 class TCRandomUser {
  public:
-  // What the user can select beside the tree's node, in the view and tree at hand.
+  // What the user has beside the tree's node, in the view and tree at hand.
   struct TCHands {
     std::function<void(const std::vector<std::int32_t>& rows)> selectRows;
     std::function<std::int32_t()> rowCount;
     std::function<void(bool treeHasIt)> giveFocus;
     std::function<void()> selectNoNode;
+    std::function<void(double seconds)> wait;  // lets the music play
   };
 
   TCRandomUser(TCDice& randomDice, TCAppRecord& appRecord, TCBrevantDoc& doc, TCTreeDisplay& treeDisplay,
                TCHands userHands)
       : dice(randomDice), record(appRecord), document(doc), tree(treeDisplay), hands(std::move(userHands)) {}
 
-  // Selects something, and runs one command.
-  void Act() {
-    SelectSomething();
-    Command();
-    Prune();
+  void SelectSomething() {
+    if (dice.Coin()) tree.SelectNode(AnyNode());
+    if (dice.Roll(10) == 0) hands.selectNoNode();
+    hands.giveFocus(dice.Coin());
+    std::vector<std::int32_t> rows;
+    for (int i = dice.Roll(4); i > 0; --i) rows.push_back(AnyRow());
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    std::erase_if(rows, [this](std::int32_t row) { return row < 0 || row >= hands.rowCount(); });
+    hands.selectRows(rows);
+  }
+
+  // Runs one command, or does with the mouse what it can do.
+  TCDeed Act() { return dice.Roll(3) == 0 ? UseTheMouse(dice.Roll(14)) : Command(); }
+  // For the message of a test that fails: a command's number, or a small one for what the mouse did.
+  [[nodiscard]] int LastAct() const { return lastAct; }
+
+  // Keeps the set lists small enough to be looked through after every command.
+  void Prune() {
+    while (Nodes().size() > 150) {
+      const std::vector<TCPlayGroups>& groups = record.setLists.groups;
+      record.settings.confirmFileRemove = false;
+      hands.giveFocus(true);
+      tree.SelectNode(groups[static_cast<std::size_t>(dice.Roll(static_cast<int>(groups.size())))].treeNode);
+      document.OnCommand(Id::Remove);
+    }
   }
 
  private:
@@ -145,92 +177,91 @@ class TCRandomUser {
   // Or one too few or too many.
   std::int32_t AnyRow() { return dice.Roll(hands.rowCount() + 3) - 1; }
 
-  void SelectSomething() {
-    if (dice.Coin()) tree.SelectNode(AnyNode());
-    if (dice.Roll(10) == 0) hands.selectNoNode();
-    hands.giveFocus(dice.Coin());
-    std::vector<std::int32_t> rows;
-    for (int i = dice.Roll(4); i > 0; --i) rows.push_back(AnyRow());
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    std::erase_if(rows, [this](std::int32_t row) { return row < 0 || row >= hands.rowCount(); });
-    hands.selectRows(rows);
+  TCDeed Command() {
+    struct TCChoice {
+      Id command;
+      TCDeed deed{};
+    };
+    constexpr TCDeed kSelects{.selectsARow = true};
+    constexpr TCDeed kMayCount{.mayCountAsChange = true};
+    constexpr TCDeed kEnds{.endsModified = true};
+    constexpr std::array kChoices = {
+        // Editing.
+        TCChoice{Id::CreateGroupList}, TCChoice{Id::NewGroupFolder}, TCChoice{Id::CreatePlaylist},
+        TCChoice{Id::NewPlaylistFolder}, TCChoice{Id::AddSongs, kMayCount}, TCChoice{Id::Rename, kMayCount},
+        TCChoice{Id::Remove}, TCChoice{Id::Remove}, TCChoice{Id::SongProperties, kMayCount},
+        TCChoice{Id::Copy}, TCChoice{Id::Paste}, TCChoice{Id::Duplicate},
+        TCChoice{Id::SelectSongToMove, kSelects}, TCChoice{Id::MoveSongUp, kSelects},
+        TCChoice{Id::MoveSongDown, kSelects}, TCChoice{Id::Cancel}, TCChoice{Id::ConfirmFileRemove},
+        TCChoice{Id::DisableEditing},
+        // The show.
+        TCChoice{Id::NextSong}, TCChoice{Id::PriorSong}, TCChoice{Id::NextPlaylist},
+        TCChoice{Id::PriorPlaylist}, TCChoice{Id::LoadSong}, TCChoice{Id::Play}, TCChoice{Id::Stop},
+        TCChoice{Id::PauseContinue}, TCChoice{Id::ShowTreeSelection}, TCChoice{Id::RefreshSongTime},
+        TCChoice{Id::RefreshAllTimes}, TCChoice{Id::RefreshPlaylistTimes}, TCChoice{Id::AutoPlayPlayList},
+        TCChoice{Id::AutoRecycle}, TCChoice{Id::WhiteOnBlack}, TCChoice{Id::DynamicPlayColours},
+        // The document; saved often, since only then a change can be told.
+        TCChoice{Id::FileSave, kEnds}, TCChoice{Id::FileSave, kEnds}, TCChoice{Id::FileSave, kEnds},
+        TCChoice{Id::FileSave, kEnds}};
+    if (dice.Roll(100) == 0) {
+      lastAct = static_cast<int>(Id::FileOpen);
+      document.OnOpenDocument(document.GetPathName());
+      return kEnds;
+    }
+    if (dice.Roll(5) == 0) return LetTheMusicPlay();
+    const TCChoice& choice = kChoices[static_cast<std::size_t>(dice.Roll(static_cast<int>(kChoices.size())))];
+    lastAct = static_cast<int>(choice.command);
+    document.OnCommand(choice.command);
+    return choice.deed;
   }
 
-  void Command() {
-    constexpr std::array kCommands = {Id::CreateGroupList,
-                                      Id::NewGroupFolder,
-                                      Id::CreatePlaylist,
-                                      Id::NewPlaylistFolder,
-                                      Id::AddSongs,
-                                      Id::Rename,
-                                      Id::Remove,
-                                      Id::Remove,
-                                      Id::SongProperties,
-                                      Id::Copy,
-                                      Id::Paste,
-                                      Id::Duplicate,
-                                      Id::SelectSongToMove,
-                                      Id::MoveSongUp,
-                                      Id::MoveSongDown,
-                                      Id::Cancel,
-                                      Id::NextSong,
-                                      Id::PriorSong,
-                                      Id::NextPlaylist,
-                                      Id::PriorPlaylist,
-                                      Id::LoadSong,
-                                      Id::Play,
-                                      Id::ShowTreeSelection,
-                                      Id::ConfirmFileRemove,
-                                      Id::DisableEditing};
-    const int action = dice.Roll(static_cast<int>(kCommands.size()) + 14);
-    if (action < static_cast<int>(kCommands.size())) {
-      document.OnCommand(kCommands[static_cast<std::size_t>(action)]);
-      return;
+  // Some times that were measured may be stored meanwhile.
+  TCDeed LetTheMusicPlay() {
+    lastAct = -1;
+    for (int i = dice.Roll(10); i >= 0; --i) {
+      hands.wait(0.3);
+      document.OnPlayTimerTick();
     }
-    switch (action - static_cast<int>(kCommands.size())) {
+    return {.mayCountAsChange = true};
+  }
+
+  TCDeed UseTheMouse(int act) {
+    lastAct = act;
+    switch (act) {
       case 0:
         document.PickNode(AnyNode());
-        break;
+        return {};
       case 1:
         document.EnterOnNode();
-        break;
+        return {};
       case 2:
         document.RenameNode(AnyNode(), dice.Name());
-        break;
+        return {.mayCountAsChange = true};
       case 3:
         document.DropRowsOnTree();
-        break;
+        return {};
       case 4:
         document.DropRowsOnPlaylist();
-        break;
+        return {};
       case 5:
         document.MoveRow(AnyRow(), AnyRow());
-        break;
+        return {.selectsARow = true};
       case 6:
         document.PickRow(AnyRow());
-        break;
+        return {};
       case 7:
         document.DropFiles({dice.Path(), dice.Path(), dice.Path()});
-        break;
+        return {};
       case 8:
       case 9:
         document.PlacePendingFiles();
-        break;
+        return {};
+      case 10:
+        document.PressNode(AnyNode());
+        return {};
       default:
         document.MoveNode(AnyNode(), AnyNode());
-        break;
-    }
-  }
-
-  // Keeps the set lists small enough to be looked through after every command.
-  void Prune() {
-    while (Nodes().size() > 150) {
-      const std::vector<TCPlayGroups>& groups = record.setLists.groups;
-      record.settings.confirmFileRemove = false;
-      hands.giveFocus(true);
-      tree.SelectNode(groups[static_cast<std::size_t>(dice.Roll(static_cast<int>(groups.size())))].treeNode);
-      document.OnCommand(Id::Remove);
+        return {};
     }
   }
 
@@ -239,6 +270,7 @@ class TCRandomUser {
   TCBrevantDoc& document;
   TCTreeDisplay& tree;
   TCHands hands;
+  int lastAct = 0;
 };
 
 }  // namespace brevant

@@ -307,6 +307,53 @@ TEST_F(DiskFiles, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
   EXPECT_THAT(folder.Names(), ElementsAre("a.brv", "small.brv"));
 }
 
+TEST_F(DiskFiles, ACopyStaysAsItIsWhenTheFileIsReplaced) {
+  folder.Write("a.brv", "old");
+  folder.Write("a.brv~", "older");
+  EXPECT_TRUE(files.CopyFile(folder.Model("a.brv"), folder.Model("a.brv~")));
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  EXPECT_EQ(folder.Read("a.brv~"), "old");
+  EXPECT_EQ(folder.Read("a.brv"), "new");
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv", "a.brv~"));
+}
+
+TEST_F(DiskFiles, ACopyMadeTwiceLeavesNothingBesideIt) {
+  folder.Write("a.brv", "old");
+  EXPECT_TRUE(files.CopyFile(folder.Model("a.brv"), folder.Model("a.brv~")));
+  EXPECT_TRUE(files.CopyFile(folder.Model("a.brv"), folder.Model("a.brv~")));
+  EXPECT_EQ(folder.Read("a.brv~"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv", "a.brv~"));
+}
+
+TEST_F(DiskFiles, ACopyOfALinkIsOneOfTheFileItLeadsTo) {
+  folder.Write("real.brv", "old");
+  ASSERT_EQ(symlink("real.brv", folder.Native("a.brv").c_str()), 0);
+  EXPECT_TRUE(files.CopyFile(folder.Model("a.brv"), folder.Model("a.brv~")));
+  EXPECT_TRUE(files.ReplaceFile(folder.Model("a.brv"), "new"));
+  EXPECT_EQ(folder.Read("a.brv~"), "old");
+}
+
+TEST_F(DiskFiles, AFailedCopyLeavesTheEarlierOne) {
+  folder.Write("a.brv~", "earlier");
+  EXPECT_FALSE(files.CopyFile(folder.Model("gone.brv"), folder.Model("a.brv~")));
+  EXPECT_FALSE(files.CopyFile(u"", folder.Model("a.brv~")));
+  {
+    const TCFullDisk full;  // the system's own files can be given no second name, and this one is long
+    EXPECT_FALSE(files.CopyFile(u"\\proc\\self\\smaps", folder.Model("a.brv~")));
+  }
+  EXPECT_EQ(folder.Read("a.brv~"), "earlier");
+  EXPECT_THAT(folder.Names(), ElementsAre("a.brv~"));
+}
+
+TEST_F(DiskFiles, AFileThatCannotHaveASecondNameIsCopied) {
+  const std::optional<std::string> version = files.ReadFile(u"\\proc\\version", kAnySize);
+  ASSERT_TRUE(version && !version->empty());
+  folder.Write("kept", "earlier");
+  EXPECT_TRUE(files.CopyFile(u"\\proc\\version", folder.Model("kept")));
+  EXPECT_EQ(folder.Read("kept"), version);
+  EXPECT_THAT(folder.Names(), ElementsAre("kept"));
+}
+
 TEST_F(DiskFiles, AFolderThatTakesNoNewFileFailsTheSave) {
   folder.Write("a.brv", "old");
   ASSERT_EQ(chmod(folder.Native("a.brv").c_str(), 0666), 0);

@@ -10,6 +10,7 @@
 
 #include "support/temp_folder.h"
 #include "text/disk_files.h"
+#include "text/disk_question.h"
 
 namespace brevant {
 namespace {
@@ -29,13 +30,17 @@ class HangingDisk : public testing::Test {
     files.emplace(TCNativePaths());
   }
 
+  std::future<bool> AskFor(const char* name) {
+    return AskDisk(*files, [path = folder.Model(name)](TCFileSystem& own) { return own.FileExists(path); });
+  }
+
   TCTempFolder folder;
   std::unique_ptr<TCHangingDisk> disk;
   std::optional<TCDiskFiles> files;
 };
 
 TEST_F(HangingDisk, TheAnswerComesWhenTheDiskIsBack) {
-  std::future<bool> found = files->AskForFile(folder.Model("song.mp3"));
+  std::future<bool> found = AskFor("song.mp3");
   EXPECT_EQ(found.wait_for(kMoment), std::future_status::timeout);
   disk.reset();
   ASSERT_EQ(found.wait_for(kLong), std::future_status::ready);
@@ -43,9 +48,9 @@ TEST_F(HangingDisk, TheAnswerComesWhenTheDiskIsBack) {
 }
 
 TEST_F(HangingDisk, AnotherFileIsAnsweredForMeanwhile) {
-  const std::future<bool> hanging = files->AskForFile(folder.Model("song.mp3"));
-  std::future<bool> found = files->AskForFile(folder.Model("other.mp3"));
-  std::future<bool> missing = files->AskForFile(folder.Model("nothing.mp3"));
+  const std::future<bool> hanging = AskFor("song.mp3");
+  std::future<bool> found = AskFor("other.mp3");
+  std::future<bool> missing = AskFor("nothing.mp3");
   ASSERT_EQ(found.wait_for(kLong), std::future_status::ready);
   ASSERT_EQ(missing.wait_for(kLong), std::future_status::ready);
   EXPECT_TRUE(found.get());
@@ -55,7 +60,7 @@ TEST_F(HangingDisk, AnotherFileIsAnsweredForMeanwhile) {
 
 TEST_F(HangingDisk, NobodyWaitsForTheQuestionToEnd) {
   {
-    const std::future<bool> found = files->AskForFile(folder.Model("song.mp3"));
+    const std::future<bool> found = AskFor("song.mp3");
     while (disk->Waiting() == 0) std::this_thread::yield();
     files.reset();
   }

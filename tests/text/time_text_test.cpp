@@ -27,7 +27,9 @@ TEST(TimeText, ANegativeNumberIsShownAsZero) {
 
 TEST(TimeText, IsReadInItsTwoFormsOnly) {
   EXPECT_EQ(ParseTime(u"03:45"), 225);
+  EXPECT_EQ(ParseTime(u"12:34"), 754);
   EXPECT_EQ(ParseTime(u"01:02:03"), 3723);
+  EXPECT_EQ(ParseTime(u"12:34:56"), 45296);
   EXPECT_EQ(ParseTime(u"3:45"), 0);
   EXPECT_EQ(ParseTime(u"1:02:03"), 0);
   EXPECT_EQ(ParseTime(u""), 0);

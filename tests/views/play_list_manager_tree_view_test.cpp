@@ -108,6 +108,19 @@ TEST_F(Tree, WhenTheSelectedNodeGoesANeighbourIsSelected) {
   EXPECT_EQ(tree.SelectedNode(), setOne) << "of the only one the one it lay in";
 }
 
+TEST_F(Tree, WhenTheSelectedNodeGoesWithItsNeighboursTheOneBehindThemAllIsSelected) {
+  const std::vector<TCTreeNode> more = tree.AddNodes(setOne, 3, {u"D.mp3", u"E.mp3"});
+  tree.SelectNode(first[1]);
+  tree.DeleteNodes(first[0], 3);
+  EXPECT_EQ(tree.SelectedNode(), more[0]);
+  tree.SelectNode(more[1]);
+  tree.DeleteNodes(more[1], 7);
+  EXPECT_EQ(tree.SelectedNode(), more[0]);
+  tree.SelectNode(setTwo);
+  tree.DeleteNodes(more[0], 1);
+  EXPECT_EQ(tree.SelectedNode(), setTwo);
+}
+
 TEST_F(Tree, WhenANodeGoesThatTheSelectedOneLiesInItsNeighbourIsSelected) {
   tree.SelectNode(first[1]);
   tree.DeleteNode(gigs);

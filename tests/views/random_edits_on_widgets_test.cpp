@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QBrush>
 #include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QTest>
@@ -11,6 +12,7 @@
 #include <QWidget>
 #include <iostream>
 
+#include "support/edit_watch.h"
 #include "support/fake_frame.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
@@ -33,6 +35,7 @@ class RandomEditsOnWidgets : public testing::TestWithParam<std::uint32_t> {
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     files.Put(u"C:\\a.mp3");
+    player.SetDefaultSong({.length = 1.0});
     document.OnNewDocument();
   }
 
@@ -67,14 +70,14 @@ class RandomEditsOnWidgets : public testing::TestWithParam<std::uint32_t> {
     });
   }
 
-  void CheckRows() {
-    const TCPlayList* current = record.setLists.CurrentPlaylist();
-    if (current == nullptr || current->items.empty()) return;  // what stood there may stay
-    ASSERT_EQ(view->model()->rowCount(), static_cast<int>(current->items.size()));
-    for (std::size_t i = 0; i < current->items.size(); ++i) {
-      ASSERT_EQ(view->model()->index(static_cast<int>(i), 4).data().toString(),
-                ToQString(current->items[i].fileName));
-    }
+  [[nodiscard]] TCPlaylistRow Row(std::int32_t row) const {
+    const auto text = [this, row](int column) {
+      return FromQString(view->model()->index(row, column).data().toString());
+    };
+    const auto colour = [this, row](Qt::ItemDataRole role) {
+      return view->model()->index(row, 1).data(role).value<QBrush>().color().rgb() & 0xFFFFFF;
+    };
+    return {{text(1), text(2), text(3), text(4)}, {colour(Qt::BackgroundRole), colour(Qt::ForegroundRole)}};
   }
 
   QWidget window;
@@ -89,28 +92,38 @@ class RandomEditsOnWidgets : public testing::TestWithParam<std::uint32_t> {
   TCFakeFrame frame;
   TCRandomPrompts prompts{dice};
   TCBrevantDoc document{{record, files, &player, *view, *tree, messages, frame, prompts, {}}};
-  TCRandomUser user{dice,
-                    record,
+  TCRandomUser user{
+      dice,
+      record,
+      document,
+      *tree,
+      {[this](const std::vector<std::int32_t>& rows) { SelectRows(rows); },
+       [this] { return view->model()->rowCount(); },
+       [this](bool treeHasIt) { (treeHasIt ? static_cast<QWidget*>(tree) : view)->setFocus(); },
+       [this] { tree->setCurrentIndex({}); }, [this](double seconds) { player.Advance(seconds); }}};
+  TCEditWatch watch{record,
                     document,
                     *tree,
-                    {[this](const std::vector<std::int32_t>& rows) { SelectRows(rows); },
-                     [this] { return view->model()->rowCount(); },
-                     [this](bool treeHasIt) { (treeHasIt ? static_cast<QWidget*>(tree) : view)->setFocus(); },
-                     [this] { tree->setCurrentIndex({}); }}};
+                    frame,
+                    {[this] { return view->model()->rowCount(); },
+                     [this](std::int32_t row) { return Row(row); }, [this] { return view->SelectedRows(); }}};
 };
 
 TEST_P(RandomEditsOnWidgets, TreeAndRowsShowTheSetListsAfterEveryCommand) {
   constexpr int kCommands = 1'000;
   std::cout << "seed " << GetParam() << ", " << kCommands << " commands\n";
   for (int i = 0; i < kCommands; ++i) {
-    user.Act();
+    user.SelectSomething();
+    watch.BeforeCommand();
+    const TCDeed deed = user.Act();
     QCoreApplication::processEvents();
+    watch.AfterCommand(deed);
     CheckTree();
-    CheckRows();
-    ASSERT_FALSE(HasFatalFailure()) << "at command " << i << " of seed " << GetParam();
+    ASSERT_FALSE(HasFatalFailure()) << "at act " << i << " of seed " << GetParam() << ": " << user.LastAct();
     messages.lines.clear();
     files.ForgetRequests();
     player.ForgetCalls();
+    user.Prune();
   }
 }
 

@@ -84,7 +84,7 @@ TEST_F(TreeModel, NothingIsAddedBelowTheThirdLevelOrUnderANodeThatIsNotThere) {
   EXPECT_THAT(model.AddNodes(song, 0, {u"X"}), IsEmpty());
   EXPECT_THAT(model.AddNodes(static_cast<TCTreeNode>(99), 0, {u"X"}), IsEmpty());
   EXPECT_THAT(model.AddNodes(group, 0, {}), IsEmpty());
-  model.DeleteNode(playlist);
+  model.DeleteNodes(playlist, 1);
   EXPECT_THAT(model.AddNodes(playlist, 0, {u"X"}), IsEmpty());
   EXPECT_EQ(inserts.count(), 0);
 }
@@ -100,7 +100,7 @@ TEST_F(TreeModel, ADeletedNodeTakesAllUnderItAlongAndItsHandleIsNobodys) {
   const TCTreeNode playlist = Add(group, u"P");
   const TCTreeNode song = Add(playlist, u"S");
   const TCTreeNode other = Add(TCTreeNode::None, u"H");
-  model.DeleteNode(group);
+  model.DeleteNodes(group, 1);
   EXPECT_THAT(TextsUnder(QModelIndex()), ElementsAre("H"));
   EXPECT_EQ(model.IndexOf(other).row(), 0);
   // New nodes take the places in memory of those that went.
@@ -111,10 +111,25 @@ TEST_F(TreeModel, ADeletedNodeTakesAllUnderItAlongAndItsHandleIsNobodys) {
     EXPECT_EQ(model.ParentOf(gone), TCTreeNode::None);
     EXPECT_EQ(model.TextOf(gone), QString());
     model.SetText(gone, QStringLiteral("X"));
-    model.DeleteNode(gone);
+    model.DeleteNodes(gone, 1);
     model.MoveNode(gone, TCTreeNode::None, 0);
   }
   EXPECT_THAT(TextsUnder(other), ElementsAre("new", "new", "new", "new", "new"));
+}
+
+TEST_F(TreeModel, NeighboursGoInOneRemoval) {
+  const std::vector<TCTreeNode> groups =
+      model.AddNodes(TCTreeNode::None, 0, {u"0", u"1", u"2", u"3", u"4", u"5"});
+  Add(groups[2], u"P");
+  const QSignalSpy removals(&model, &QAbstractItemModel::rowsRemoved);
+  model.DeleteNodes(groups[1], 3);
+  EXPECT_THAT(TextsUnder(QModelIndex()), ElementsAre("0", "4", "5"));
+  EXPECT_EQ(model.IndexOf(groups[4]).row(), 1);
+  EXPECT_FALSE(model.HasNode(groups[2]));
+  model.DeleteNodes(groups[4], 0);
+  model.DeleteNodes(groups[4], 9);
+  EXPECT_THAT(TextsUnder(QModelIndex()), ElementsAre("0"));
+  EXPECT_EQ(removals.count(), 2);
 }
 
 TEST_F(TreeModel, AfterAClearEveryHandleIsNobodys) {
@@ -276,11 +291,15 @@ TEST_F(TreeModel, StaysTheTreeItShouldBeThroughThousandsOfRandomChanges) {
           }
           break;
         }
-        case 1:
+        case 1: {
           if (place >= count || below(2) == 0) break;
-          model.DeleteNode(parent->children[place].handle);
-          parent->children.erase(parent->children.begin() + static_cast<std::ptrdiff_t>(place));
+          const std::size_t several = below(4);
+          model.DeleteNodes(parent->children[place].handle, several);
+          const auto first = parent->children.begin() + static_cast<std::ptrdiff_t>(place);
+          parent->children.erase(
+              first, first + static_cast<std::ptrdiff_t>(std::min(several, parent->children.size() - place)));
           break;
+        }
         case 2: {
           if (place >= count) break;
           const TCPlainNode moved = parent->children[place];
