@@ -36,6 +36,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
     : files(parts.files),
       libraries(parts.libraries),
       layout(parts.layoutFile, QSettings::IniFormat),
+      recentFiles(layout),
       settingsFile(parts.files, parts.folders.settings),
       record(LoadRecord(settingsFile)),
       frame(record.settings, parts.player, parts.monitor),
@@ -51,8 +52,9 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .folders = parts.folders,
                 .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls(),
-                .properties = &frame.Properties()}),
-      router(frame, document, help, libraries),
+                .properties = &frame.Properties(),
+                .recentFiles = &recentFiles}),
+      router(frame, document, help, recentFiles, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
@@ -145,6 +147,12 @@ void TCBrevantApp::ConnectParts() {
   connect(&pane, &TCWMPPaneContainer::pauseWanted, this,
           [this] { router.OnCommand(TCCommandId::PauseContinue); });
   connect(&pane, &TCWMPPaneContainer::stopWanted, this, [this] { router.OnCommand(TCCommandId::Stop); });
+
+  if (QAction* command = actions.ActionOf(TCCommandId::RecentFile)) {
+    recentFileMenu.emplace(*command, *frame.menuBar(), recentFiles);
+    connect(&*recentFileMenu, &TCRecentFileMenu::openWanted, this,
+            [this](const std::u16string& path) { document.OpenDocumentFile(path); });
+  }
 
   connect(&frame, &TCMainFrame::marksChanged, &actions, &TCCommandActions::RefreshChecks);
 }

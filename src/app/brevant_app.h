@@ -17,6 +17,8 @@
 #include "app/key_filter.h"
 #include "app/main_frame.h"
 #include "app/qt_prompts.h"
+#include "app/recent_file_menu.h"
+#include "app/recent_files.h"
 #include "document/brevant_doc.h"
 #include "model/app_record.h"
 #include "model/program_folders.h"
@@ -79,6 +81,7 @@ class TCBrevantApp : public QObject {
   TCFileSystem& files;
   QStringList libraries;
   QSettings layout;
+  TCRecentFiles recentFiles;
   TCSettingsFile settingsFile;
   TCAppRecord record;
   TCMainFrame frame;
@@ -90,6 +93,7 @@ class TCBrevantApp : public QObject {
   TCKeyFilter keyFilter;
   TCFileDrops fileDrops;
   TCCloseGuard closeGuard;
+  std::optional<TCRecentFileMenu> recentFileMenu;  // once the menus are filled
   std::optional<TCFirstPaint> firstPaint;
   QMenu* playlistMenu = nullptr;  // the frame owns it, and the next one
   QMenu* treeMenu = nullptr;
