@@ -1,6 +1,8 @@
 #include "app/pane_set.h"
 
 #include <QApplication>
+#include <QChildEvent>
+#include <QTabBar>
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -48,6 +50,33 @@ bool Holds(const QWidget& pane, const QWidget* widget) {
   return widget != nullptr;
 }
 
+// The toolkit gives a tab the title of its pane as it stands, and a tab's "&" marks a key: here it is a word.
+class TCTabTexts final : public QObject {
+ public:
+  explicit TCTabTexts(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ChildPolished) {
+      QObject* child = static_cast<QChildEvent*>(event)->child();
+      if (qobject_cast<QTabBar*>(child) != nullptr) child->installEventFilter(this);
+    } else if (event->type() == QEvent::Paint) {
+      // Tabs come and go without a word; before it is painted nobody has seen one.
+      if (auto* tabs = qobject_cast<QTabBar*>(watched)) Mend(*tabs);
+    }
+    return false;
+  }
+
+ private:
+  static void Mend(QTabBar& tabs) {
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      QString text = tabs.tabText(tab);
+      text.replace(QStringLiteral("&&"), QStringLiteral("&")).replace(u'&', QStringLiteral("&&"));
+      if (text != tabs.tabText(tab)) tabs.setTabText(tab, text);
+    }
+  }
+};
+
 }  // namespace
 
 TCPaneSet::TCPaneSet(QWidget* frame) : QMainWindow(frame) {
@@ -56,6 +85,7 @@ TCPaneSet::TCPaneSet(QWidget* frame) : QMainWindow(frame) {
   setObjectName(QStringLiteral("Panes"));
   setAccessibleName(QStringLiteral("Playlist and panes"));
   setContextMenuPolicy(Qt::NoContextMenu);
+  new TCTabTexts(*this);
   settled.setSingleShot(true);
   connect(&settled, &QTimer::timeout, this, [this] { restored.reset(); });
 }
