@@ -2,9 +2,8 @@
 
 #include <utility>
 
-#include "text/case_folding.h"
+#include "model/media_check.h"
 #include "text/path_parts.h"
-#include "text/quoted_words.h"
 
 namespace brevant {
 
@@ -24,7 +23,7 @@ TCMediaFileChooser::TCMediaFileChooser(TCAppRecord& appRecord, TCPrompts& userPr
 std::vector<std::u16string> TCMediaFileChooser::Choose(TCChooseFiles count) {
   TCSettings& settings = record.settings;
   std::optional<std::vector<std::u16string>> paths =
-      prompts.ChooseMediaFiles({count, SplitQuotedWords(ToLower(record.setLists.validMediaExtensions)),
+      prompts.ChooseMediaFiles({count, ValidMediaExtensions(record.setLists),
                                 TypeIn(settings.lastMediaFileExtSpec), settings.lastMediaFileName});
   if (paths) return *std::move(paths);
   settings.lastMediaFileName.clear();

@@ -8,10 +8,14 @@
 
 namespace brevant {
 
+std::vector<std::u16string> ValidMediaExtensions(TCSetListStore& store) {
+  store.validMediaExtensions = ToLower(store.validMediaExtensions);
+  return SplitQuotedWords(store.validMediaExtensions);
+}
+
 bool IsValidMediaExtension(TCSetListStore& store, std::u16string_view extension) {
   if (extension.empty()) return false;
-  store.validMediaExtensions = ToLower(store.validMediaExtensions);
-  const std::vector<std::u16string> words = SplitQuotedWords(store.validMediaExtensions);
+  const std::vector<std::u16string> words = ValidMediaExtensions(store);
   return std::find(words.begin(), words.end(), ToLower(extension)) != words.end();
 }
 

@@ -1,15 +1,20 @@
 // What may enter a set list, and whether a song's file is there.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/set_list_store.h"
 #include "text/file_system.h"
 
 namespace brevant {
 
-// True when `extension`, lower-cased, is a word of the store's list of media types; an empty one never is.
-// The list itself is lower-cased in place by every call.
+// The words of the store's list of media types. Whenever it is consulted, the list itself is lower-cased in
+// place.
+[[nodiscard]] std::vector<std::u16string> ValidMediaExtensions(TCSetListStore& store);
+
+// True when `extension`, lower-cased, is one of them; an empty one never is.
 [[nodiscard]] bool IsValidMediaExtension(TCSetListStore& store, std::u16string_view extension);
 
 // Found when the file can be opened for reading, else NotFound.

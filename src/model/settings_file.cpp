@@ -27,42 +27,45 @@ enum class Rule {
   LastLoadedFile,  // written from the open document; read by LastLoadedFileName alone
 };
 
-using BoolField = bool& (*)(TCAppRecord&);
-using TextField = std::u16string& (*)(TCAppRecord&);
-using NumberField = std::int32_t& (*)(TCAppRecord&);
+// An option of a record, to be set and to be looked at.
+template <typename Value>
+struct Field {
+  Value& (*in)(TCAppRecord&) = nullptr;
+  const Value& (*of)(const TCAppRecord&) = nullptr;
+};
 
 // One key of the file and the option that it holds.
 struct Row {
   std::u16string_view key;
   Rule rule = Rule::Text;
-  BoolField boolean = nullptr;
-  TextField text = nullptr;
-  NumberField number = nullptr;
+  Field<bool> boolean;
+  Field<std::u16string> text;
+  Field<std::int32_t> number;
   std::u16string_view missingText;  // what a missing text key reads as
 };
 
-constexpr Row Bool(std::u16string_view key, Rule rule, BoolField field) {
-  return {key, rule, field, nullptr, nullptr, {}};
+template <typename Get>
+constexpr Row Bool(std::u16string_view key, Rule rule, Get field) {
+  return {key, rule, {field, field}, {}, {}, {}};
 }
-constexpr Row Text(std::u16string_view key, TextField field, std::u16string_view missing = {}) {
-  return {key, Rule::Text, nullptr, field, nullptr, missing};
+template <typename Get>
+constexpr Row Text(std::u16string_view key, Get field, std::u16string_view missing = {}) {
+  return {key, Rule::Text, {}, {field, field}, {}, missing};
 }
-constexpr Row Number(std::u16string_view key, NumberField field, Rule rule = Rule::Number) {
-  return {key, rule, nullptr, nullptr, field, {}};
+template <typename Get>
+constexpr Row Number(std::u16string_view key, Get field, Rule rule = Rule::Number) {
+  return {key, rule, {}, {}, {field, field}, {}};
 }
 
 // NOLINTBEGIN(bugprone-macro-parentheses): a member's name after a point takes no parentheses
-#define BREVANT_FIELD(member)         \
-  [](TCAppRecord & record) -> auto& { \
-    return record.member;             \
-  }
+#define BREVANT_FIELD(member) [](auto& record) -> decltype((record.member)) { return record.member; }
 // NOLINTEND(bugprone-macro-parentheses)
 
 // In the order of writing. Reading in this order too gives "LyricsFontSize" the playlist font size just read.
 constexpr std::array kRows = {
     Bool(u"LoadLastWindowState", Rule::UnlessNo, BREVANT_FIELD(settings.loadLastWindowState)),
     Bool(u"LoadLastFileOnProgramRun", Rule::UnlessNo, BREVANT_FIELD(settings.loadLastFileOnProgramRun)),
-    Row{kLastLoadedFileKey, Rule::LastLoadedFile, nullptr, nullptr, nullptr, {}},
+    Row{kLastLoadedFileKey, Rule::LastLoadedFile, {}, {}, {}, {}},
     Bool(u"WhiteOnBlack", Rule::UnlessNo, BREVANT_FIELD(settings.whiteOnBlack)),
     Bool(u"DynamicPlayColours", Rule::UnlessNo, BREVANT_FIELD(settings.dynamicPlayColours)),
     Bool(u"ConfirmFileRemove", Rule::UnlessNo, BREVANT_FIELD(settings.confirmFileRemove)),
@@ -113,18 +116,18 @@ void ReadRow(const TCIniText& ini, const Row& row, TCAppRecord& record) {
     case Rule::UnlessNo:
     case Rule::OnlyYes:
     case Rule::OnlyYesElseNo:
-      ReadBool(ini, row, row.boolean(record));
+      ReadBool(ini, row, row.boolean.in(record));
       break;
     case Rule::Text:
       if (std::u16string value = ReadText(ini, row.key, row.missingText); !value.empty()) {
-        row.text(record) = std::move(value);
+        row.text.in(record) = std::move(value);
       }
       break;
     case Rule::Number:
-      row.number(record) = ini.GetInt(kSection, row.key, row.number(record));
+      row.number.in(record) = ini.GetInt(kSection, row.key, row.number.in(record));
       break;
     case Rule::LyricsFontSize:
-      row.number(record) = ini.GetInt(kSection, row.key, record.settings.playListFontSize);
+      row.number.in(record) = ini.GetInt(kSection, row.key, record.settings.playListFontSize);
       break;
     case Rule::LastLoadedFile:
       break;
@@ -145,17 +148,17 @@ std::u16string ProtectedText(std::u16string text) {
   return u'"' + text + u'"';
 }
 
-std::u16string WrittenValue(const Row& row, TCAppRecord& record) {
+std::u16string WrittenValue(const Row& row, const TCAppRecord& record) {
   switch (row.rule) {
     case Rule::UnlessNo:
     case Rule::OnlyYes:
     case Rule::OnlyYesElseNo:
-      return row.boolean(record) ? u"Yes" : u"No";
+      return row.boolean.of(record) ? u"Yes" : u"No";
     case Rule::Text:
-      return ProtectedText(row.text(record));
+      return ProtectedText(row.text.of(record));
     case Rule::Number:
     case Rule::LyricsFontSize:
-      return FormatDecimal(row.number(record));
+      return FormatDecimal(row.number.of(record));
     case Rule::LastLoadedFile:
       break;
   }
@@ -185,8 +188,7 @@ bool TCSettingsFile::SaveSettings(const TCAppRecord& record) const {
   const std::optional<std::string> bytes = files.ReadFile(path, kMaxFileBytes);
   if (!bytes && files.FileExists(path)) return true;  // what else stands in it could not be kept
   TCIniText ini = TCIniText::Parse(bytes.value_or(std::string()));
-  TCAppRecord written = record;
-  for (const Row& row : kRows) ini.SetString(kSection, row.key, WrittenValue(row, written));
+  for (const Row& row : kRows) ini.SetString(kSection, row.key, WrittenValue(row, record));
   if (files.MakeFolder(folder)) (void)files.ReplaceFile(path, ini.Serialize());
   return true;
 }

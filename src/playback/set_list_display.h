@@ -15,7 +15,8 @@ class TCSetListDisplay {
 
   // Fills the view. An unknown or empty playlist leaves what stands there.
   virtual void ShowPlaylist(std::int32_t group, std::int32_t playlist) = 0;
-  // Recolours the rows after the current song and brings its row into view.
+  // Recolours the rows after the current song, brings its row into view and lets the tree follow. Selects no
+  // row: what the user selected stays.
   virtual void HighlightCurrentSong() = 0;
   // Rewrites one row of the current playlist.
   virtual void RefreshSongRow(std::int32_t row, const TCPlayListItem& song) = 0;

@@ -244,7 +244,8 @@ bool TCTransport::AdvanceAfterSong() {
 }
 
 void TCTransport::RefreshCurrentSongTime() {
-  const std::u16string time = SetCurrentSongTime(player == nullptr ? -1 : player->GetDurationSeconds());
+  if (player == nullptr) return;
+  const std::u16string time = SetCurrentSongTime(player->GetDurationSeconds());
   display.SetSongTime(store.currentSong, time);
 }
 

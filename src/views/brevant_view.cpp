@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "views/display_font.h"
+#include "views/menu_place.h"
 #include "views/playlist_header.h"
 #include "views/playlist_model.h"
 #include "views/playlist_row_delegate.h"
@@ -135,7 +136,7 @@ void TCBrevantView::SetRowTexts(std::int32_t row, const TCRowTexts& texts) {
 }
 
 void TCBrevantView::SetRowTime(std::int32_t row, std::u16string_view time) {
-  if (time.empty() || !playlistModel->HasRow(row)) return;
+  if (!playlistModel->HasRow(row)) return;
   playlistModel->SetTime(row, time);
   columns.MeasureRow(row);
   columns.Fit();
@@ -353,9 +354,8 @@ void TCBrevantView::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse's was asked for when the button went down.
   event->accept();
   if (event->reason() == QContextMenuEvent::Mouse) return;
-  const std::int32_t row = SelectedRow();
-  const QPoint place = row >= 0 ? visualRect(playlistModel->index(row, 0)).bottomLeft() : QPoint();
-  Q_EMIT contextMenuWanted(viewport()->mapToGlobal(place));
+  const QModelIndex selected = playlistModel->index(SelectedRow(), 0);
+  Q_EMIT contextMenuWanted(MenuPlace(*viewport(), visualRect(selected)));
 }
 
 void TCBrevantView::keyPressEvent(QKeyEvent* event) {

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "text/white_space.h"
+#include "views/menu_place.h"
 #include "views/text_conversion.h"
 #include "views/tree_node_delegate.h"
 #include "views/under_pointer.h"
@@ -320,8 +321,7 @@ void TCPlayListManagerTreeView::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse's was asked for when the button went down.
   event->accept();
   if (event->reason() == QContextMenuEvent::Mouse) return;
-  const QRect node = visualRect(currentIndex());
-  Q_EMIT contextMenuWanted(viewport()->mapToGlobal(node.isValid() ? node.bottomLeft() : QPoint()));
+  Q_EMIT contextMenuWanted(MenuPlace(*viewport(), visualRect(currentIndex())));
 }
 
 bool TCPlayListManagerTreeView::EnterActs() const {

@@ -81,8 +81,9 @@ TEST_F(Arrange, ADoubleClickInTheTreeShowsThePlaylist) {
 
 TEST_F(Arrange, ADoubleClickOnAGroupOpensOrClosesItAndLoadsNothing) {
   const QModelIndex group = Node(0).parent();
+  TCStageMouse mouse(*Tree().viewport());
   for (const bool open : {false, true}) {
-    QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, PlaceOf(group));
+    mouse.DoubleClick(PlaceOf(group));
     EXPECT_EQ(Tree().isExpanded(group), open);
   }
   EXPECT_EQ(Rows(), (QStringList{QStringLiteral("one.mp3"), QStringLiteral("two.mp3")}));

@@ -11,6 +11,7 @@
 #include "support/fake_tree.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
+#include "support/repeat_fields.h"
 
 namespace brevant {
 namespace {
@@ -44,6 +45,7 @@ class BrevantDocTest : public testing::Test {
   TCMessageLog messages;
   TCFakeFrame frame;
   TCFakePrompts prompts;
+  TCFakeRepeatFields repeatFields;
   TCRecentFileLog recent;
   TCBrevantDoc document{{.record = record,
                          .files = files,
@@ -54,6 +56,7 @@ class BrevantDocTest : public testing::Test {
                          .frame = frame,
                          .prompts = prompts,
                          .folders = {u"", u"", u"\\state\\recovery\\"},
+                         .repeatFields = &repeatFields,
                          .recentFiles = &recent}};
 };
 
@@ -267,6 +270,21 @@ TEST_F(BrevantDocTest, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
   EXPECT_FALSE(document.IsModified());  // options are no part of the document
 }
 
+TEST_F(BrevantDocTest, TheHierarchicalFormatIsReadAndNeverWrittenWhateverTheOptionSays) {
+  files.PutUtf16(u"D:\\Docs\\Sets.brvgl", u"One.brvpl\r\n");
+  files.PutUtf16(u"D:\\Docs\\One.brvpl", u"C:\\a.mp3*02:00\r\n");
+  TCMemoryFiles flat;
+  flat.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\a.mp3\" 02:00\r\n");
+  for (const bool option : {true, false}) {
+    record.settings.foldersSaveFormat = option;
+    files.PutUtf16(kShow, u"Sets.brvgl\r\n");
+    document.OnOpenDocument(kShow);
+    ASSERT_EQ(view.rows.size(), 1u);
+    document.OnSaveDocument(kShow);
+    EXPECT_EQ(files.BytesOf(kShow), flat.BytesOf(kShow));
+  }
+}
+
 TEST_F(BrevantDocTest, WhiteOnBlackSwapsTheColoursAtOnce) {
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::WhiteOnBlack);
@@ -313,6 +331,21 @@ TEST_F(BrevantDocTest, CancelSaysSoAndDropsTheMouseState) {
   document.OnCommand(TCCommandId::Cancel);
   EXPECT_THAT(messages.lines, ElementsAre(u"Command canceled"));
   EXPECT_EQ(view.mouseResets, 1);
+}
+
+TEST_F(BrevantDocTest, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::RefreshAllTimes);
+  document.OnCommand(TCCommandId::Cancel);
+  EXPECT_FALSE(document.Transport().TimeRun().Pending());
+  EXPECT_EQ(frame.status, u"");
+  document.OnCommand(TCCommandId::Play);
+  player.ForgetCalls();
+  document.OnCommand(TCCommandId::Cancel);
+  EXPECT_FALSE(document.Transport().State().refreshSongTime);
+  document.OnPlayTimerTick();
+  EXPECT_EQ(view.rows[0].texts.time, u"03:00");
+  EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
 TEST_F(BrevantDocTest, ClearInformationEmptiesTheMessages) {
@@ -416,6 +449,37 @@ TEST_F(BrevantDocTest, VolumeKeysReachThePlayer) {
   document.OnCommand(TCCommandId::VolumeDown);
   document.OnCommand(TCCommandId::MediaVolumeDown);
   EXPECT_EQ(player.GetVolume(), 50);
+}
+
+TEST_F(BrevantDocTest, SeekAndRepeatKeysReachThePlayerAndTheTimeFields) {
+  document.OnOpenDocument(kShow);
+  document.OnCommand(TCCommandId::Play);
+  player.Advance(10.0);
+  player.ForgetCalls();
+  document.OnCommand(TCCommandId::SetRepeatEnd);
+  document.OnCommand(TCCommandId::SeekBack);
+  document.OnCommand(TCCommandId::SetRepeatBegin);
+  document.OnCommand(TCCommandId::SeekForward);
+  EXPECT_EQ(player.Calls().size(), 2u);
+  EXPECT_EQ(repeatFields.end, 9);
+  EXPECT_EQ(repeatFields.begin, 7);
+  EXPECT_EQ(static_cast<int>(player.GetPosition().value_or(0.0)), 9);
+}
+
+TEST_F(BrevantDocTest, WithoutAPlayerEveryKeyOfAPerformanceAndEveryPollRunsWithoutEffect) {
+  TCBrevantDoc mute{{record, files, nullptr, view, tree, messages, frame, prompts, {}}};
+  mute.OnOpenDocument(kShow);
+  using Id = TCCommandId;
+  for (const Id command : {Id::Play, Id::LoadSong, Id::PauseContinue, Id::Stop, Id::SeekForward, Id::SeekBack,
+                           Id::VolumeUp, Id::VolumeDown, Id::SetRepeatBegin, Id::SetRepeatEnd,
+                           Id::RefreshSongTime, Id::RefreshAllTimes, Id::RefreshPlaylistTimes}) {
+    EXPECT_TRUE(mute.OnCommand(command));
+    mute.OnPlayTimerTick();
+  }
+  EXPECT_FALSE(mute.Transport().State().playing);
+  EXPECT_FALSE(mute.IsModified());
+  EXPECT_EQ(view.rows[0].texts.time, u"03:00");
+  EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
 }
 
 TEST_F(BrevantDocTest, ACommandOfSomebodyElseIsNotTaken) {

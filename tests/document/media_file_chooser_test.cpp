@@ -32,6 +32,7 @@ TEST_F(MediaFileChooserTest, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) 
   prompts.mediaAnswers = {std::nullopt};
   EXPECT_EQ(chooser.ChooseSongs(), u"");
   EXPECT_THAT(prompts.lastMediaQuestion.types, ElementsAre(u"mp3", u"wav"));
+  EXPECT_EQ(record.setLists.validMediaExtensions, u"mp3 \"wav\"");
   EXPECT_EQ(prompts.lastMediaQuestion.initialPath, u"C:\\a.mp3");
   EXPECT_EQ(prompts.lastMediaQuestion.defaultType, u"mp3");
 }

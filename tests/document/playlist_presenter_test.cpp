@@ -64,6 +64,9 @@ TEST_F(PlaylistPresenterTest, APlaylistIsShownWithItsRowsAndItsTotal) {
 
 TEST_F(PlaylistPresenterTest, ASongWithLyricLinesSaysSoBehindItsStatus) {
   store.groups[0].playlists[0].items[0].lyrics = LyricsOf({{u"Sing", 0, kEndOfLyrics, 0}});
+  TCLyricHeaders titleAlone;
+  titleAlone.title = u"Song";
+  store.groups[0].playlists[0].items[1].lyrics = LyricsOf({}, titleAlone);
   presenter.ShowPlaylist(0, 0);
   EXPECT_EQ(view.rows[0].texts.status, u"Found\\Lyrics");
   EXPECT_EQ(view.rows[1].texts.status, u"Found");
@@ -153,6 +156,21 @@ TEST_F(PlaylistPresenterTest, AClearedViewNamesNoPlaylist) {
   presenter.Clear();
   EXPECT_TRUE(view.rows.empty());
   EXPECT_EQ(view.header, u"Play List");
+  EXPECT_EQ(presenter.RowToMove(), -1);
+}
+
+TEST_F(PlaylistPresenterTest, ARowIsRewrittenInAllItsTextsAndKeepsItsColour) {
+  presenter.ShowPlaylist(0, 0);
+  TCPlayListItem song = store.groups[0].playlists[0].items[1];
+  song.SetPath(u"C:\\other.wav");
+  song.status = TCSongStatus::NotFound;
+  song.time = u"05:05";
+  presenter.RefreshSongRow(1, song);
+  EXPECT_EQ(view.rows[1].texts.number, u"2");
+  EXPECT_EQ(view.rows[1].texts.status, u"Not found");
+  EXPECT_EQ(view.rows[1].texts.time, u"05:05");
+  EXPECT_EQ(view.rows[1].texts.name, u"other.wav");
+  EXPECT_EQ(TextColours(), (std::vector<TCRgb>{kCurrentColour, kNextColour, kWhite}));
 }
 
 TEST_F(PlaylistPresenterTest, AnEmptySongTimeIsIgnored) {

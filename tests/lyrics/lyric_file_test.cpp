@@ -134,6 +134,27 @@ TEST(LyricLine, TheFirstMarkOfTheListDecides) {
   EXPECT_EQ(ParseLine(u"[ve:id:x]").headers.version, u"");
 }
 
+TEST(LyricLine, EveryMarkGoesBeforeTheMarksBehindItInTheList) {
+  using Headers = TCLyricHeaders;
+  struct Mark {
+    std::u16string text;
+    std::u16string Headers::*value;
+  };
+  const std::vector<Mark> marks = {{u"id:", &Headers::artist},      {u"ti:", &Headers::title},
+                                   {u"ar:", &Headers::artist},      {u"al:", &Headers::album},
+                                   {u"by:", &Headers::lyricWriter}, {u"au:", &Headers::songCreator},
+                                   {u"re:", &Headers::editor},      {u"ve:", &Headers::version},
+                                   {u"length:", &Headers::length},  {u"offset:", &Headers::offset}};
+  for (std::size_t first = 0; first < marks.size(); ++first) {
+    for (std::size_t later = first + 1; later < marks.size(); ++later) {
+      const std::u16string tag = marks[later].text + marks[first].text;
+      Headers expected;
+      expected.*marks[first].value = tag.substr(marks[first].text.size());
+      EXPECT_EQ(ParseLine(u"[" + tag + u"]").headers, expected) << first << " " << later;
+    }
+  }
+}
+
 TEST(LyricLine, MarksAreLowerCase) {
   const ParsedLine sheet = ParseLine(u"[TI:Song]Text");
   EXPECT_EQ(sheet.headers.title, u"");
@@ -201,9 +222,9 @@ TEST_F(LyricFile, EveryLineEndsWhereTheNextBegins) {
 }
 
 TEST_F(LyricFile, TagsOfEveryShapeAreReadAlike) {
-  for (const char* tag :
-       {"[1:2.3]", "[0001:0002.0003]", "[00001:2.3]", "[+1:2.3]", "[1:2.3", "[1:2]", "[:.]", "[1.2:3]",
-        "[1:2:3.4]", "[1:2.3.4]", "[1:2.3x]", "[ 1:2.3]", "[9999:9999.9999]", "1:2.3]", "["}) {
+  for (const char* tag : {"[1:2.3]", "[0001:0002.0003]", "[00001:2.3]", "[+1:2.3]", "[1:2.3", "[1:2]", "[:.]",
+                          "[1.2:3]", "[1:2:3.4]", "[1:2.3.4]", "[1:2.3x]", "[ 1:2.3]", "[9999:9999.9999]",
+                          "[99999:1.2]", "[2147483648:1.5]", "[1:99999999999.5]", "1:2.3]", "["}) {
     TCLyricSheet sheet;
     const std::string line = std::string(tag) + "M: [x] y";
     ParseLyricLine(std::u16string(line.begin(), line.end()), sheet);
@@ -252,7 +273,9 @@ TEST_F(LyricFile, LinesOutOfOrderKeepTheirOrder) {
 
 TEST_F(LyricFile, AnUnfinishedLastLineIsLostUnlessItIsTheOnlyOne) {
   EXPECT_EQ(Load("[00:10.00]a").LineCount(), 1U);
-  EXPECT_EQ(Load("[00:10.00]a\r\n[00:20.00]b").LineCount(), 1U);
+  const TCSongLyrics two = Load("[00:10.00]a\r\n[00:20.00]b");
+  ASSERT_EQ(two.LineCount(), 1U);
+  EXPECT_EQ(two.LineAt(0), (TCLyric{u"a", 10'000, kEndOfLyrics, 0}));
 }
 
 TEST_F(LyricFile, AMarkGarblesTheFirstLine) {

@@ -50,6 +50,15 @@ TEST_F(LyricDisplayTest, LinesAppearHalfASecondAheadByWholeSeconds) {
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tM: one", u"\r\n", u"\tF: two"));
 }
 
+TEST_F(LyricDisplayTest, TheLeadIsHalfASecondToTheMillisecond) {
+  TCSongLyrics& lyrics = record.setLists.groups[0].playlists[0].items[0].lyrics;
+  lyrics = LyricsOf({{u"on time", 10500, kEndOfLyrics, 0}});
+  EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
+  lyrics = LyricsOf({{u"too late for it", 10501, kEndOfLyrics, 0}});
+  EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), -1);
+  EXPECT_EQ(display.ShowLyricsAt(11, kSong, -1), 0);
+}
+
 TEST_F(LyricDisplayTest, EachLineHasItsSingersRoleAndLaterLinesTheNormalOne) {
   EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
   messages.Append(u"a message");

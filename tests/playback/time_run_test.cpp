@@ -92,6 +92,7 @@ TEST_F(TimeRunTest, ARunOverAPlaylistSaysEachTimeAndStoresThemAtItsEnd) {
   EXPECT_THAT(Times(0), ElementsAre(u"09:09", u"09:09", u"09:09"));
   RunThrough();
   EXPECT_FALSE(run.Pending());
+  EXPECT_FALSE(probe.open);
   EXPECT_THAT(messages.lines, ElementsAre(u"Calculating times for song \"a.mp3\": 01:00",
                                           u"Calculating times for song \"b.mp3\": 02:00",
                                           u"Calculating times for song \"c.mp3\": 03:00"));

@@ -92,6 +92,17 @@ TEST(TransportRulesTest, PriorPlaylistLandsOnTheFirstOfTheGroupBefore) {
   ExpectStep(StepToPriorPlaylist(store), 0, 0);  // not its last
 }
 
+TEST(TransportRulesTest, AGroupWithoutPlaylistsIsAStepOfItsOwn) {
+  TCSetListStore store = ThreeGroups();
+  store.groups[1].playlists.clear();
+  store.currentPlaylist = 1;
+  ExpectStep(StepToNextPlaylist(store), 1, 0);
+  store.currentGroup = 1;
+  store.currentPlaylist = 0;
+  ExpectStep(StepToNextPlaylist(store), 2, 0);
+  ExpectStep(StepToPriorPlaylist(store), 0, 0);
+}
+
 TEST(TransportRulesTest, WithoutGroupsThereIsNowhereToStep) {
   const TCSetListStore store;
   EXPECT_FALSE(StepToNextPlaylist(store).moves);

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "model/set_list_edit.h"
+#include "playback/player_length_probe.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -87,6 +88,14 @@ TEST_F(TransportTest, PlayOfAMissingFileSaysSoAndChangesNoState) {
   EXPECT_FALSE(transport.State().playing);
   EXPECT_FALSE(transport.State().started);
   EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, AnEntryWithoutAPathIsMissingAndNeverHandedToThePlayer) {
+  Song(0).SetPath(u"");
+  transport.Play();
+  EXPECT_THAT(player.Calls(), IsEmpty());
+  EXPECT_EQ(Song(0).status, TCSongStatus::NotFound);
+  EXPECT_FALSE(transport.State().playing);
 }
 
 TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndAdvances) {
@@ -271,11 +280,46 @@ TEST_F(TransportTest, StopNeverAdvances) {
   EXPECT_EQ(store.currentSong, 0);
 }
 
+TEST_F(TransportTest, AfterPlayAndAfterStopTheCurrentLyricLineIsDrawnAgain) {
+  TCLyricSheet sheet;
+  sheet.Add({u"one", 0, kEndOfLyrics, 0});
+  Song(0).lyrics = TCSongLyrics(sheet);
+  transport.Play();
+  Run(1.0);
+  ASSERT_EQ(transport.State().lastLyricIndex, 0);
+  transport.Play();  // clears the messages
+  EXPECT_EQ(transport.State().lastLyricIndex, -1);
+  Run(0.3);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone"));
+  transport.Stop();
+  EXPECT_EQ(transport.State().lastLyricIndex, -1);
+}
+
 TEST_F(TransportTest, ADurationThatFailsIsStoredAsNothing) {
   Song(0).time = u"03:25";
   transport.RefreshCurrentSongTime();  // nothing is loaded
   EXPECT_EQ(Song(0).time, u"00:00");
   EXPECT_THAT(display.calls, Contains("Time 0 00:00"));
+}
+
+TEST_F(TransportTest, ASongThatCannotBePlayedTakesNoTimeAndIsAskedForNone) {
+  player.SetSong(u"C:\\a1.mp3", {.playable = false});
+  Song(0).time = u"03:25";
+  transport.Play();
+  Run(0.6);
+  EXPECT_EQ(Song(0).time, u"00:00");
+  EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, ATimeWithoutARowToStandInIsAskedForUntilThereIsOne) {
+  transport.Play();
+  store.currentSong = -1;
+  Run(0.6);
+  EXPECT_TRUE(transport.State().refreshSongTime);
+  store.currentSong = 1;
+  Run(0.3);
+  EXPECT_FALSE(transport.State().refreshSongTime);
+  EXPECT_EQ(Song(1).time, u"00:10");
 }
 
 TEST_F(TransportTest, AChangedSongTimeMovesTheTotal) {
@@ -285,6 +329,7 @@ TEST_F(TransportTest, AChangedSongTimeMovesTheTotal) {
   Run(0.6);
   EXPECT_EQ(Song(0).time, u"00:10");
   EXPECT_EQ(store.groups[0].playlists[0].totalTime, u"00:40");
+  EXPECT_THAT(display.calls, Contains("Time 0 00:10"));
   EXPECT_THAT(display.calls, Contains("Total"));
   EXPECT_FALSE(transport.State().refreshSongTime);
 }
@@ -330,6 +375,17 @@ TEST_F(TransportTest, TheFirstPauseContinueAfterStoppingAPausedSongStartsItAgain
   Run(1.0);
   EXPECT_TRUE(transport.State().started);
   EXPECT_FALSE(transport.State().paused);
+}
+
+TEST_F(TransportTest, ASongContinuedJustBeforeItsEndIsSeenToEnd) {
+  transport.Play();
+  Run(1.0);
+  transport.PauseContinue();
+  player.SetPosition(10.3);
+  transport.PauseContinue();
+  Run(0.3);
+  EXPECT_FALSE(transport.State().playing);
+  EXPECT_EQ(store.currentSong, 1);
 }
 
 TEST_F(TransportTest, AnEndedSongMovesTheHighlightAndPlaysNothingByDefault) {
@@ -399,6 +455,29 @@ TEST_F(TransportTest, RecyclingFromTheMiddleOfAPlaylistStaysInIt) {
   Run(11.0);
   EXPECT_EQ(store.currentPlaylist, 0);
   EXPECT_EQ(store.currentSong, 1);
+}
+
+TEST_F(TransportTest, RecyclingWithoutAutoPlayShowsTheNextPlaylistAndPlaysNothing) {
+  settings.autoRecycle = true;
+  store.currentSong = 2;
+  transport.Play();
+  Run(11.4);
+  EXPECT_EQ(store.CurrentPosition(), (TCPlaylistPosition{0, 1}));
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 1");
+  EXPECT_FALSE(transport.State().playing);
+}
+
+TEST_F(TransportTest, RecyclingRestsAtAPlaylistWithoutSongs) {
+  settings.autoRecycle = true;
+  settings.autoPlayPlayList = true;
+  store.groups[0].playlists[1].items.clear();
+  store.currentSong = 2;
+  transport.Play();
+  Run(12.0);
+  EXPECT_EQ(store.CurrentPosition(), (TCPlaylistPosition{0, 1}));
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_FALSE(transport.State().playing);
 }
 
 TEST_F(TransportTest, ASongThatHasNotBegunIsNotTakenForEnded) {
@@ -498,7 +577,7 @@ TEST_F(TransportTest, ASelectedSongBecomesCurrentAndPlaysAtOnce) {
   EXPECT_EQ(store.lastGroupListName, u"G");
   EXPECT_EQ(store.lastSongName, u"a2.mp3");
   EXPECT_THAT(player.Calls(), ElementsAre("LoadUrl C:\\a2.mp3", "Play"));
-  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
+  EXPECT_THAT(display.calls, ElementsAre("Highlight", "Row 1", "ShowPlaylist 0 0"));
 }
 
 TEST_F(TransportTest, ASongIsSelectedSilentlyWhenItMayNotPlayOrTheOptionIsOff) {
@@ -535,6 +614,15 @@ TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsEndStartsNothing) {
   Run(12.0);
   EXPECT_EQ(store.currentSong, 0);
   EXPECT_THAT(player.Calls(), IsEmpty());
+}
+
+TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsTimeGoesIntoNoRow) {
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .opensAfter = 1.0});
+  transport.Play();
+  transport.ForgetSong();
+  Song(0).time = u"03:25";  // the next document's
+  Run(2.0);
+  EXPECT_EQ(Song(0).time, u"03:25");
 }
 
 TEST_F(TransportTest, TheSameKeyPressedTwiceStartsTheSongAnew) {
@@ -635,6 +723,21 @@ TEST_F(TransportTest, LyricsFollowThePlayingSong) {
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\ttwo"));
 }
 
+TEST_F(TransportTest, APollMeasuresBeforeItShowsLyrics) {
+  TCFakePlayer silent;
+  silent.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  TCPlayerLengthProbe probe(silent);
+  TCTransport measuring({record, files, display, messages, &player, &probe});
+  TCLyricSheet sheet;
+  sheet.Add({u"one", 0, kEndOfLyrics, 0});
+  Song(0).lyrics = TCSongLyrics(sheet);
+  measuring.Play();
+  measuring.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  measuring.OnPlayTimerTick();
+  EXPECT_EQ(measuring.TimeRun().Measured(), 1u);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone")) << "its words take the place of the time";
+}
+
 TEST_F(TransportTest, ATimeRunWithThePlayerItselfIsNeverTakenForTheEndOfASong) {
   settings.autoPlayPlayList = true;
   transport.Play();
@@ -699,6 +802,15 @@ TEST_F(TransportTest, WithoutAPlayerEveryCommandRunsWithoutEffectAndWithoutError
   EXPECT_FALSE(mute.State().paused);
   EXPECT_EQ(store.currentSong, 1);
   EXPECT_THAT(messages.lines, IsEmpty());
+}
+
+TEST_F(TransportTest, WithoutAPlayerNoSongLosesItsTime) {
+  TCTransport mute({record, files, display, messages});
+  Song(0).time = u"03:25";
+  mute.RefreshCurrentSongTime();
+  mute.Stop();
+  EXPECT_EQ(Song(0).time, u"03:25");
+  EXPECT_THAT(display.calls, IsEmpty());
 }
 
 }  // namespace

@@ -113,11 +113,9 @@ TEST_F(TCBrevantViewTest, ClearingTakesAllRowsAndLeavesTheHeader) {
   EXPECT_EQ(view.SelectedRow(), -1);
 }
 
-TEST_F(TCBrevantViewTest, ATimeIsWrittenAndAnEmptyOneIgnored) {
+TEST_F(TCBrevantViewTest, ATimeIsWrittenAndARowThatIsNotThereIsIgnored) {
   view.ShowRows(Rows(2), TCShowRows::Afresh);
   view.SetRowTime(1, u"09:59");
-  EXPECT_EQ(TimeIn(1), QStringLiteral("09:59"));
-  view.SetRowTime(1, u"");
   EXPECT_EQ(TimeIn(1), QStringLiteral("09:59"));
   view.SetRowTime(-1, u"01:01");
   view.SetRowTime(2, u"01:01");
@@ -235,6 +233,21 @@ TEST_F(TCBrevantViewTest, TheMenuKeyAsksForTheMenuAtTheSelectedRow) {
   ASSERT_EQ(menus.count(), 1);
   const QPoint place = view.viewport()->mapFromGlobal(menus.at(0).at(0).toPoint());
   EXPECT_EQ(view.rowAt(place.y()), 2);
+}
+
+TEST_F(TCBrevantViewTest, TheMenuOfARowThatIsOutOfSightOpensInsideTheView) {
+  view.ShowRows(Rows(200), TCShowRows::Afresh);
+  view.horizontalScrollBar()->setValue(50);
+  for (const int row : {0, 199}) {
+    view.SelectRow(row);
+    view.ScrollToRow(199 - row);
+    const QSignalSpy menus(&view, &TCBrevantView::contextMenuWanted);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(&view, &key);
+    ASSERT_EQ(menus.count(), 1);
+    const QPoint place = view.viewport()->mapFromGlobal(menus.at(0).at(0).toPoint());
+    EXPECT_TRUE(view.viewport()->rect().contains(place)) << row << " " << place.x() << " " << place.y();
+  }
 }
 
 // Counts the keys that the view leaves to whatever holds it.

@@ -248,6 +248,18 @@ TEST_F(TreeMouse, TheMenuKeyAsksForTheMenuAtTheSelectedNode) {
   EXPECT_EQ(tree.indexAt(place), IndexOf(first[1]));
 }
 
+TEST_F(TreeMouse, TheMenuOfANodeThatIsOutOfSightOpensInsideTheTree) {
+  tree.resize(200, 60);
+  tree.SelectNode(first[0]);
+  tree.verticalScrollBar()->setValue(tree.verticalScrollBar()->maximum());
+  ASSERT_FALSE(tree.viewport()->rect().intersects(tree.visualRect(IndexOf(first[0]))));
+  QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+  QCoreApplication::sendEvent(&tree, &key);
+  ASSERT_EQ(menus.count(), 1);
+  const QPoint place = tree.viewport()->mapFromGlobal(menus.at(0).at(0).toPoint());
+  EXPECT_TRUE(tree.viewport()->rect().contains(place)) << place.x() << " " << place.y();
+}
+
 TEST_F(TreeMouse, ThePointerSaysWhatTheMouseIsAbout) {
   mouse.Hover(Label(first[0]));
   EXPECT_EQ(Pointer(), ShapeOf(TCPointer::Row));
