@@ -38,6 +38,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
     : files(parts.files),
       libraries(parts.libraries),
       layout(parts.layoutFile, QSettings::IniFormat),
+      recentFiles(layout),
       settingsFile(parts.files, parts.folders.settings),
       record(LoadRecord(settingsFile)),
       frame(record.settings, parts.player, parts.monitor),
@@ -53,17 +54,20 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .folders = parts.folders,
                 .lengthProbe = parts.lengthProbe,
                 .repeatFields = &frame.PlayControls(),
-                .properties = &frame.Properties()}),
-      router(frame, document, help, libraries),
+                .properties = &frame.Properties(),
+                .recentFiles = &recentFiles}),
+      router(frame, document, help, recentFiles, libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
       closeGuard(frame, layout, settingsFile, record, document),
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
-  if (RestoresWindow(record.settings)) frame.RestoreLayout(layout);
+  const bool restores = RestoresWindow(record.settings);
+  if (restores) frame.RestorePlacement(layout);
   FillMenuBar(*frame.menuBar(), actions);
-  frame.Bars().Fill(actions);
+  frame.Bars().Fill(actions);  // into the rows that the window's width asks for
+  if (restores) frame.RestoreLayout(layout);
   ConnectParts();
   document.OnNewDocument();
 }
@@ -146,6 +150,12 @@ void TCBrevantApp::ConnectParts() {
           [this] { router.OnCommand(TCCommandId::PauseContinue); });
   connect(&pane, &TCWMPPaneContainer::stopWanted, this, [this] { router.OnCommand(TCCommandId::Stop); });
 
+  if (QAction* command = actions.ActionOf(TCCommandId::RecentFile)) {
+    recentFileMenu.emplace(*command, *frame.menuBar(), recentFiles);
+    connect(&*recentFileMenu, &TCRecentFileMenu::openWanted, this,
+            [this](const std::u16string& path) { document.OpenDocumentFile(path); });
+  }
+
   connect(&frame, &TCMainFrame::marksChanged, &actions, &TCCommandActions::RefreshChecks);
 }
 
@@ -156,9 +166,16 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
   firstPaint.emplace(frame, [this] {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument();
-    if (RestoresWindow(record.settings) && record.settings.liveViewMode) frame.EnterLiveView();
+    RestoreWindow();
+    fileDrops.Accept();
     TCAboutBox::Open(libraries, frame);
   });
+}
+
+void TCBrevantApp::RestoreWindow() {
+  if (!RestoresWindow(record.settings)) return;
+  frame.RestorePlacement(layout);
+  if (record.settings.liveViewMode) frame.EnterLiveView();
 }
 
 void TCBrevantApp::OpenFirstDocument() {

@@ -18,6 +18,8 @@
 #include "app/main_frame.h"
 #include "app/program_door.h"
 #include "app/qt_prompts.h"
+#include "app/recent_file_menu.h"
+#include "app/recent_files.h"
 #include "document/brevant_doc.h"
 #include "model/app_record.h"
 #include "model/program_folders.h"
@@ -53,7 +55,8 @@ class TCBrevantApp : public QObject, public TCProgramDoor {
  public:
   explicit TCBrevantApp(const TCAppParts& parts);
 
-  // Shows the main window; once it can be seen, opens the first document and shows the About box.
+  // Shows the main window; once it can be seen, opens the first document, maximises the window and enters
+  // live view as it was left, takes files that are dropped, and shows the About box.
   void InitInstance(const TCStartFile& startFile);
 
   // TCProgramDoor. A file that is wanted before the first document is opened is opened in its place.
@@ -80,10 +83,12 @@ class TCBrevantApp : public QObject, public TCProgramDoor {
   void OpenNamed(const TCStartFile& file);
   [[nodiscard]] bool IsHeldByDialog(const std::string& nativeName);
   void LoadLastFile();
+  void RestoreWindow();
 
   TCFileSystem& files;
   QStringList libraries;
   QSettings layout;
+  TCRecentFiles recentFiles;
   TCSettingsFile settingsFile;
   TCAppRecord record;
   TCMainFrame frame;
@@ -95,6 +100,7 @@ class TCBrevantApp : public QObject, public TCProgramDoor {
   TCKeyFilter keyFilter;
   TCFileDrops fileDrops;
   TCCloseGuard closeGuard;
+  std::optional<TCRecentFileMenu> recentFileMenu;  // once the menus are filled
   std::optional<TCFirstPaint> firstPaint;
   TCStartFile firstFile;
   bool firstDocumentOpened = false;

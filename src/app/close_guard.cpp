@@ -23,9 +23,22 @@ void TCCloseGuard::EndSession() {
 }
 
 void TCCloseGuard::WriteSettings() {
-  frame.SaveLayout(layout);
+  KeepLayout();
+  frame.SavePlacement(layout);
   layout.sync();
   settingsFile.SaveSettings(record);
+}
+
+// What is kept is the full layout with all four panes, never that of live view. The question that follows may
+// be cancelled, so the window is at once as it was, and nothing of it is seen.
+void TCCloseGuard::KeepLayout() {
+  if (!record.settings.liveViewMode) return frame.SaveLayout(layout);
+  const TCPaneSet::TCArrangement inLiveView = frame.Panes().Arrangement();
+  frame.setUpdatesEnabled(false);
+  frame.LeaveLiveView();
+  frame.SaveLayout(layout);
+  frame.Panes().Arrange(inLiveView);
+  frame.setUpdatesEnabled(true);
 }
 
 bool TCCloseGuard::eventFilter(QObject* /*receiver*/, QEvent* event) {

@@ -27,8 +27,9 @@ class TCCloseGuard : public QObject {
  private:
   [[nodiscard]] bool MayClose();
   void WriteSettings();
+  void KeepLayout();
 
-  const TCMainFrame& frame;
+  TCMainFrame& frame;
   QSettings& layout;
   const TCSettingsFile& settingsFile;
   const TCAppRecord& record;

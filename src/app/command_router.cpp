@@ -17,12 +17,17 @@ bool IsKeyAlone(TCCommandId command) {
 }  // namespace
 
 TCCommandRouter::TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document, TCHelp& helpCommands,
-                                 QStringList libraryNames)
-    : frame(mainFrame), doc(document), help(helpCommands), libraries(std::move(libraryNames)) {}
+                                 const TCRecentFiles& recentFiles, QStringList libraryNames)
+    : frame(mainFrame),
+      doc(document),
+      help(helpCommands),
+      recent(recentFiles),
+      libraries(std::move(libraryNames)) {}
 
 bool TCCommandRouter::Handles(TCCommandId command) const {
-  return command == TCCommandId::About || command == TCCommandId::FocusPlaylist || IsKeyAlone(command) ||
-         TCHelp::Handles(command) || TCMainFrame::Handles(command) || TCBrevantDoc::Handles(command);
+  return command == TCCommandId::About || command == TCCommandId::FocusPlaylist ||
+         command == TCCommandId::RecentFile || IsKeyAlone(command) || TCHelp::Handles(command) ||
+         TCMainFrame::Handles(command) || TCBrevantDoc::Handles(command);
 }
 
 void TCCommandRouter::OnCommand(TCCommandId command) {
@@ -30,9 +35,17 @@ void TCCommandRouter::OnCommand(TCCommandId command) {
     TCAboutBox::Open(libraries, frame);
   } else if (command == TCCommandId::FocusPlaylist) {
     frame.PlaylistView().TakeFocus();
+  } else if (command == TCCommandId::RecentFile) {
+    OpenNewestFile();
   } else if (!help.OnCommand(command) && !frame.OnCommand(command)) {
     doc.OnCommand(command);
   }
+}
+
+void TCCommandRouter::OpenNewestFile() {
+  if (recent.Paths().empty()) return;
+  const std::u16string path = recent.Paths().front();  // a save from the question may move it
+  doc.OpenDocumentFile(path);
 }
 
 bool TCCommandRouter::IsChecked(TCCommandId command) const {

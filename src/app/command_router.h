@@ -7,6 +7,7 @@
 #include "app/command_target.h"
 #include "app/help.h"
 #include "app/main_frame.h"
+#include "app/recent_files.h"
 #include "document/brevant_doc.h"
 
 namespace brevant {
@@ -15,16 +16,19 @@ class TCCommandRouter final : public TCCommandTarget {
  public:
   // `libraries` is what the About box lists.
   TCCommandRouter(TCMainFrame& mainFrame, TCBrevantDoc& document, TCHelp& helpCommands,
-                  QStringList libraries);
+                  const TCRecentFiles& recentFiles, QStringList libraries);
 
   [[nodiscard]] bool Handles(TCCommandId command) const override;
   void OnCommand(TCCommandId command) override;
   [[nodiscard]] bool IsChecked(TCCommandId command) const override;
 
  private:
+  void OpenNewestFile();
+
   TCMainFrame& frame;
   TCBrevantDoc& doc;
   TCHelp& help;
+  const TCRecentFiles& recent;
   QStringList libraries;
 };
 

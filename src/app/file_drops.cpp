@@ -9,7 +9,9 @@
 
 namespace brevant {
 
-TCFileDrops::TCFileDrops(QWidget& mainWindow) : QObject(&mainWindow), window(mainWindow) {
+TCFileDrops::TCFileDrops(QWidget& mainWindow) : QObject(&mainWindow), window(mainWindow) {}
+
+void TCFileDrops::Accept() {
   window.setAcceptDrops(true);
   window.installEventFilter(this);
 }

@@ -15,8 +15,11 @@ class TCFileDrops final : public QObject {
   Q_OBJECT
 
  public:
-  // Takes drops on `window`, which outlives this.
+  // `window` outlives this.
   explicit TCFileDrops(QWidget& window);
+
+  // From here on drops on the window are taken.
+  void Accept();
 
  Q_SIGNALS:
   // Native names in the order in which they lay in the drop. Sent when the drop is over, so that whoever

@@ -8,6 +8,7 @@
 #include "app/customize_sheet.h"
 #include "app/picture_icon.h"
 #include "app/stage_palette.h"
+#include "app/window_placement.h"
 #include "resources/icons/icon_names.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
@@ -91,6 +92,17 @@ void TCMainFrame::RestoreLayout(const QSettings& layout) {
   bars.Restore(layout);
   panes->RestoreLayout(layout);
   view->LoadColumnWidths(layout);
+}
+
+void TCMainFrame::SavePlacement(QSettings& layout) const {
+  brevant::SavePlacement(*this, layout);
+}
+
+void TCMainFrame::RestorePlacement(const QSettings& layout) {
+  const std::optional<TCWindowPlacement> saved = SavedPlacement(layout);
+  if (!saved) return;
+  panes->ExpectAnotherSize();
+  PlaceWindow(*this, *saved);
 }
 
 void TCMainFrame::PlaceOnScreen() {

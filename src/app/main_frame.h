@@ -60,6 +60,10 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   // What the user arranged by hand, for the next start.
   void SaveLayout(QSettings& layout) const;
   void RestoreLayout(const QSettings& layout);
+  void SavePlacement(QSettings& layout) const;
+  // A placement that is none changes nothing. Before the window is shown: where it will stand. Afterwards:
+  // maximised as well, if it was.
+  void RestorePlacement(const QSettings& layout);
 
   // TCFrameDisplay
   void ShowTitle(std::u16string_view name, TCModifiedMark mark) override;

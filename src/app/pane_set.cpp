@@ -1,6 +1,8 @@
 #include "app/pane_set.h"
 
 #include <QApplication>
+#include <QChildEvent>
+#include <QTabBar>
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -15,9 +17,8 @@ namespace {
 
 constexpr QSize kPaneSize(400, 200);
 constexpr int kManagerWidth = 400;
-// The panes below the playlist have a third of a tall window: three lyric lines of the usual size. The one
-// beside it has a third of a narrow window.
-constexpr int kPaneShare = 3;
+// Of a narrow window the pane beside the playlist has no more than a third.
+constexpr int kManagerShare = 3;
 // By then a window manager has maximised a window that was to be.
 constexpr std::chrono::milliseconds kSettleTime(1000);
 
@@ -50,6 +51,33 @@ bool Holds(const QWidget& pane, const QWidget* widget) {
   return widget != nullptr;
 }
 
+// The toolkit gives a tab the title of its pane as it stands, and a tab's "&" marks a key: here it is a word.
+class TCTabTexts final : public QObject {
+ public:
+  explicit TCTabTexts(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ChildPolished) {
+      QObject* child = static_cast<QChildEvent*>(event)->child();
+      if (qobject_cast<QTabBar*>(child) != nullptr) child->installEventFilter(this);
+    } else if (event->type() == QEvent::Paint) {
+      // Tabs come and go without a word; before it is painted nobody has seen one.
+      if (auto* tabs = qobject_cast<QTabBar*>(watched)) Mend(*tabs);
+    }
+    return false;
+  }
+
+ private:
+  static void Mend(QTabBar& tabs) {
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      QString text = tabs.tabText(tab);
+      text.replace(QStringLiteral("&&"), QStringLiteral("&")).replace(u'&', QStringLiteral("&&"));
+      if (text != tabs.tabText(tab)) tabs.setTabText(tab, text);
+    }
+  }
+};
+
 }  // namespace
 
 TCPaneSet::TCPaneSet(QWidget* frame) : QMainWindow(frame) {
@@ -59,6 +87,7 @@ TCPaneSet::TCPaneSet(QWidget* frame) : QMainWindow(frame) {
   CallPanesByTheirTitles();
   setAccessibleName(QStringLiteral("Playlist and panes"));
   setContextMenuPolicy(Qt::NoContextMenu);
+  new TCTabTexts(*this);
   settled.setSingleShot(true);
   connect(&settled, &QTimer::timeout, this, [this] { restored.reset(); });
 }
@@ -98,10 +127,10 @@ void TCPaneSet::ArrangeFor(QSize window) {
   splitDockWidget(properties, player, Qt::Horizontal);
   splitDockWidget(player, messages, Qt::Horizontal);
   // On a small screen the playlist keeps the most of the width.
-  resizeDocks({manager}, {std::min(kManagerWidth, window.width() / kPaneShare)}, Qt::Horizontal);
+  resizeDocks({manager}, {std::min(kManagerWidth, window.width() / kManagerShare)}, Qt::Horizontal);
   constexpr int kEach = kPaneSize.width();
   resizeDocks({properties, player, messages}, {kEach, kEach, kEach}, Qt::Horizontal);
-  resizeDocks({player}, {std::max(kPaneSize.height(), window.height() / kPaneShare)}, Qt::Vertical);
+  resizeDocks({player}, {kPaneSize.height()}, Qt::Vertical);
 }
 
 void TCPaneSet::PaneShown(const QDockWidget& pane, bool visible) {
@@ -162,6 +191,10 @@ void TCPaneSet::SaveLayout(QSettings& layout) const {
 void TCPaneSet::RestoreLayout(const QSettings& layout) {
   const QByteArray saved = KeptState(layout, LayoutName());
   if (restoreState(saved)) restored = saved;
+}
+
+void TCPaneSet::ExpectAnotherSize() {
+  if (restored && isVisible()) settled.start(kSettleTime);
 }
 
 void TCPaneSet::resizeEvent(QResizeEvent* event) {

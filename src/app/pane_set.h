@@ -60,6 +60,8 @@ class TCPaneSet : public QMainWindow {
   // A layout that is none changes nothing. Before the window is shown; a window that gets another size on its
   // way to the screen, because it is maximised, gets the layout again.
   void RestoreLayout(const QSettings& layout);
+  // The window is about to get the size that the layout was restored for.
+  void ExpectAnotherSize();
 
  Q_SIGNALS:
   // A pane was opened or closed.

@@ -139,7 +139,13 @@ void TCBrevantDoc::SetModified() {
 }
 
 void TCBrevantDoc::OpenDocumentFile(std::u16string_view path) {
-  if (SaveModified()) OnOpenDocument(path);
+  if (!SaveModified()) return;
+  OnOpenDocument(path);
+  AddToRecentFiles();
+}
+
+void TCBrevantDoc::AddToRecentFiles() {
+  if (parts.recentFiles != nullptr) parts.recentFiles->AddToRecentFileList(pathName);
 }
 
 bool TCBrevantDoc::SaveModified() {
@@ -163,7 +169,9 @@ bool TCBrevantDoc::SaveAs() {
   const std::optional<std::u16string> path = parts.prompts.ChooseDocumentToSave(pathName);
   if (!path) return false;
   pathName = *path;
-  return OnSaveDocument(pathName);
+  OnSaveDocument(pathName);
+  AddToRecentFiles();
+  return true;
 }
 
 const TCBrevantDoc::Handler* TCBrevantDoc::HandlerOf(TCCommandId command) {

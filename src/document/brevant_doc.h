@@ -12,6 +12,7 @@
 #include "document/playlist_presenter.h"
 #include "document/prompts.h"
 #include "document/properties_presenter.h"
+#include "document/recent_file_list.h"
 #include "document/set_list_editor.h"
 #include "document/song_check.h"
 #include "document/song_placement.h"
@@ -40,6 +41,7 @@ struct TCDocumentParts {
   TCLengthProbe* lengthProbe = nullptr;       // null: song times are measured with the player itself
   TCRepeatFields* repeatFields = nullptr;     // null: there is no repeat range
   TCPropertiesDisplay* properties = nullptr;  // null: there is no properties pane
+  TCRecentFileList* recentFiles = nullptr;    // null: nobody remembers
 };
 
 class TCBrevantDoc {
@@ -137,6 +139,7 @@ class TCBrevantDoc {
   void ShowTreeSelection();
   void MakePlaylistCurrent(TCPlaylistPosition playlist);
   [[nodiscard]] TCEditParts EditParts();
+  void AddToRecentFiles();
   // False when the user cancelled.
   bool Save();
   bool SaveAs();

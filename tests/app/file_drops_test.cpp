@@ -18,6 +18,7 @@ class FileDrops : public testing::Test {
   FileDrops() {
     QObject::connect(&drops, &TCFileDrops::filesDropped,
                      [this](const QList<QByteArray>& names) { dropped.append(names); });
+    drops.Accept();
   }
 
   // True when the window takes it.
@@ -38,6 +39,14 @@ class FileDrops : public testing::Test {
   TCFileDrops drops{window};
   QList<QByteArray> dropped;
 };
+
+TEST(FileDropsAtTheStart, NothingIsTakenBeforeTheProgramIsReadyForIt) {
+  QWidget window;
+  TCFileDrops drops(window);
+  EXPECT_FALSE(window.acceptDrops());
+  drops.Accept();
+  EXPECT_TRUE(window.acceptDrops());
+}
 
 TEST_F(FileDrops, FilesComeInTheirOrderOnceTheDropIsOver) {
   EXPECT_TRUE(window.acceptDrops());

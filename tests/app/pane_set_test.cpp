@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstddef>
@@ -123,7 +124,7 @@ TEST_F(PaneSet, AFirstStartHasTheManagerAtTheLeftAndThreePanesBelow) {
   EXPECT_LT(place(Id::PlayerPane).right(), place(Id::MessagePane).left());
   for (const Id id : {Id::PropertiesPane, Id::PlayerPane, Id::MessagePane}) {
     EXPECT_GE(place(id).width(), 400);
-    EXPECT_GE(place(id).height(), 200);
+    EXPECT_EQ(place(id).height(), 200);
     EXPECT_GT(place(id).top(), own.playlist.geometry().bottom());
     EXPECT_EQ(place(id).bottom(), own.panes.height() - 1);
   }
@@ -183,6 +184,21 @@ TEST_F(PaneSet, APaneBehindAnotherTabIsOpen) {
   EXPECT_FALSE(own.player.visibleRegion().isEmpty()) << "an opened pane is seen";
   EXPECT_TRUE(own.messages.visibleRegion().isEmpty());
   EXPECT_TRUE(own.panes.IsOpen(Id::MessagePane));
+}
+
+TEST_F(PaneSet, ATabHasTheWholeTitleOfItsPaneAndNoKey) {
+  own.Show();
+  for (const Id id : {Id::PropertiesPane, Id::PlayerPane}) {
+    own.panes.tabifyDockWidget(&own.Pane(Id::MessagePane), &own.Pane(id));
+    QCoreApplication::processEvents();
+    QStringList texts;
+    for (const auto* bar : own.panes.findChildren<QTabBar*>()) {
+      for (int tab = 0; tab < bar->count(); ++tab) texts.append(bar->tabText(tab));
+    }
+    EXPECT_TRUE(texts.contains(QStringLiteral("Brevant Information && Lyrics")))
+        << texts.join(u'|').toStdString();
+    EXPECT_TRUE(texts.contains(own.Pane(id).windowTitle()));
+  }
 }
 
 TEST_F(PaneSet, LiveViewLeavesThePlaylistAlone) {

@@ -24,6 +24,12 @@ constexpr std::u16string_view kShowText =
     u"\"Sets\" \"One\" \"C:\\a.mp3\" 03:00\r\n\"Sets\" \"One\" \"C:\\b.mp3\" 04:00\r\n"
     u"\"Sets\" \"Two\" \"C:\\c.mp3\" 01:00\r\n";
 
+class TCRecentFileLog final : public TCRecentFileList {
+ public:
+  void AddToRecentFileList(std::u16string_view path) override { paths.emplace_back(path); }
+  std::vector<std::u16string> paths;
+};
+
 class BrevantDocTest : public testing::Test {
  protected:
   BrevantDocTest() {
@@ -40,17 +46,18 @@ class BrevantDocTest : public testing::Test {
   TCFakeFrame frame;
   TCFakePrompts prompts;
   TCFakeRepeatFields repeatFields;
-  TCBrevantDoc document{{record,
-                         files,
-                         &player,
-                         view,
-                         tree,
-                         messages,
-                         frame,
-                         prompts,
-                         {u"", u"", u"\\state\\recovery\\"},
-                         nullptr,
-                         &repeatFields}};
+  TCRecentFileLog recent;
+  TCBrevantDoc document{{.record = record,
+                         .files = files,
+                         .player = &player,
+                         .playlistView = view,
+                         .treeView = tree,
+                         .messages = messages,
+                         .frame = frame,
+                         .prompts = prompts,
+                         .folders = {u"", u"", u"\\state\\recovery\\"},
+                         .repeatFields = &repeatFields,
+                         .recentFiles = &recent}};
 };
 
 TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
@@ -127,6 +134,32 @@ TEST_F(BrevantDocTest, OpeningTheOpenFileReadsItFromDiskAgain) {
   document.OpenDocumentFile(kShow);
   ASSERT_EQ(view.rows.size(), 1u);
   EXPECT_EQ(view.rows[0].texts.name, u"c.mp3");
+}
+
+TEST_F(BrevantDocTest, OnlyWhatIsOpenedThroughTheProgramOrSavedUnderANewNameIsARecentFile) {
+  document.OnOpenDocument(kShow);  // as the last file is at a start
+  document.OnCommand(TCCommandId::FileSave);
+  EXPECT_THAT(recent.paths, IsEmpty());
+  document.OpenDocumentFile(kShow);
+  EXPECT_THAT(recent.paths, ElementsAre(kShow));
+  document.SetModified();
+  prompts.saveAnswers = {TCSaveAnswer::Cancel};
+  document.OpenDocumentFile(u"D:\\Docs\\other.brv");
+  prompts.saveAsAnswers = {std::nullopt, std::u16string(u"D:\\Docs\\copy.brv")};
+  document.OnCommand(TCCommandId::FileSaveAs);
+  EXPECT_THAT(recent.paths, ElementsAre(kShow)) << "cancelled";
+  document.OnCommand(TCCommandId::FileSaveAs);
+  EXPECT_THAT(recent.paths, ElementsAre(kShow, u"D:\\Docs\\copy.brv"));
+}
+
+TEST_F(BrevantDocTest, TheOpenFileIsNotReadAgainWhileItsUnsavedChangesAreHeldOnTo) {
+  document.OpenDocumentFile(kShow);
+  document.SetModified();
+  files.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\c.mp3\" 01:00\r\n");
+  prompts.saveAnswers = {TCSaveAnswer::Cancel};
+  document.OpenDocumentFile(kShow);
+  EXPECT_EQ(view.rows.size(), 2u);
+  EXPECT_TRUE(document.IsModified());
 }
 
 TEST_F(BrevantDocTest, UnsavedChangesAreAskedForBeforeTheyWouldBeLost) {

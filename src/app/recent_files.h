@@ -1,0 +1,42 @@
+// The documents used last, newest first, kept in the layout file's section "Recent File List" as "File1" to
+// "File8". Written as soon as it changes, so that a killed program has lost none. TCRecentFileMenu shows it.
+// User-interface thread only.
+#pragma once
+
+#include <QObject>
+#include <QSettings>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/recent_file_list.h"
+
+namespace brevant {
+
+inline constexpr std::size_t kRecentFiles = 8;
+
+class TCRecentFiles final : public QObject, public TCRecentFileList {
+  Q_OBJECT
+
+ public:
+  // Reads the list from `layout`, which outlives this. What cannot be in it is left out.
+  explicit TCRecentFiles(QSettings& layout);
+
+  // Model paths. None is there twice, also not in other upper and lower case.
+  [[nodiscard]] const std::vector<std::u16string>& Paths() const { return paths; }
+
+  // TCRecentFileList
+  void AddToRecentFileList(std::u16string_view path) override;
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  void Enter(std::u16string_view path);
+  void Write();
+
+  QSettings& layout;
+  std::vector<std::u16string> paths;
+};
+
+}  // namespace brevant
