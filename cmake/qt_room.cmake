@@ -9,5 +9,7 @@ function(brevant_qt_room name)
   target_compile_definitions(brevant_${name} PRIVATE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
     QT_NO_FOREACH QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
+  # Most of what a file here takes to compile is the toolkit's headers.
+  target_precompile_headers(brevant_${name} PRIVATE <QtWidgets>)
   target_link_libraries(brevant_${name} PUBLIC ${ARG_USES} Qt6::Widgets PRIVATE brevant_warnings)
 endfunction()
