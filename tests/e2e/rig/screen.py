@@ -96,6 +96,16 @@ def window_area(window):
     return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")) if values else None
 
 
+def active_window():
+    return subprocess.run(["xdotool", "getactivewindow"], check=True, capture_output=True, text=True).stdout.strip()
+
+
+def place_window(window, x, y, width, height):
+    """Asks the window manager to give the window this place and size."""
+    subprocess.run(["xdotool", "windowsize", window, str(width), str(height)], check=True)
+    subprocess.run(["xdotool", "windowmove", window, str(x), str(y)], check=True)
+
+
 def point_at(x, y):
     subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
 
