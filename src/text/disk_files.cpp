@@ -43,7 +43,7 @@ bool TCDiskFiles::FileExists(std::u16string_view path) {
   return OpenForReading(path, Expect::Found).file.IsOpen();
 }
 
-void TCDiskFiles::Ask(std::function<void(TCFileSystem& disk)> question) {
+void TCDiskFiles::Ask(const std::function<void(TCFileSystem& disk)>& question) {
   const bool asked = questions.Start([question, nativePaths = paths] {
     TCDiskFiles disk(nativePaths);
     question(disk);

@@ -26,7 +26,7 @@ class TCDiskFiles final : public TCFileSystem {
 
   [[nodiscard]] bool FileExists(std::u16string_view path) override;
   // On a thread that nobody waits for.
-  void Ask(std::function<void(TCFileSystem& disk)> question) override;
+  void Ask(const std::function<void(TCFileSystem& disk)>& question) override;
   [[nodiscard]] std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override;
 
   // Also false for a file that is write-protected, and for one in a folder that takes no new file: the new

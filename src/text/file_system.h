@@ -21,7 +21,7 @@ class TCFileSystem {
   // For whoever must not wait for a disk that has stopped answering: `question` runs at once, later, or never
   // to its end, on a thread and with a file system of its own; it owns what it uses. Waits for nothing. See
   // AskDisk.
-  virtual void Ask(std::function<void(TCFileSystem& disk)> question) { question(*this); }
+  virtual void Ask(const std::function<void(TCFileSystem& disk)>& question) { question(*this); }
 
   // All bytes of the file; empty when it is no readable regular file, when reading breaks off, or when it
   // holds more than `maxBytes`.

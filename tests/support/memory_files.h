@@ -72,9 +72,9 @@ class TCMemoryFiles final : public TCFileSystem {
     return Readable(path) != nullptr;
   }
 
-  void Ask(std::function<void(TCFileSystem& disk)> question) override {
+  void Ask(const std::function<void(TCFileSystem& disk)>& question) override {
     if (!hangs) return question(*this);
-    questions.push_back(std::move(question));
+    questions.push_back(question);
   }
 
   // The disk no longer hangs: whoever asked meanwhile gets the answer now.

@@ -26,7 +26,8 @@ TEST(Mp3Length, OfAFileCutShortIsThatOfWhatIsLeft) {
 TEST(Mp3Length, IsFoundBehindALongTag) {
   const TCTempFolder folder;
   // A tag of 20,000 bytes: its size is written in groups of seven bits.
-  const std::string tag = std::string("ID3\x03\x00\x00\x00\x01\x1C\x20", 10) + std::string(20'000, '\0');
+  std::string tag("ID3\x03\x00\x00\x00\x01\x1C\x20", 10);
+  tag.append(20'000, '\0');
   const auto file = folder.Write("tag.mp3", tag + BytesOf(SongFile("mark_vbr.mp3")));
   EXPECT_NEAR(MeasureMp3Length(file).value_or(-1.0), 30.1, kPadding);
 }
