@@ -380,7 +380,12 @@ TEST_F(Tree, EveryLevelHasItsPictureAndTheSelectedNodeAnother) {
     QPixmap picture(23, 19);
     picture.fill(QColor(200, 10 + i * 40, 0));
     QIcon& icon = pictures[static_cast<std::size_t>(i)];
-    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) icon.addPixmap(picture, mode);
+    QPixmap ofAPressedButton(23, 19);
+    ofAPressedButton.fill(Qt::white);
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) {
+      icon.addPixmap(picture, mode);
+      icon.addPixmap(ofAPressedButton, mode, QIcon::On);
+    }
   }
   tree.SetPictures(pictures);
   OpenAll();
