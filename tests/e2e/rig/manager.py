@@ -93,8 +93,9 @@ class Manager:
         self.wait_for_selected(name)
 
     def below_the_entries(self):
+        """Below the few entries of a flow, with room on the display for a menu to open downwards, under the pointer."""
         left, top, width, height = tree.area(self.stage.program.wait_for("tree", "Play List Manager"))
-        return left + width // 2, top + height - 20
+        return left + width // 2, top + height * 2 // 3
 
     def unfold(self, name):
         """Clicks the arrow before an entry."""
