@@ -8,11 +8,11 @@
 #include <utility>
 #include <vector>
 
-#include "app/about_box.h"
-#include "app/command_menus.h"
-#include "app/picture_icon.h"
-#include "app/refused_name.h"
-#include "app/tree_keys.h"
+#include "app/commands/command_menus.h"
+#include "app/commands/tree_keys.h"
+#include "app/dialogs/about_box.h"
+#include "app/dialogs/refused_name.h"
+#include "app/look/picture_icon.h"
 #include "views/text_conversion.h"
 
 namespace brevant {

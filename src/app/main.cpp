@@ -4,14 +4,14 @@
 #include <filesystem>
 #include <span>
 
-#include "app/app_folders.h"
 #include "app/brevant_app.h"
-#include "app/bus_probe.h"
-#include "app/command_line.h"
-#include "app/drive_folders.h"
-#include "app/running_program.h"
-#include "app/stage_style.h"
-#include "app/termination_signals.h"
+#include "app/desktop/app_folders.h"
+#include "app/desktop/bus_probe.h"
+#include "app/desktop/command_line.h"
+#include "app/desktop/drive_folders.h"
+#include "app/desktop/running_program.h"
+#include "app/desktop/termination_signals.h"
+#include "app/look/stage_style.h"
 #include "playback/gst/gst_length_probe.h"
 #include "playback/gst/gst_player.h"
 #include "playback/gst/library_versions.h"

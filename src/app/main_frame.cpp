@@ -5,9 +5,9 @@
 #include <QStatusTipEvent>
 #include <algorithm>
 
-#include "app/customize_sheet.h"
-#include "app/picture_icon.h"
-#include "app/stage_palette.h"
+#include "app/bars/customize_sheet.h"
+#include "app/look/picture_icon.h"
+#include "app/look/stage_palette.h"
 #include "app/window_placement.h"
 #include "resources/icons/icon_names.h"
 #include "resources/string_table.h"

@@ -10,12 +10,12 @@
 #include <optional>
 #include <string>
 
-#include "app/bar_set.h"
-#include "app/general_reports_tab.h"
-#include "app/pane_set.h"
-#include "app/play_controls_bar.h"
-#include "app/properties_pane.h"
-#include "app/status_line.h"
+#include "app/bars/bar_set.h"
+#include "app/bars/play_controls_bar.h"
+#include "app/panes/general_reports_tab.h"
+#include "app/panes/pane_set.h"
+#include "app/panes/properties_pane.h"
+#include "app/panes/status_line.h"
 #include "document/frame_display.h"
 #include "model/settings.h"
 #include "playback/player.h"

@@ -9,11 +9,11 @@
 #include <QMessageBox>
 #include <set>
 
-#include "app/add_play_items_dlg.h"
-#include "app/help_window.h"
-#include "dialog_answer.h"
+#include "app/dialog_answer.h"
+#include "app/dialogs/add_play_items_dlg.h"
+#include "app/help/help_window.h"
+#include "app/whole_program.h"
 #include "resources/command_table.h"
-#include "whole_program.h"
 
 namespace brevant {
 namespace {

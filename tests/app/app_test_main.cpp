@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
-#include "app/stage_style.h"
+#include "app/look/stage_style.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

@@ -7,10 +7,10 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "dialog_answer.h"
+#include "app/dialog_answer.h"
+#include "app/whole_program.h"
 #include "views/stage_mouse.h"
 #include "views/text_conversion.h"
-#include "whole_program.h"
 
 namespace brevant {
 namespace {

@@ -11,12 +11,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "app/about_box.h"
-#include "app/qt_keys.h"
-#include "dialog_answer.h"
+#include "app/commands/qt_keys.h"
+#include "app/dialog_answer.h"
+#include "app/dialogs/about_box.h"
+#include "app/whole_program.h"
 #include "resources/command_table.h"
 #include "views/text_conversion.h"
-#include "whole_program.h"
 
 namespace brevant {
 namespace {

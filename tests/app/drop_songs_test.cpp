@@ -9,8 +9,8 @@
 #include <QTest>
 #include <QUrl>
 
+#include "app/whole_program.h"
 #include "views/text_conversion.h"
-#include "whole_program.h"
 
 namespace brevant {
 namespace {

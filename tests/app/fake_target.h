@@ -4,7 +4,7 @@
 #include <set>
 #include <vector>
 
-#include "app/command_target.h"
+#include "app/commands/command_target.h"
 
 namespace brevant {
 

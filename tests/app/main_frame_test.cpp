@@ -10,7 +10,7 @@
 #include <QTextBlock>
 #include <limits>
 
-#include "app/stage_palette.h"
+#include "app/look/stage_palette.h"
 #include "support/fake_player.h"
 
 namespace brevant {

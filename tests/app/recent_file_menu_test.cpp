@@ -6,9 +6,9 @@
 #include <QMessageBox>
 #include <QTest>
 
-#include "dialog_answer.h"
+#include "app/dialog_answer.h"
+#include "app/whole_program.h"
 #include "views/text_conversion.h"
-#include "whole_program.h"
 
 namespace brevant {
 namespace {

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "dialog_answer.h"
+#include "app/dialog_answer.h"
+#include "app/whole_program.h"
 #include "views/text_conversion.h"
-#include "whole_program.h"
 
 namespace brevant {
 namespace {

@@ -10,8 +10,8 @@
 #include <optional>
 #include <string>
 
-#include "app/about_box.h"
 #include "app/brevant_app.h"
+#include "app/dialogs/about_box.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "text/ini_text.h"

@@ -1,0 +1,52 @@
+#include "app/desktop/file_drops.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QFile>
+#include <QMetaObject>
+#include <QMimeData>
+#include <QUrl>
+
+namespace brevant {
+
+TCFileDrops::TCFileDrops(QWidget& mainWindow) : QObject(&mainWindow), window(mainWindow) {}
+
+void TCFileDrops::Accept() {
+  window.setAcceptDrops(true);
+  window.installEventFilter(this);
+}
+
+QList<QByteArray> TCFileDrops::FilesIn(const QMimeData& data) {
+  QList<QByteArray> names;
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile()) names.append(QFile::encodeName(url.toLocalFile()));
+  }
+  return names;
+}
+
+bool TCFileDrops::eventFilter(QObject* watched, QEvent* event) {
+  const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
+  if (!isDrag && event->type() != QEvent::Drop) return QObject::eventFilter(watched, event);
+
+  auto& drop = *static_cast<QDropEvent*>(event);
+  const QList<QByteArray> names = FilesIn(*drop.mimeData());
+  if (names.isEmpty() || QApplication::activeModalWidget() != nullptr) {
+    drop.ignore();
+    return true;
+  }
+  drop.setDropAction(Qt::CopyAction);  // the files stay where they are, whatever the file manager offers
+  drop.accept();
+  if (!isDrag) {
+    window.activateWindow();
+    QMetaObject::invokeMethod(
+        this,
+        [this, names] {
+          // A key that came with the drop may have opened a dialog, which no drop may edit behind.
+          if (QApplication::activeModalWidget() == nullptr) Q_EMIT filesDropped(names);
+        },
+        Qt::QueuedConnection);
+  }
+  return true;
+}
+
+}  // namespace brevant

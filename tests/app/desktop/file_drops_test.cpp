@@ -1,0 +1,100 @@
+#include "app/desktop/file_drops.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+
+namespace brevant {
+namespace {
+
+class FileDrops : public testing::Test {
+ protected:
+  FileDrops() {
+    QObject::connect(&drops, &TCFileDrops::filesDropped,
+                     [this](const QList<QByteArray>& names) { dropped.append(names); });
+    drops.Accept();
+  }
+
+  // True when the window takes it.
+  bool Drop(const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    // The toolkit leads a drop to the widget that the drag entered.
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                          Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
+    QDropEvent event(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(&window, &event);
+    return event.isAccepted();
+  }
+
+  QWidget window;
+  TCFileDrops drops{window};
+  QList<QByteArray> dropped;
+};
+
+TEST(FileDropsAtTheStart, NothingIsTakenBeforeTheProgramIsReadyForIt) {
+  QWidget window;
+  TCFileDrops drops(window);
+  EXPECT_FALSE(window.acceptDrops());
+  drops.Accept();
+  EXPECT_TRUE(window.acceptDrops());
+}
+
+TEST_F(FileDrops, FilesComeInTheirOrderOnceTheDropIsOver) {
+  EXPECT_TRUE(window.acceptDrops());
+  EXPECT_TRUE(Drop({QUrl::fromLocalFile(QStringLiteral("/m/b c.mp3")),
+                    QUrl::fromLocalFile(QStringLiteral("/m/a>\u4E00.wav"))}));
+  EXPECT_TRUE(dropped.isEmpty());
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(dropped, (QList<QByteArray>{"/m/b c.mp3", "/m/a>\xE4\xB8\x80.wav"}));
+}
+
+TEST_F(FileDrops, WhatIsNoFileOfThisMachineIsLeftOut) {
+  EXPECT_FALSE(Drop({QUrl(QStringLiteral("https://example.org/a.mp3"))}));
+  EXPECT_TRUE(Drop(
+      {QUrl(QStringLiteral("https://example.org/a.mp3")), QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(dropped, QList<QByteArray>{"/m/a.mp3"});
+}
+
+TEST_F(FileDrops, ADragOfFilesIsWelcomeAndOneOfTextIsNot) {
+  QMimeData data;
+  data.setText(QStringLiteral("words"));
+  QDragEnterEvent text(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &text);
+  EXPECT_FALSE(text.isAccepted());
+  data.setUrls({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))});
+  QDragEnterEvent files(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &files);
+  EXPECT_TRUE(files.isAccepted());
+}
+
+TEST_F(FileDrops, NothingIsDroppedBehindADialog) {
+  window.show();
+  QDialog dialog(&window);
+  dialog.setModal(true);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  EXPECT_FALSE(Drop({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
+}
+
+TEST_F(FileDrops, ADialogThatOpensBeforeTheDropIsOverEndsIt) {
+  window.show();
+  EXPECT_TRUE(Drop({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
+  QDialog dialog(&window);
+  dialog.setModal(true);
+  dialog.show();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(dropped.isEmpty());
+}
+
+}  // namespace
+}  // namespace brevant

@@ -1,0 +1,160 @@
+#include "app/desktop/running_program.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QTest>
+#include <vector>
+
+#include "app/desktop/session_bus.h"
+
+namespace brevant {
+namespace {
+
+using Standing = TCRunningProgram::TCStanding;
+using Outcome = TCRunningProgram::TCHandOver;
+
+class TCFakeDoor final : public TCProgramDoor {
+ public:
+  void ComeForward() override { knocks.emplace_back("come forward"); }
+  bool OpenFromOutside(const std::string& nativeName) override {
+    knocks.push_back("open " + nativeName);
+    token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+    return opens;
+  }
+
+  bool opens = true;
+  std::vector<std::string> knocks;
+  QString token;
+};
+
+class RunningProgram : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(bus.ComesUp()); }
+
+  [[nodiscard]] QString Address() const { return QString::fromStdString(bus.Address()); }
+
+  // The second waits for an answer that this thread has to give.
+  Outcome HandOver(const TCRunningProgram& second, const std::optional<std::string>& name,
+                   const QVariantMap& platformData = {}) {
+    auto outcome = std::async(std::launch::async, [&] { return second.HandOver(name, platformData); });
+    while (outcome.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) QTest::qWait(1);
+    return outcome.get();
+  }
+
+  const TCSessionBus bus;
+  TCFakeDoor door;
+};
+
+TEST(RunningProgramWithoutABus, StandsAlone) {
+  TCRunningProgram program(QStringLiteral("disabled:"));
+  EXPECT_EQ(program.Standing(), Standing::Alone);
+  TCRunningProgram nobody(QStringLiteral("unix:path=/nowhere/bus"));
+  EXPECT_EQ(nobody.Standing(), Standing::Alone);
+}
+
+TEST_F(RunningProgram, TheSecondStartFindsTheFirstAndHandsItsFileOver) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  first.Serve(door);
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  EXPECT_EQ(HandOver(second, "/shows/Show.brv"), Outcome::Done);
+  EXPECT_EQ(door.knocks, std::vector<std::string>{"open /shows/Show.brv"});
+}
+
+TEST_F(RunningProgram, WithoutAFileItIsOnlyBroughtForward) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  first.Serve(door);
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  EXPECT_EQ(HandOver(second, {}), Outcome::Done);
+  EXPECT_EQ(door.knocks, std::vector<std::string>{"come forward"});
+}
+
+TEST_F(RunningProgram, TheSecondHearsThatADialogIsOpen) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  first.Serve(door);
+  door.opens = false;
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  EXPECT_EQ(HandOver(second, "/a.brv"), Outcome::DialogOpen);
+}
+
+TEST_F(RunningProgram, AFirstThatDoesNotAnswerIsNotWaitedForForEver) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  // This thread is the first one's, and it waits here.
+  EXPECT_EQ(second.HandOver("/a.brv", {}, std::chrono::milliseconds(50)), Outcome::NoAnswer);
+}
+
+TEST_F(RunningProgram, TheNameIsFreeWhenTheFirstHasGone) {
+  {
+    TCRunningProgram first(Address());
+    ASSERT_EQ(first.Standing(), Standing::First);
+  }
+  TCRunningProgram next(Address());
+  EXPECT_EQ(next.Standing(), Standing::First);
+}
+
+TEST_F(RunningProgram, TheLeaveToComeForwardIsPassedOnForTheLengthOfTheCall) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  first.Serve(door);
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  HandOver(second, "/a.brv", {{QStringLiteral("activation-token"), QStringLiteral("leave-1")}});
+  EXPECT_EQ(door.token, QStringLiteral("leave-1"));
+  EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+}
+
+TEST_F(RunningProgram, RefusesWhatIsNoFileOfThisMachineAndActionsThatItDoesNotHave) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  first.Serve(door);
+  const QString name = QStringLiteral("RunningProgramTest");
+  const QDBusConnection desktop = QDBusConnection::connectToBus(Address(), name);
+  const auto call = [&](const QString& method, const QVariantList& arguments) {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("org.korvel.Brevant"), QStringLiteral("/org/korvel/Brevant"),
+        QStringLiteral("org.freedesktop.Application"), method);
+    message.setArguments(arguments);
+    auto reply = std::async(std::launch::async, [&] { return desktop.call(message); });
+    while (reply.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) QTest::qWait(1);
+    return reply.get().errorName();
+  };
+  const QString invalid = QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs");
+  for (const QStringList& uris : {QStringList(), QStringList(QStringLiteral("https://example.org/a.brv")),
+                                  QStringList(QStringLiteral("file://elsewhere/a.brv"))}) {
+    EXPECT_EQ(call(QStringLiteral("Open"), {uris, QVariantMap()}), invalid);
+  }
+  EXPECT_EQ(call(QStringLiteral("ActivateAction"),
+                 {QStringLiteral("fly"), QVariant(QVariantList()), QVariantMap()}),
+            invalid);
+  EXPECT_TRUE(door.knocks.empty());
+  EXPECT_EQ(call(QStringLiteral("Activate"), {QVariantMap()}), QString());
+  EXPECT_EQ(door.knocks.size(), 1U);
+  QDBusConnection::disconnectFromBus(name);
+}
+
+TEST(FileAddress, KeepsEveryByteOfAName) {
+  for (const std::string name : {"/a b/100% #1?.brv",
+                                 "/\xC3\x9C"
+                                 "ber.brv",
+                                 "/\xFF\xFE.brv", "/a\nb.brv"}) {
+    const QString address = FileAddress(name);
+    EXPECT_TRUE(address.startsWith(QStringLiteral("file:///"))) << address.toStdString();
+    EXPECT_EQ(FileNameOf(address), name);
+  }
+  EXPECT_EQ(FileAddress("/a b.brv"), QStringLiteral("file:///a%20b.brv"));
+  EXPECT_EQ(FileNameOf(QStringLiteral("file://localhost/a.brv")), "/a.brv");
+  EXPECT_EQ(FileNameOf(QStringLiteral("/a.brv")), "");
+}
+
+}  // namespace
+}  // namespace brevant
