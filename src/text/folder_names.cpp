@@ -30,24 +30,26 @@ const char* NativeName(const std::string& folder) {
   return folder.empty() ? "." : folder.c_str();
 }
 
+// One step of the FNV-1a hash.
 std::uint32_t AddToHash(std::uint32_t hash, char16_t unit) {
-  return (hash ^ unit) * 16777619U;
+  constexpr std::uint32_t kPrime = 16777619U;
+  return (hash ^ unit) * kPrime;
 }
 
-// Empty for a name that is not UTF-8. Plain ASCII, nearly every name, is hashed without being converted.
-std::optional<std::uint32_t> FoldedHash(std::string_view name) {
-  constexpr std::uint32_t kSeed = 2166136261U;
-  std::uint32_t hash = kSeed;
-  const bool ascii = std::all_of(name.begin(), name.end(), [&hash](char byte) {
-    hash = AddToHash(hash, byte >= 'A' && byte <= 'Z' ? static_cast<char16_t>(byte - 'A' + 'a')
-                                                      : static_cast<unsigned char>(byte));
-    return static_cast<unsigned char>(byte) < 0x80;
-  });
-  if (ascii) return hash;
+char16_t LowerAscii(char letter) {
+  return static_cast<char16_t>(letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter);
+}
 
+// Of the lower-cased name; empty for one that is not UTF-8. Plain ASCII, nearly every name, is hashed without
+// being converted.
+std::optional<std::uint32_t> FoldedHash(std::string_view name) {
+  std::uint32_t hash = 2166136261U;  // FNV-1a's offset basis
+  if (IsAscii(name)) {
+    for (const char letter : name) hash = AddToHash(hash, LowerAscii(letter));
+    return hash;
+  }
   const std::optional<std::u16string> text = DecodeUtf8(name);
   if (!text) return std::nullopt;
-  hash = kSeed;
   for (const char16_t unit : *text) hash = AddToHash(hash, ToLower(unit));
   return hash;
 }
