@@ -1,5 +1,6 @@
-// The text of lyrics as it is kept: UTF-8, which holds most of them in half the room. Half a surrogate pair,
-// which UTF-8 has no place for, is kept as three bytes of its own, so that every text comes back as it was.
+// The text of lyrics as it is kept: UTF-8, which holds most of them in half the room. A lone surrogate, which
+// UTF-8 has no place for, is kept as three bytes of its own (the encoding known as WTF-8), so that every text
+// comes back as it was.
 #pragma once
 
 #include <string>

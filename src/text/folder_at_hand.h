@@ -4,11 +4,11 @@
 
 #include <dirent.h>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "text/folder_handle.h"
 #include "text/folder_names.h"
 
 namespace brevant {
@@ -28,11 +28,7 @@ class TCFolderAtHand {
   [[nodiscard]] int Descriptor() const { return dirfd(folder.get()); }
 
  private:
-  struct Close {
-    void operator()(DIR* open) const { closedir(open); }
-  };
-
-  std::unique_ptr<DIR, Close> folder;
+  TCFolderHandle folder;
   TCFolderNames names;
 };
 

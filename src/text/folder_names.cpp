@@ -1,16 +1,13 @@
 #include "text/folder_names.h"
 
-#include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
-#include <memory>
 
 #include "text/case_folding.h"
+#include "text/folder_handle.h"
 #include "text/unicode.h"
 
 namespace brevant {
@@ -21,10 +18,6 @@ namespace {
 constexpr std::int64_t kStampGrainSeconds = 3;
 
 constexpr std::uint32_t kMaxOffset = 0x7FFF'FFFF;  // names of two gigabytes
-
-struct CloseFolder {
-  void operator()(DIR* folder) const { closedir(folder); }
-};
 
 const char* NativeName(const std::string& folder) {
   return folder.empty() ? "." : folder.c_str();
@@ -67,7 +60,7 @@ TCFolderNames TCFolderNames::Read(const std::string& folder) {
   TCFolderNames result;
   // The stamp is taken first: a change while the names are read shows as a newer one afterwards.
   result.stamp = StampOf(folder);
-  const std::unique_ptr<DIR, CloseFolder> handle(result.stamp ? opendir(NativeName(folder)) : nullptr);
+  const TCFolderHandle handle(result.stamp ? opendir(NativeName(folder)) : nullptr);
   if (!handle) return result;
 
   result.settled = std::time(nullptr) - result.stamp->seconds > kStampGrainSeconds;

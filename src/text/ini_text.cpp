@@ -12,7 +12,6 @@ namespace brevant {
 namespace {
 
 constexpr std::size_t kNone = std::u16string_view::npos;
-constexpr char16_t kByteOrderMark = u'\uFEFF';
 
 std::vector<std::u16string> SplitIniLines(std::u16string_view text) {
   std::vector<std::u16string> lines;

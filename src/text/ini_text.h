@@ -16,13 +16,13 @@ class TCIniText {
  public:
   TCIniText() = default;
 
-  // Reads UTF-16 little-endian with a mark, UTF-8 (with or without a mark), else Windows-1252. Never fails:
-  // what is no section and no key is kept as a line of its own. A line feed, a carriage return, or returns
-  // before a line feed end a line.
+  // Reads UTF-16 little-endian with a byte order mark, UTF-8 with or without one, else Windows-1252. Never
+  // fails: what is no section and no key is kept as a line of its own. A line feed, a carriage return, or
+  // returns before a line feed end a line.
   [[nodiscard]] static TCIniText Parse(std::string_view bytes);
 
-  // UTF-8 without a mark, carriage return and line feed after every line. Lines that were not set are written
-  // as they were read: comments, blank lines and the blanks round an equals sign are the user's.
+  // UTF-8 without a byte order mark, carriage return and line feed after every line. Lines that were not set
+  // are written as they were read: comments, blank lines and the blanks round an equals sign are the user's.
   [[nodiscard]] std::string Serialize() const;
 
   // The value up to a zero character, without surrounding white space and one pair of double or single

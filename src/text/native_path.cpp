@@ -17,13 +17,7 @@ bool StartsWithDrive(std::u16string_view path) {
 }
 
 bool HasLoneSurrogate(std::u16string_view text) {
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    if ((text[at] & 0xF800) != 0xD800) continue;
-    const bool pair = (text[at] & 0x0400) == 0 && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00;
-    if (!pair) return true;
-    ++at;
-  }
-  return false;
+  return FindLoneSurrogate(text) != std::u16string_view::npos;
 }
 
 std::string WithoutTrailingSlashes(std::string_view folder) {

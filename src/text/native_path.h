@@ -11,7 +11,8 @@ namespace brevant {
 
 class TCNativePaths {
  public:
-  // Drive letter (upper case) to the native folder that stands for it, without a trailing slash.
+  // Drive letter (upper case) to the native folder that stands for it, with or without a trailing slash. An
+  // empty folder stands for nothing.
   using DriveFolders = std::map<char, std::string>;
 
   TCNativePaths() = default;

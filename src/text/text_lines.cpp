@@ -10,8 +10,6 @@ namespace brevant {
 
 namespace {
 
-constexpr char16_t kMark = u'\uFEFF';
-
 enum class Marks { Drop, Keep };
 
 template <class Char>
@@ -30,7 +28,7 @@ void VisitLines(std::basic_string_view<Char> text, Marks marks, const Visit& vis
     const bool finished = at < text.size();
 
     if (dropsMarks) {
-      while (begin < at && std::char_traits<Char>::to_int_type(text[begin]) == kMark) ++begin;
+      while (begin < at && std::char_traits<Char>::to_int_type(text[begin]) == kByteOrderMark) ++begin;
       dropsMarks = begin == at;
     }
     if (finished || (first && begin < at)) visit(text.substr(begin, at - begin));

@@ -18,11 +18,11 @@ using TextLines = std::vector<std::u16string>;
 // A file past this size is no text line file of ours and is refused like one that cannot be opened.
 inline constexpr std::size_t kMaxTextFileBytes = std::size_t{256} << 20;
 
-// UTF-16 little-endian. Marks (U+FEFF) before the first character are dropped; an odd last byte is ignored.
+// UTF-16 little-endian. Byte order marks before the first character are dropped; an odd last byte is ignored.
 // An unfinished last line is kept only when it is the only line.
 [[nodiscard]] TextLines SplitUtf16Lines(std::string_view bytes);
 
-// The 8-bit twin: the same line rules, no mark rule (a UTF-8 mark stays at the head of the first line).
+// The 8-bit twin: the same line rules, but a byte order mark stays at the head of the first line.
 [[nodiscard]] TextLines SplitAnsiLines(std::string_view bytes);
 
 // The same lines one after the other, for readers that keep none of them. A line is valid during its call.
@@ -38,7 +38,7 @@ void VisitAnsiLines(std::string_view bytes, const LineVisitor& visit);
 using ByteLineVisitor = std::function<void(std::string_view)>;
 [[nodiscard]] bool VisitUtf8Lines(std::string_view bytes, const ByteLineVisitor& visit);
 
-// Every line followed by carriage return and line feed, UTF-16 little-endian, no mark.
+// Every line followed by carriage return and line feed, UTF-16 little-endian, no byte order mark.
 [[nodiscard]] std::string JoinUtf16Lines(const TextLines& lines);
 
 // Empties `lines` and fills it from the file. False only when the file cannot be read; an empty file gives

@@ -11,13 +11,6 @@ namespace {
 
 constexpr char16_t kReplacement = u'\uFFFD';
 
-bool IsHighSurrogate(char16_t unit) {
-  return (unit & 0xFC00) == 0xD800;
-}
-bool IsLowSurrogate(char16_t unit) {
-  return (unit & 0xFC00) == 0xDC00;
-}
-
 // 0x80 to 0x9F; the rest of the code page is the same as Latin-1. Where it has no character the C1 control of
 // the same number stands, as the platform's own conversion gives it.
 constexpr std::array<char16_t, 32> kWindows1252 = {
@@ -26,9 +19,8 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     0x0090,    u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
     u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', 0x009D,    u'\u017E', u'\u0178'};
 
-// Nearly all text that comes through here is ASCII, and there is much of it, so it is looked at in words:
-// where the ASCII that stands at `at` ends.
-
+// Where the ASCII that stands at `at` ends. Nearly all text that comes through here is ASCII, and there is
+// much of it, so it is looked at in words.
 std::size_t EndOfAscii(std::string_view bytes, std::size_t at) {
   for (std::uint64_t word = 0; at + sizeof word <= bytes.size(); at += sizeof word) {
     std::memcpy(&word, bytes.data() + at, sizeof word);
@@ -48,11 +40,11 @@ std::size_t EndOfAscii(std::u16string_view text, std::size_t at) {
   return at;
 }
 
-// The length of the sequence that `lead` opens, and the least value that needs so many bytes.
+// What the first byte of a sequence says of it.
 struct Sequence {
-  std::size_t length = 0;  // 0: no lead byte
+  std::size_t length = 0;  // in bytes; 0: the byte opens none
   std::uint32_t leadBits = 0;
-  std::uint32_t least = 0;
+  std::uint32_t least = 0;  // the least value that needs so many bytes
 };
 
 Sequence SequenceOf(std::uint8_t lead) {
@@ -78,7 +70,8 @@ std::optional<CodePoint> DecodeSequence(std::string_view bytes) {
     value = value << 6 | (byte & 0x3FU);
   }
   const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
-  if (value < sequence.least || value > 0x10FFFF || surrogate) return std::nullopt;
+  const bool overlong = value < sequence.least;
+  if (overlong || surrogate || value > 0x10FFFF) return std::nullopt;
   return CodePoint{value, sequence.length};
 }
 
@@ -113,6 +106,16 @@ void AppendCodePoint(std::string& bytes, std::uint32_t codePoint) {
 }
 
 }  // namespace
+
+std::size_t FindLoneSurrogate(std::u16string_view text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (!IsHighSurrogate(text[at]) && !IsLowSurrogate(text[at])) continue;
+    const bool pair = IsHighSurrogate(text[at]) && at + 1 < text.size() && IsLowSurrogate(text[at + 1]);
+    if (!pair) return at;
+    ++at;
+  }
+  return std::u16string_view::npos;
+}
 
 std::optional<std::u16string> DecodeUtf8(std::string_view bytes) {
   // No sequence is shorter than the units it becomes.

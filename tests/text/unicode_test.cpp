@@ -86,6 +86,18 @@ TEST(Unicode, ALoneSurrogateIsWrittenAsTheReplacementCharacter) {
   EXPECT_EQ(EncodeUtf8(high + high + low), "\xEF\xBF\xBD\xF0\x9F\x8E\xB5");
 }
 
+TEST(Unicode, ASurrogateIsLoneUnlessAHighOneStandsInFrontOfALowOne) {
+  const std::u16string high(1, static_cast<char16_t>(0xD83C));
+  const std::u16string low(1, static_cast<char16_t>(0xDFB5));
+  EXPECT_EQ(FindLoneSurrogate(u""), std::u16string::npos);
+  EXPECT_EQ(FindLoneSurrogate(u"a\uD7FF\uE000" + high + low), std::u16string::npos);
+  EXPECT_EQ(FindLoneSurrogate(u"a" + high), 1U);
+  EXPECT_EQ(FindLoneSurrogate(high + u"a"), 0U);
+  EXPECT_EQ(FindLoneSurrogate(high + low + low), 2U);
+  EXPECT_EQ(FindLoneSurrogate(high + high + low), 0U);
+  EXPECT_EQ(FindLoneSurrogate(low + high), 0U);
+}
+
 TEST(Unicode, EveryCodePointComesBack) {
   for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
     if (codePoint >= 0xD800 && codePoint <= 0xDFFF) continue;
