@@ -61,8 +61,7 @@ std::optional<std::string> TCDiskFiles::ReadFile(std::u16string_view path, std::
   std::string bytes(expected + 1, '\0');
   std::size_t length = 0;
   while (expected == 0 || length != expected) {
-    const ssize_t got = read(opened.file.Get(), bytes.data() + length, bytes.size() - length);
-    if (got < 0 && errno == EINTR) continue;
+    const ssize_t got = opened.file.Read(bytes.data() + length, bytes.size() - length);
     if (got < 0) return std::nullopt;
     if (got == 0) break;
     length += static_cast<std::size_t>(got);

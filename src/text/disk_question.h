@@ -21,14 +21,13 @@ inline constexpr std::chrono::milliseconds kDiskPatience(100);
 template <typename Question>
 [[nodiscard]] auto AskDisk(TCFileSystem& files, Question question) {
   using Answer = std::invoke_result_t<Question&, TCFileSystem&>;
-  const auto promise = std::make_shared<std::promise<Answer>>();
-  std::future<Answer> answer = promise->get_future();
-  files.Ask([promise, asked = std::move(question)](TCFileSystem& disk) mutable {
-    promise->set_value(asked(disk));
-  });
+  const auto task = std::make_shared<std::packaged_task<Answer(TCFileSystem&)>>(std::move(question));
+  std::future<Answer> answer = task->get_future();
+  files.Ask([task](TCFileSystem& disk) { (*task)(disk); });
   return answer;
 }
 
+// Waits for the answer for as long as `patience`; 0 does not wait.
 template <typename Answer>
 [[nodiscard]] bool HasCome(const std::future<Answer>& answer, std::chrono::milliseconds patience) {
   return answer.wait_for(patience) == std::future_status::ready;

@@ -37,9 +37,4 @@ bool TCJobThreads::WaitUntilDone(double seconds) const {
                                  [this] { return count->running == 0; });
 }
 
-int TCJobThreads::Running() const {
-  const std::lock_guard lock(count->mutex);
-  return count->running;
-}
-
 }  // namespace brevant

@@ -14,10 +14,8 @@ class TCJobThreads {
   // False when the system has no more threads; the job is then gone.
   bool Start(std::function<void()> job);
 
-  // Until no job runs any more, at most `seconds`. True when none does.
+  // Waits until no job runs any more, at most `seconds`. True when none does.
   bool WaitUntilDone(double seconds) const;
-
-  [[nodiscard]] int Running() const;
 
  private:
   struct Count {

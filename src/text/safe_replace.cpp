@@ -87,9 +87,8 @@ class TCNewFile {
   [[nodiscard]] bool WriteAllOf(const TCFileHandle& source) const {
     std::string block(kBlockBytes, '\0');
     while (true) {
-      const ssize_t got = read(source.Get(), block.data(), block.size());
+      const ssize_t got = source.Read(block.data(), block.size());
       if (got == 0) return true;
-      if (got < 0 && errno == EINTR) continue;
       if (got < 0 || !Write(std::string_view(block).substr(0, static_cast<std::size_t>(got)))) return false;
     }
   }

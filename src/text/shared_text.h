@@ -15,10 +15,9 @@ namespace brevant {
 class TCSharedText {
  public:
   TCSharedText() = default;
-  TCSharedText(std::u16string value)  // NOLINT(google-explicit-constructor): a text like any other
-      : held(value.empty() ? nullptr : new Held{std::move(value)}) {}
-  TCSharedText(const char16_t* value)
-      : TCSharedText(std::u16string(value)) {}  // NOLINT(google-explicit-constructor)
+  // Not explicit: a text like any other.
+  TCSharedText(std::u16string value) : held(value.empty() ? nullptr : new Held{std::move(value)}) {}
+  TCSharedText(const char16_t* value) : TCSharedText(std::u16string(value)) {}
 
   TCSharedText(const TCSharedText& other) : held(other.held) {
     if (held != nullptr) held->holders.fetch_add(1, std::memory_order_relaxed);
@@ -36,7 +35,7 @@ class TCSharedText {
     static const std::u16string kEmpty;
     return held == nullptr ? kEmpty : held->text;
   }
-  operator std::u16string_view() const { return str(); }  // NOLINT(google-explicit-constructor)
+  operator std::u16string_view() const { return str(); }
   [[nodiscard]] bool empty() const { return held == nullptr; }
   [[nodiscard]] std::size_t size() const { return held == nullptr ? 0 : held->text.size(); }
 
@@ -58,6 +57,7 @@ class TCSharedText {
 class TCSharedTexts {
  public:
   [[nodiscard]] TCSharedText Share(std::u16string_view text) {
+    // A comparison of blocks of memory; == would go through UTF-16 unit by unit.
     if (std::equal(text.begin(), text.end(), last.str().begin(), last.str().end())) return last;
     const auto known = texts.find(text);
     if (known != texts.end()) return last = known->second;

@@ -19,8 +19,7 @@ namespace {
 bool Read(const TCFileHandle& file, std::string& bytes, std::size_t limit) {
   char block[64 * 1024];
   while (limit > 0) {
-    const ssize_t got = ::read(file.Get(), block, std::min(limit, sizeof block));
-    if (got < 0 && errno == EINTR) continue;
+    const ssize_t got = file.Read(block, std::min(limit, sizeof block));
     if (got <= 0) return got == 0;
     bytes.append(block, static_cast<std::size_t>(got));
     limit -= static_cast<std::size_t>(got);
