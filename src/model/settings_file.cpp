@@ -1,7 +1,7 @@
 #include "model/settings_file.h"
 
-#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "text/case_folding.h"
 #include "text/ini_text.h"
@@ -134,20 +134,8 @@ void ReadRow(const TCIniText& ini, const Row& row, TCAppRecord& record) {
   }
 }
 
-// A value as it has to stand in the file to be read as `text`. Reading removes blanks round a value and one
-// pair of quotes; a text that has its own is wrapped once more. A line break, which a name out of a damaged
-// document may hold, becomes a blank: what stands behind it would be read as keys and headings.
-std::u16string ProtectedText(std::u16string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](char16_t unit) { return unit == u'\r' || unit == u'\n'; }, u' ');
-  if (text.empty()) return text;
-  const auto isBlank = [](char16_t unit) { return unit == u' ' || unit == u'\t'; };
-  const bool quoted =
-      text.size() > 1 && text.front() == text.back() && (text.front() == u'"' || text.front() == u'\'');
-  if (!quoted && !isBlank(text.front()) && !isBlank(text.back())) return text;
-  return u'"' + text + u'"';
-}
-
+// A text is protected because a name out of a damaged document may hold a line break, and what stood behind
+// it would be read as keys and headings.
 std::u16string WrittenValue(const Row& row, const TCAppRecord& record) {
   switch (row.rule) {
     case Rule::UnlessNo:
@@ -155,14 +143,14 @@ std::u16string WrittenValue(const Row& row, const TCAppRecord& record) {
     case Rule::OnlyYesElseNo:
       return row.boolean.of(record) ? u"Yes" : u"No";
     case Rule::Text:
-      return ProtectedText(row.text.of(record));
+      return TCIniText::Protected(row.text.of(record));
     case Rule::Number:
     case Rule::LyricsFontSize:
       return FormatDecimal(row.number.of(record));
     case Rule::LastLoadedFile:
       break;
   }
-  return ProtectedText(record.setLists.documentFolder + record.setLists.documentFileName);
+  return TCIniText::Protected(record.setLists.documentFolder + record.setLists.documentFileName);
 }
 
 }  // namespace

@@ -51,10 +51,13 @@ std::optional<std::u16string_view> ValueOf(std::u16string_view line) {
   return Trim(line.substr(0, line.find(u'\0')));
 }
 
+bool IsQuoted(std::u16string_view value) {
+  return value.size() >= 2 && value.front() == value.back() &&
+         (value.front() == u'"' || value.front() == u'\'');
+}
+
 std::u16string_view WithoutQuotes(std::u16string_view value) {
-  const bool quoted =
-      value.size() >= 2 && value.front() == value.back() && (value.front() == u'"' || value.front() == u'\'');
-  return quoted ? value.substr(1, value.size() - 2) : value;
+  return IsQuoted(value) ? value.substr(1, value.size() - 2) : value;
 }
 
 std::u16string_view WithoutTrailingBlanks(std::u16string_view text) {
@@ -133,6 +136,13 @@ void TCIniText::SetString(std::u16string_view section, std::u16string_view key, 
   std::size_t at = range->end;
   while (at > range->begin && Trim(lines[at - 1]).empty()) --at;
   InsertText(at, std::u16string(TrimLeft(key)).append(u"=").append(value));
+}
+
+std::u16string TCIniText::Protected(std::u16string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char16_t unit) { return unit == u'\r' || unit == u'\n'; }, u' ');
+  const bool losesNothing = Trim(text).size() == text.size() && !IsQuoted(text);
+  return losesNothing ? text : u'"' + text + u'"';
 }
 
 void TCIniText::DeleteKey(std::u16string_view section, std::u16string_view key) {

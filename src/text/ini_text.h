@@ -41,6 +41,11 @@ class TCIniText {
   // section at the end. White space before the key and the value is not written. A value with a line break in
   // it spills into lines of its own, and GetString reads what a reader of the file will read.
   void SetString(std::u16string_view section, std::u16string_view key, std::u16string_view value);
+
+  // A text as it has to be set so that GetString gives it back: one pair of quotes more round a text that
+  // begins or ends with white space or is quoted itself, blanks for its line breaks.
+  [[nodiscard]] static std::u16string Protected(std::u16string text);
+
   void DeleteKey(std::u16string_view section, std::u16string_view key);
 
   // The first such section, with its comments.

@@ -106,6 +106,18 @@ TEST(IniText, AValueWithALineBreakReadsTheSameBeforeAndAfterWriting) {
   EXPECT_EQ(ini.GetInt(u"T", u"x", 0), 2);
 }
 
+TEST(IniText, AProtectedTextIsGotBackAsItWasButForItsLineBreaks) {
+  TCIniText ini;
+  for (const std::u16string text : {u"", u"a", u"a b", u" a", u"a\t", u"\va\f", u"\"", u"\"\"", u"\"a\"",
+                                    u"'a'", u"\"a'", u" \"a\" ", u"; a"}) {
+    ini.SetString(u"S", u"k", TCIniText::Protected(text));
+    EXPECT_EQ(TCIniText::Parse(ini.Serialize()).GetString(u"S", u"k", u"DEF"), text);
+  }
+  ini.SetString(u"S", u"k", TCIniText::Protected(u"a\r\n[T]\nx=2\r"));
+  EXPECT_EQ(ini.GetString(u"S", u"k", u""), u"a  [T] x=2 ");
+  EXPECT_EQ(ini.Serialize(), "[S]\r\nk=\"a  [T] x=2 \"\r\n");
+}
+
 TEST(IniText, AMarkAtTheHeadIsNoTextWhereverItCameFrom) {
   EXPECT_EQ(TCIniText::Parse("\xEF\xBB\xBF\xEF\xBB\xBF[S]\r\n").Serialize(), "[S]\r\n");
   auto ini = TCIniText::Parse("a=1\r\n\xEF\xBB\xBF[S]\r\nk=1\r\n");
