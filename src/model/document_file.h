@@ -22,7 +22,7 @@ class TCDocumentFile {
 
   // A first line with "brvgl" anywhere in it makes a document of the folder form.
   bool LoadFolderDocument(std::u16string_view path);
-  // `bytes` are the whole file.
+  // `bytes` are the whole file. Always true: every line is a song.
   bool LoadFlatDocument(std::string_view bytes);
 
   // Writes the flat form. False when that failed, and also when there is no song to write: the file is then

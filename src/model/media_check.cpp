@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "text/case_folding.h"
-#include "text/path_parts.h"
 #include "text/quoted_words.h"
 
 namespace brevant {
@@ -21,19 +20,6 @@ bool IsValidMediaExtension(TCSetListStore& store, std::u16string_view extension)
 
 TCSongStatus SongFileStatus(TCFileSystem& files, std::u16string_view path) {
   return files.FileExists(path) ? TCSongStatus::Found : TCSongStatus::NotFound;
-}
-
-void SetFolderForAllSongs(TCPlayList& playlist, std::u16string_view folder) {
-  const TCSharedText sharedFolder{std::u16string(folder)};
-  for (TCPlayListItem& song : playlist.items) song.folder = sharedFolder;
-}
-
-void SetExtensionForAllSongs(TCPlayList& playlist, std::u16string_view fileName) {
-  const TCSharedText extension = ExtensionPart(fileName);
-  for (TCPlayListItem& song : playlist.items) {
-    song.fileName = ReplaceExtension(song.fileName, extension);
-    song.extension = extension;
-  }
 }
 
 }  // namespace brevant

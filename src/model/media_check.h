@@ -20,10 +20,4 @@ namespace brevant {
 // Found when the file can be opened for reading, else NotFound.
 [[nodiscard]] TCSongStatus SongFileStatus(TCFileSystem& files, std::u16string_view path);
 
-// How a set list is repaired whose songs moved to another folder (`folder` with its trailing backslash) or
-// were converted to another type (the type of `fileName`). Every song is changed and has then to be checked
-// again.
-void SetFolderForAllSongs(TCPlayList& playlist, std::u16string_view folder);
-void SetExtensionForAllSongs(TCPlayList& playlist, std::u16string_view fileName);
-
 }  // namespace brevant

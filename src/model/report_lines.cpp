@@ -5,40 +5,23 @@
 namespace brevant {
 
 void TCReportLines::Enable(std::int32_t lineCapacity) {
-  capacity = std::max(lineCapacity, 1);
-  enabled = true;
+  capacity = static_cast<std::size_t>(std::max(lineCapacity, 1));
   Clear();
 }
 
 void TCReportLines::Clear() {
-  if (!enabled) return;
-  lines.assign(static_cast<std::size_t>(capacity), {});
-  writeIndex = 0;
-  count = 0;
+  lines.clear();
 }
 
 void TCReportLines::Append(std::u16string_view text, TCLineRole role) {
-  if (!enabled) return;
-  TCReportLine& slot = lines[static_cast<std::size_t>(writeIndex)];
-  slot.text = text;
-  slot.text += u"\r\n";
-  slot.role = role;
-  writeIndex = (writeIndex + 1) % capacity;
-  count = std::min(count + 1, capacity);
-}
-
-std::vector<TCReportLine> TCReportLines::Lines() const {
-  std::vector<TCReportLine> shown;
-  shown.reserve(static_cast<std::size_t>(count));
-  for (std::int32_t age = count; age > 0; --age) {
-    shown.push_back(lines[static_cast<std::size_t>((writeIndex + capacity - age) % capacity)]);
-  }
-  return shown;
+  if (!Enabled()) return;
+  if (lines.size() == capacity) lines.pop_front();
+  lines.push_back({std::u16string(text) + u"\r\n", role});
 }
 
 std::u16string TCReportLines::Text() const {
   std::u16string text;
-  for (const TCReportLine& line : Lines()) text += line.text;
+  for (const TCReportLine& line : lines) text += line.text;
   return text;
 }
 

@@ -1,8 +1,10 @@
-// The recent lines of the message display: a ring of fixed size that forgets the oldest.
+// The recent lines of the message display, as many as it has room for: the oldest are forgotten.
+// User-interface thread only.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,25 +20,23 @@ struct TCReportLine {
 
 class TCReportLines {
  public:
-  // Until this is called every append and clear does nothing.
+  // Until this is called every append and clear does nothing. Drops what is there. Room for one line at
+  // least.
   void Enable(std::int32_t lineCapacity);
-  [[nodiscard]] bool Enabled() const { return enabled; }
+  [[nodiscard]] bool Enabled() const { return capacity > 0; }
 
   void Clear();
   void Append(std::u16string_view text, TCLineRole role);
 
-  [[nodiscard]] std::int32_t Count() const { return count; }
+  [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(lines.size()); }
   // Oldest first.
-  [[nodiscard]] std::vector<TCReportLine> Lines() const;
+  [[nodiscard]] std::vector<TCReportLine> Lines() const { return {lines.begin(), lines.end()}; }
   // All lines in one text, oldest first.
   [[nodiscard]] std::u16string Text() const;
 
  private:
-  std::vector<TCReportLine> lines;  // one slot a line
-  std::int32_t capacity = 0;
-  std::int32_t writeIndex = 0;  // the slot that the next line goes into
-  std::int32_t count = 0;
-  bool enabled = false;
+  std::deque<TCReportLine> lines;
+  std::size_t capacity = 0;  // 0: not enabled
 };
 
 }  // namespace brevant

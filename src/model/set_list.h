@@ -62,10 +62,11 @@ struct TCPlayList {
   TCSharedText folder;  // of the playlist file; empty when it was listed without a folder
   std::u16string extension{TextOf(TCTextId::PlayListExtension)};
   std::u16string totalTime;
-  std::int32_t state1 = 0;
   TCTreeNode treeNode = TCTreeNode::None;
-  std::int32_t state2 = 0;
-  std::int32_t state3 = 0;
+  // No file keeps these three; they are copied with the playlist.
+  std::int32_t state1 = 0;  // without a meaning so far
+  std::int32_t state2 = 0;  // 1: "Song properties" was left with its path for all songs
+  std::int32_t state3 = 0;  // 1: the same with its extension for all songs
   std::vector<TCPlayListItem> items;
 };
 

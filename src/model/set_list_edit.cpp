@@ -4,7 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <utility>
-#include <vector>
+
+#include "text/path_parts.h"
 
 namespace brevant {
 
@@ -193,6 +194,19 @@ bool MoveSong(TCSetListStore& store, TCSongPosition from, TCSongPosition to) {
   InsertSong(store, to, std::move(entry));
   if (follows) store.currentSong = current;
   return true;
+}
+
+void SetFolderForAllSongs(TCPlayList& playlist, std::u16string_view folder) {
+  const TCSharedText sharedFolder{std::u16string(folder)};
+  for (TCPlayListItem& song : playlist.items) song.folder = sharedFolder;
+}
+
+void SetExtensionForAllSongs(TCPlayList& playlist, std::u16string_view fileName) {
+  const TCSharedText extension = ExtensionPart(fileName);
+  for (TCPlayListItem& song : playlist.items) {
+    song.fileName = ReplaceExtension(song.fileName, extension);
+    song.extension = extension;
+  }
 }
 
 }  // namespace brevant

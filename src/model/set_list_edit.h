@@ -1,11 +1,12 @@
-// Inserting, removing and moving in the set lists. The current position and the playlists that are shown and
-// measured follow their entries: they go on naming the group, playlist and song that they named before. An
-// entry that is removed leaves its number behind, which then names what took its place, or nothing. Each
-// answers false and changes nothing when an index is wrong. Totals are left alone. User-interface thread
-// only.
+// Inserting, removing, moving and repairing in the set lists. The current position and the playlists that are
+// shown and measured follow their entries: they go on naming the group, playlist and song that they named
+// before. An entry that is removed leaves its number behind, which then names what took its place, or
+// nothing. Each answers false and changes nothing when an index is wrong. Totals are left alone.
+// User-interface thread only.
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "model/set_list_store.h"
@@ -47,5 +48,11 @@ bool RemoveSongs(TCSetListStore& store, TCPlaylistPosition at, const std::vector
 bool MoveGroup(TCSetListStore& store, std::int32_t from, std::int32_t to);
 bool MovePlaylist(TCSetListStore& store, TCPlaylistPosition from, TCPlaylistPosition to);
 bool MoveSong(TCSetListStore& store, TCSongPosition from, TCSongPosition to);
+
+// How a playlist is repaired whose songs went to another folder (`folder` with its trailing backslash) or
+// were converted to another type (the type of `fileName`). Every song is changed; whether its file is there
+// has to be looked up again.
+void SetFolderForAllSongs(TCPlayList& playlist, std::u16string_view folder);
+void SetExtensionForAllSongs(TCPlayList& playlist, std::u16string_view fileName);
 
 }  // namespace brevant

@@ -51,8 +51,12 @@ std::int32_t TCSetListStore::FindPlaylistByName(const TCPlayGroups& group, std::
   return FindByName(group.playlists, name);
 }
 
+bool TCSetListStore::IsValidGroup(std::int32_t group) const {
+  return Holds(groups, group);
+}
+
 bool TCSetListStore::IsValidPlaylist(std::int32_t group, std::int32_t playlist) const {
-  return Holds(groups, group) && Holds(groups[static_cast<std::size_t>(group)].playlists, playlist);
+  return IsValidGroup(group) && Holds(groups[static_cast<std::size_t>(group)].playlists, playlist);
 }
 
 bool TCSetListStore::IsValidPlaylistIndex(std::int32_t playlist) const {

@@ -59,6 +59,7 @@ struct TCSetListStore {
 
   [[nodiscard]] TCPlaylistPosition CurrentPosition() const { return {currentGroup, currentPlaylist}; }
 
+  [[nodiscard]] bool IsValidGroup(std::int32_t group) const;
   // `group` and `playlist` name an existing playlist.
   [[nodiscard]] bool IsValidPlaylist(std::int32_t group, std::int32_t playlist) const;
   // Within the current group.

@@ -21,7 +21,7 @@ TCPlaylistStep StepToNextPlaylist(const TCSetListStore& store) {
   const std::int32_t nextInGroup = store.currentPlaylist + 1;
   if (store.IsValidPlaylist(store.currentGroup, nextInGroup)) return {true, store.currentGroup, nextInGroup};
   const std::int32_t nextGroup = store.currentGroup + 1;
-  if (nextGroup < 0 || static_cast<std::size_t>(nextGroup) >= store.groups.size()) return {};
+  if (!store.IsValidGroup(nextGroup)) return {};
   return {true, nextGroup, 0};
 }
 

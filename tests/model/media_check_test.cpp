@@ -41,27 +41,6 @@ TEST(MediaCheckTest, AnEmptyTypeIsInvalidEvenInAListWithAnEmptyWord) {
   EXPECT_FALSE(IsValidMediaExtension(store, u""));
 }
 
-TEST(MediaCheckTest, AFolderForAllSongsLeadsEachOneThere) {
-  TCPlayList playlist;
-  playlist.items.resize(2);
-  playlist.items[0].SetPath(u"C:\\a.mp3");
-  playlist.items[1].SetPath(u"C:\\b.mp3");
-  SetFolderForAllSongs(playlist, u"E:\\Backup\\");
-  EXPECT_EQ(playlist.items[0].FullPath(), u"E:\\Backup\\a.mp3");
-  EXPECT_EQ(playlist.items[1].FullPath(), u"E:\\Backup\\b.mp3");
-}
-
-TEST(MediaCheckTest, AnExtensionForAllSongsReplacesTheirTypes) {
-  TCPlayList playlist;
-  playlist.items.resize(2);
-  playlist.items[0].SetPath(u"C:\\a.mp3");
-  playlist.items[1].SetPath(u"C:\\b");
-  SetExtensionForAllSongs(playlist, u"x.wav");
-  EXPECT_EQ(playlist.items[0].fileName, u"a.wav");
-  EXPECT_EQ(playlist.items[0].extension, u"wav");
-  EXPECT_EQ(playlist.items[1].fileName, u"b.wav");
-}
-
 TEST(MediaCheckTest, ASongIsFoundWhenItsFileCanBeOpened) {
   TCMemoryFiles files;
   files.Put(u"C:\\a.txt");

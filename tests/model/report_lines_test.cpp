@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/message_log.h"
 #include "text/numbers.h"
 
 namespace brevant {
@@ -39,7 +38,7 @@ TEST(ReportLinesTest, TheThousandAndTwentyFifthLinePushesOutTheFirst) {
   }
 }
 
-TEST(ReportLinesTest, TheRingGoesRoundAndRound) {
+TEST(ReportLinesTest, TheOldestGoWhileNewOnesCome) {
   TCReportLines lines;
   lines.Enable(3);
   for (int i = 1; i <= 10; ++i) lines.Append(FormatDecimal(i), TCLineRole::Normal);
@@ -54,14 +53,6 @@ TEST(ReportLinesTest, AfterAClearOneAppendShowsExactlyThatLine) {
   EXPECT_EQ(lines.Count(), 0);
   lines.Append(u"new", TCLineRole::Normal);
   EXPECT_EQ(lines.Text(), u"new\r\n");
-}
-
-TEST(MessageDisplayTest, ADetailStandsOneBlankBehindTheMessagesOwnColon) {
-  TCMessageLog messages;
-  messages.AppendMessage(TCTextId::UnableToPlayMissingFile, u"C:\\a.mp3");
-  messages.AppendMessage(TCTextId::Banner);
-  EXPECT_EQ(messages.lines[0], u"Unable to play song as unable to find file: C:\\a.mp3");
-  EXPECT_EQ(messages.lines[1], u"...Brevant...");
 }
 
 }  // namespace

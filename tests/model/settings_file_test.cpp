@@ -324,7 +324,7 @@ TEST_F(SettingsFileTest, TheLastDocumentIsReadOnItsOwn) {
   EXPECT_EQ(settingsFile.LastLoadedFileName(), u"D:\\Docs\\show.brv");
 }
 
-TEST_F(SettingsFileTest, AValueLongerThanTheBufferIsCutOff) {
+TEST_F(SettingsFileTest, AValueOfMoreThan4091CharactersIsCutOff) {
   Load("LastSongName=" + std::string(5000, 'x') + "\r\n");
   EXPECT_EQ(record.setLists.lastSongName.size(), 4091u);
 }
