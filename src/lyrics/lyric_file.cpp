@@ -78,11 +78,11 @@ View<Char> HeaderValue(View<Char> tag, const HeaderTag& header) {
 
 template <class Char>
 std::int32_t SingerOf(View<Char> text) {
-  if (text.find(':') == kNone) return 0;
-  if (Contains(text, "F:")) return 2;
-  if (Contains(text, "M:")) return 1;
-  if (Contains(text, "D:")) return 3;
-  return 0;
+  if (text.find(':') == kNone) return kNoSinger;
+  if (Contains(text, "F:")) return kSingerF;
+  if (Contains(text, "M:")) return kSingerM;
+  if (Contains(text, "D:")) return kSingerD;
+  return kNoSinger;
 }
 
 template <class Char>
@@ -199,7 +199,7 @@ void FillSheet(const LyricFile& file, TCLyricSheet& sheet) {
 
 bool LoadLyrics(TCFileSystem& files, std::u16string_view songPath, TCSongLyrics& lyrics) {
   const std::optional<LyricFile> file = ReadLyricFile(files, songPath);
-  if (!file && lyrics.IsVoid()) return false;  // of most songs
+  if (!file && lyrics.HoldsNothing()) return false;  // of most songs
 
   TCLyricSheet sheet;
   sheet.headers = lyrics.Headers();

@@ -33,9 +33,9 @@ constexpr std::array<HeaderField, kHeaderCount> kHeaderFields = {
 };
 
 // How a sheet is packed, all in one block: the number of lines; the header values; the lines, one behind the
-// other. Numbers take as many bytes as they need, seven bits in each, the lowest first; a text stands behind
-// its length. A line says how far its start is from the end of the line before it, nearly always 0, how long
-// it lasts, its text's length and singer in one number, and its text.
+// other. Numbers take as many bytes as they need, seven bits in each, the lowest first (LEB128); a text
+// stands behind its length. A line says how far its start is from the end of the line before it, nearly
+// always 0, how long it lasts, its text's length and singer in one number, and its text.
 
 std::size_t SizeOfNumber(std::uint64_t number) {
   std::size_t size = 1;
@@ -43,8 +43,8 @@ std::size_t SizeOfNumber(std::uint64_t number) {
   return size;
 }
 
-// Numbers near 0 are small whatever their sign.
-std::uint64_t Unsigned(std::int64_t number) {
+// Numbers near 0 become small ones whatever their sign.
+std::uint64_t ZigZag(std::int64_t number) {
   const auto bits = static_cast<std::uint64_t>(number);
   return number < 0 ? ~(bits << 1) : bits << 1;
 }
@@ -129,7 +129,7 @@ class LineReader {
   std::uint64_t left = 0;
   std::int32_t start = 0;
   std::int32_t end = 0;
-  std::int32_t singer = 0;
+  std::int32_t singer = kNoSinger;
   std::string_view text;
 };
 
@@ -146,11 +146,12 @@ void Pack(const TCLyricSheet& sheet, const EncodedHeaders& headers, Target& targ
   std::size_t textBegin = 0;
   std::int64_t previousEnd = 0;
   for (const TCLyricSheet::Line& line : sheet.lines) {
-    const bool known = line.singer >= 0 && line.singer <= 3;
+    const bool known = line.singer >= kNoSinger && line.singer <= kSingerD;
     const std::size_t length = line.textEnd - textBegin;
-    target.PutNumber(Unsigned(line.start - previousEnd));
-    target.PutNumber(Unsigned(std::int64_t{line.end} - line.start));
-    target.PutNumber(std::uint64_t{length} << 2 | (known ? static_cast<std::uint64_t>(line.singer) : 0));
+    const auto singer = static_cast<std::uint64_t>(known ? line.singer : kNoSinger);
+    target.PutNumber(ZigZag(line.start - previousEnd));
+    target.PutNumber(ZigZag(std::int64_t{line.end} - line.start));
+    target.PutNumber(std::uint64_t{length} << 2 | singer);
     target.PutText(texts.substr(textBegin, length));
     textBegin = line.textEnd;
     previousEnd = line.end;

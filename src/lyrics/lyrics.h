@@ -15,12 +15,18 @@ namespace brevant {
 // The end of a line that no other line follows: far behind the end of any song (milliseconds).
 inline constexpr std::int32_t kEndOfLyrics = 268435455;
 
+// Who sings a line, by the mark in its text.
+inline constexpr std::int32_t kNoSinger = 0;
+inline constexpr std::int32_t kSingerM = 1;  // "M:"
+inline constexpr std::int32_t kSingerF = 2;  // "F:"
+inline constexpr std::int32_t kSingerD = 3;  // "D:"
+
 // One timed line. It is current while start <= t < end (milliseconds from the start of the song).
 struct TCLyric {
   std::u16string text;  // with its singer mark, if it has one
   std::int32_t start = 0;
   std::int32_t end = 0;
-  std::int32_t singer = 0;  // 0 none, 1 "M:", 2 "F:", 3 "D:"
+  std::int32_t singer = kNoSinger;
 
   friend bool operator==(const TCLyric&, const TCLyric&) = default;
 };
@@ -46,7 +52,7 @@ struct TCLyricSheet {
   struct Line {
     std::int32_t start = 0;
     std::int32_t end = 0;
-    std::int32_t singer = 0;
+    std::int32_t singer = kNoSinger;
     std::size_t textEnd = 0;  // in `text`; it begins where the one before it ended
   };
 
@@ -54,6 +60,7 @@ struct TCLyricSheet {
   std::string text;  // as EncodeLyricText gives it
   TCLyricHeaders headers;
 
+  // An unknown singer counts as none once the sheet is packed.
   void Add(const TCLyric& line);
   // `utf8` is valid UTF-8.
   void Add(std::string_view utf8, std::int32_t start, std::int32_t end, std::int32_t singer);
@@ -70,7 +77,7 @@ class TCSongLyrics {
   // True without lines; header values may still be there.
   [[nodiscard]] bool Empty() const { return LineCount() == 0; }
   // True without lines and header values.
-  [[nodiscard]] bool IsVoid() const { return packed == nullptr; }
+  [[nodiscard]] bool HoldsNothing() const { return packed == nullptr; }
   [[nodiscard]] std::size_t LineCount() const;
 
   // Line `index` in file order; a line without text and times when there is no such line.

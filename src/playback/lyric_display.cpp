@@ -16,11 +16,11 @@ constexpr std::int32_t kMostLines = 500;
 
 TCLineRole RoleOf(std::int32_t singer) {
   switch (singer) {
-    case 1:
+    case kSingerM:
       return TCLineRole::SingerM;
-    case 2:
+    case kSingerF:
       return TCLineRole::SingerF;
-    case 3:
+    case kSingerD:
       return TCLineRole::SingerD;
     default:
       return TCLineRole::Normal;

@@ -16,7 +16,7 @@ TCLyricHeaders AllHeaders() {
 TEST(Lyrics, AreEmptyAtFirst) {
   const TCSongLyrics lyrics;
   EXPECT_TRUE(lyrics.Empty());
-  EXPECT_TRUE(lyrics.IsVoid());
+  EXPECT_TRUE(lyrics.HoldsNothing());
   EXPECT_EQ(lyrics.LineCount(), 0U);
   EXPECT_EQ(lyrics.LineAt(0), TCLyric());
   EXPECT_EQ(lyrics.Artist(), u"");
@@ -24,7 +24,7 @@ TEST(Lyrics, AreEmptyAtFirst) {
   EXPECT_EQ(lyrics.FindLineAt(0), -1);
 }
 
-TEST(Lyrics, ASongWithoutLyricsCostsNoMoreThanAPointer) {
+TEST(Lyrics, ASongWithoutLyricsCostsTwoPointersAndNoMore) {
   EXPECT_LE(sizeof(TCSongLyrics), 2 * sizeof(void*));
 }
 
@@ -57,7 +57,7 @@ TEST(Lyrics, HoldTheirHeaderValues) {
 TEST(Lyrics, WithHeaderValuesAloneAreEmptyOfLines) {
   const TCSongLyrics lyrics = LyricsOf({}, AllHeaders());
   EXPECT_TRUE(lyrics.Empty());
-  EXPECT_FALSE(lyrics.IsVoid());
+  EXPECT_FALSE(lyrics.HoldsNothing());
   EXPECT_EQ(lyrics.Title(), u"title");
 }
 

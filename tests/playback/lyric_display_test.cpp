@@ -7,6 +7,7 @@
 #include <string>
 
 #include "lyrics/lyric_file.h"
+#include "support/lyrics_of.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
 #include "text/numbers.h"
@@ -29,12 +30,6 @@ class LyricDisplayTest : public testing::Test {
     song.SetPath(kSong);
     song.lyrics = LyricsOf(
         {{u"M: one", 10000, 20000, 1}, {u"F: two", 20000, 30000, 2}, {u"D: three", 40000, kEndOfLyrics, 3}});
-  }
-
-  static TCSongLyrics LyricsOf(const std::vector<TCLyric>& lines) {
-    TCLyricSheet sheet;
-    for (const TCLyric& line : lines) sheet.Add(line);
-    return TCSongLyrics(sheet);
   }
 
   TCAppRecord record;
