@@ -24,7 +24,7 @@ std::int32_t FindByName(const List& list, std::u16string_view name) {
 }
 
 bool HasPath(const TCPlayListItem& song, std::u16string_view path) {
-  // Asked at every poll, perhaps of a hundred thousand songs: the two lengths are at hand, the letters of the
+  // Asked at every tick, perhaps of a hundred thousand songs: the two lengths are at hand, the letters of the
   // name are far away in memory, and the lengths alone rule nearly every song out.
   const std::size_t folderLength = song.folder.size();
   if (folderLength + song.fileName.size() != path.size()) return false;

@@ -1,5 +1,5 @@
 // Shows the lyric lines of the playing song in the message display, a few at a time, each in its singer's
-// colour, half a second ahead of the music. Driven by the transport's poll; user-interface thread only.
+// colour, half a second ahead of the music. Driven by the transport's tick; user-interface thread only.
 #pragma once
 
 #include <cstdint>

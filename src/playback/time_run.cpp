@@ -28,7 +28,7 @@ TCTimeRunStep TCTimeRun::Step() {
   if (loadNext) probe->Open(paths[index]);
   const int duration = probe->GetDurationSeconds();
   if (duration == 0) {
-    loadNext = false;  // not known yet: the next poll asks again
+    loadNext = false;  // not known yet: the next tick asks again
     return TCTimeRunStep::Measuring;
   }
   loadNext = true;
@@ -36,7 +36,7 @@ TCTimeRunStep TCTimeRun::Step() {
   Record(duration);
   ++index;
   if (index < paths.size()) {
-    probe->Open(paths[index]);  // so that its length is known by the next poll
+    probe->Open(paths[index]);  // so that its length is known by the next tick
     return TCTimeRunStep::Measuring;
   }
   timesPending = false;

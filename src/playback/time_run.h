@@ -1,4 +1,4 @@
-// A run that measures the lengths of many songs, one song a poll, and stores them all at its end. Owned by
+// A run that measures the lengths of many songs, one song a tick, and stores them all at its end. Owned by
 // the transport; user-interface thread only.
 #pragma once
 
@@ -25,7 +25,7 @@ class TCTimeRun {
   void Start(TCTimeScope timeScope);
 
   // Only while pending. Looks at one song: says its time in the message display once it is known, else waits
-  // for the next poll. After the last one the times are stored in the songs that still have the measured path
+  // for the next tick. After the last one the times are stored in the songs that still have the measured path
   // and their playlists' totals are computed anew.
   TCTimeRunStep Step();
 

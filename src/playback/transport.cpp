@@ -251,7 +251,7 @@ void TCTransport::RefreshCurrentSongTime() {
 
 void TCTransport::RefreshSongTimeAfterPlay() {
   const int duration = player->GetDurationSeconds();
-  if (duration == 0) return;  // not known yet: the next poll asks again
+  if (duration == 0) return;  // not known yet: the next tick asks again
   const std::u16string time = SetCurrentSongTime(duration);
   if (store.currentSong < 0) return;
   display.SetSongTime(store.currentSong, time);

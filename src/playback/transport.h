@@ -47,15 +47,19 @@ class TCTransport {
  public:
   explicit TCTransport(const TCTransportParts& transportParts);
 
-  // Waits a moment for the disk to tell whether the song's file is there. Without an answer the song is left
-  // to the player, and the answer counts when it comes.
+  // Starts the current song from its beginning, the first of the playlist when there is none. Waits a moment
+  // for the disk to tell whether the song's file is there: a missing one is reported and not started. Without
+  // an answer the song is left to the player, and the answer counts when it comes.
   void Play();
+  // Takes the song's time before. What stops here has not ended: nothing follows it.
   void Stop();
+  // Goes on when it paused last, else pauses. After a Stop going on starts the song again.
   void PauseContinue();
-  // Neither wraps nor starts playback.
+  // Make the song behind or before the current one current. Neither wraps nor starts playback.
   void NextSong();
   void PriorSong();
-  // False, with nothing changed, behind the last playlist of all.
+  // Make the neighbouring playlist current, show it and take the focus to it; the current song's number
+  // stays. False, with nothing but the focus changed, behind the last playlist of all.
   bool NextPlaylist();
   void PriorPlaylist();
   // Makes a playlist current and shows it; the current song's number stays. A playlist that is not there
@@ -67,11 +71,11 @@ class TCTransport {
   // Takes the current song's time from the player; what it does not know is stored as "00:00".
   void RefreshCurrentSongTime();
 
-  // Measures the songs' times, one a poll, until the run is done or cancelled.
+  // Measures the songs' times, one a tick, until the run is done or cancelled.
   void StartTimeRun(TCTimeScope scope);
   [[nodiscard]] const TCTimeRun& TimeRun() const { return timeRun; }
 
-  // The lyric lines are drawn anew at the next poll.
+  // The lyric lines are drawn anew at the next tick.
   void RedrawLyrics() { state.lastLyricIndex = -1; }
 
   // The transport's half of "Cancel current command action"; no sound is touched.
@@ -80,7 +84,7 @@ class TCTransport {
   // The set lists were cleared: what sounds on belongs to them no more, and its end starts nothing.
   void ForgetSong();
 
-  // The poll, every 300 ms. True when a time run ended with it and changed a song's time.
+  // The tick, every 300 ms. True when a time run ended with it and changed a song's time.
   bool OnPlayTimerTick();
 
   [[nodiscard]] const TCTransportState& State() const { return state; }

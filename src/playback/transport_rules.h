@@ -9,7 +9,7 @@
 namespace brevant {
 
 enum class TCTickAction {
-  Wait,               // nothing to do until the next poll
+  Wait,               // nothing to do until the next tick
   MarkStarted,        // the sound has begun
   JumpToRepeatBegin,  // the song ran past the end of the repeat range
   EndSong,            // the song ended, or the player itself stopped it
@@ -22,7 +22,7 @@ struct TCTickInput {
   std::int32_t repeatEnd = 0;     // seconds; 0: no range is set
 };
 
-// Asked on every poll while a song is playing.
+// Asked on every tick while a song is playing.
 [[nodiscard]] TCTickAction DecideTick(const TCTickInput& input);
 
 enum class TCAdvance {

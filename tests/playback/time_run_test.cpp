@@ -58,13 +58,13 @@ class TimeRunTest : public testing::Test {
     }
   }
 
-  // Steps to the end of the run; the number of polls it took.
+  // Steps to the end of the run; the number of ticks it took.
   int RunThrough(TCTimeRunStep expectedEnd = TCTimeRunStep::FinishedWithChanges) {
-    for (int polls = 1; polls < 1000; ++polls) {
+    for (int ticks = 1; ticks < 1000; ++ticks) {
       const TCTimeRunStep step = run.Step();
       if (step == TCTimeRunStep::Measuring) continue;
       EXPECT_EQ(step, expectedEnd);
-      return polls;
+      return ticks;
     }
     ADD_FAILURE() << "the run does not end";
     return 0;
@@ -109,12 +109,12 @@ TEST_F(TimeRunTest, ARunOverAllSongsGoesThroughEveryPlaylistInOrder) {
   EXPECT_EQ(store.groups[0].playlists[1].totalTime, u"04:00");
 }
 
-TEST_F(TimeRunTest, KnownLengthsTakeOnePollASong) {
+TEST_F(TimeRunTest, KnownLengthsTakeOneTickASong) {
   run.Start(TCTimeScope::CurrentPlaylist);
   EXPECT_EQ(RunThrough(), 3);
 }
 
-TEST_F(TimeRunTest, TheNextSongIsOpenedAheadSoThatItsLengthIsKnownByTheNextPoll) {
+TEST_F(TimeRunTest, TheNextSongIsOpenedAheadSoThatItsLengthIsKnownByTheNextTick) {
   run.Start(TCTimeScope::CurrentPlaylist);
   run.Step();
   EXPECT_TRUE(probe.open);

@@ -5,7 +5,7 @@
 namespace brevant {
 namespace {
 
-TEST(TransportRulesTest, APollActsOnlyOnTheFirstSoundAndOnTheEnd) {
+TEST(TransportRulesTest, ATickActsOnlyOnTheFirstSoundAndOnTheEnd) {
   struct Case {
     bool started;
     double position;

@@ -9,7 +9,7 @@ namespace brevant {
 
 namespace {
 
-// Longer than the polls of the transport are apart, so that it is sure to see an end that is held for it.
+// Longer than the ticks of the transport are apart, so that it is sure to see an end that is held for it.
 constexpr double kHoldEnd = 1.0;
 
 bool Sounds(TCPlayerPhase phase) {

@@ -1,0 +1,169 @@
+// What a tick does besides noticing the end of a song: song times, lyrics and the run that measures many
+// songs.
+#include "playback/player_length_probe.h"
+#include "playback/transport_rig.h"
+#include "support/lyrics_of.h"
+
+namespace brevant {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST_F(TransportTest, ADurationThatFailsIsStoredAsNothing) {
+  Song(0).time = u"03:25";
+  transport.RefreshCurrentSongTime();  // nothing is loaded
+  EXPECT_EQ(Song(0).time, u"00:00");
+  EXPECT_THAT(display.calls, Contains("Time 0 00:00"));
+}
+
+TEST_F(TransportTest, ASongThatCannotBePlayedTakesNoTimeAndIsAskedForNone) {
+  player.SetSong(u"C:\\a1.mp3", {.playable = false});
+  Song(0).time = u"03:25";
+  transport.Play();
+  Run(0.6);
+  EXPECT_EQ(Song(0).time, u"00:00");
+  EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, ATimeWithoutARowToStandInIsAskedForUntilThereIsOne) {
+  transport.Play();
+  store.currentSong = -1;
+  Run(0.6);
+  EXPECT_TRUE(transport.State().refreshSongTime);
+  store.currentSong = 1;
+  Run(0.3);
+  EXPECT_FALSE(transport.State().refreshSongTime);
+  EXPECT_EQ(Song(1).time, u"00:10");
+}
+
+TEST_F(TransportTest, AChangedSongTimeMovesTheTotal) {
+  store.RecalcAllTotalTimes();
+  EXPECT_EQ(store.groups[0].playlists[0].totalTime, u"00:30");
+  transport.Play();
+  Run(0.6);
+  EXPECT_EQ(Song(0).time, u"00:10");
+  EXPECT_EQ(store.groups[0].playlists[0].totalTime, u"00:40");
+  EXPECT_THAT(display.calls, Contains("Time 0 00:10"));
+  EXPECT_THAT(display.calls, Contains("Total"));
+  EXPECT_FALSE(transport.State().refreshSongTime);
+}
+
+TEST_F(TransportTest, ASongTimeThatIsNotKnownYetIsAskedForAgain) {
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .opensAfter = 1.0});
+  Song(0).time = u"03:25";
+  transport.Play();
+  Run(0.6);
+  EXPECT_EQ(Song(0).time, u"03:25");
+  EXPECT_TRUE(transport.State().refreshSongTime);
+  Run(0.9);
+  EXPECT_EQ(Song(0).time, u"00:10");
+}
+
+TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsTimeGoesIntoNoRow) {
+  player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .opensAfter = 1.0});
+  transport.Play();
+  transport.ForgetSong();
+  Song(0).time = u"03:25";  // the next document's
+  Run(2.0);
+  EXPECT_EQ(Song(0).time, u"03:25");
+}
+
+TEST_F(TransportTest, AfterPlayAndAfterStopTheCurrentLyricLineIsDrawnAgain) {
+  Song(0).lyrics = LyricsOf({{u"one", 0, kEndOfLyrics, kNoSinger}});
+  transport.Play();
+  Run(1.0);
+  ASSERT_EQ(transport.State().lastLyricIndex, 0);
+  transport.Play();  // clears the messages
+  EXPECT_EQ(transport.State().lastLyricIndex, -1);
+  Run(0.3);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone"));
+  transport.Stop();
+  EXPECT_EQ(transport.State().lastLyricIndex, -1);
+}
+
+TEST_F(TransportTest, LyricsFollowThePlayingSong) {
+  Song(0).lyrics = LyricsOf({{u"one", 1000, 3000, kNoSinger}, {u"two", 3000, kEndOfLyrics, kNoSinger}});
+  settings.numberLyricLines = 1;
+  transport.Play();
+  Run(0.8);
+  EXPECT_THAT(messages.lines, IsEmpty());
+  Run(0.6);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone"));
+  EXPECT_EQ(transport.State().lastLyricIndex, 0);
+  messages.Clear();
+  transport.RedrawLyrics();
+  Run(0.3);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone"));
+  Run(2.1);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\ttwo"));
+}
+
+TEST_F(TransportTest, ATickMeasuresBeforeItShowsLyrics) {
+  TCFakePlayer silent;
+  silent.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  TCPlayerLengthProbe probe(silent);
+  TCTransport measuring({record, files, display, messages, &player, &probe});
+  Song(0).lyrics = LyricsOf({{u"one", 0, kEndOfLyrics, kNoSinger}});
+  measuring.Play();
+  measuring.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  measuring.OnPlayTimerTick();
+  EXPECT_EQ(measuring.TimeRun().Measured(), 1u);
+  EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone")) << "its words take the place of the time";
+}
+
+TEST_F(TransportTest, ATimeRunWithThePlayerItselfIsNeverTakenForTheEndOfASong) {
+  settings.autoPlayPlayList = true;
+  transport.Play();
+  Run(2.0);
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  EXPECT_FALSE(transport.State().playing);
+  Run(6.0);
+  EXPECT_FALSE(transport.TimeRun().Pending());
+  EXPECT_EQ(store.currentSong, 0);
+  EXPECT_EQ(Song(2).time, u"00:10");
+  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
+}
+
+TEST_F(TransportTest, ATimeRunWithNothingToMeasureLeavesTheSongAlone) {
+  transport.Play();
+  Run(2.0);
+  store.currentPlaylist = 9;
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  EXPECT_FALSE(transport.TimeRun().Pending());
+  EXPECT_TRUE(transport.State().playing);
+  store.currentPlaylist = 0;
+  Run(9.0);
+  EXPECT_EQ(store.currentSong, 1) << "its end is noticed";
+}
+
+TEST_F(TransportTest, ATimeRunEndedByOneWithNothingToMeasureIsNoEndOfASong) {
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  Run(0.3);
+  transport.Play();
+  store.currentPlaylist = 9;
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);  // stops the player with the run
+  EXPECT_FALSE(transport.State().playing);
+}
+
+TEST_F(TransportTest, CancelEndsATimeRun) {
+  transport.StartTimeRun(TCTimeScope::AllSongs);
+  Run(0.6);
+  transport.CancelPending();
+  EXPECT_FALSE(transport.TimeRun().Pending());
+  EXPECT_EQ(Song(0).time, u"00:00");
+}
+
+TEST_F(TransportTest, TheTickSaysWhenATimeRunChangedSomething) {
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  int changes = 0;
+  for (int tick = 0; tick < 20; ++tick) {
+    player.Advance(0.3);
+    if (transport.OnPlayTimerTick()) ++changes;
+  }
+  EXPECT_EQ(changes, 1);
+}
+
+}  // namespace
+}  // namespace brevant
