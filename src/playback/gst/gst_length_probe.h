@@ -13,7 +13,7 @@ namespace brevant {
 
 class TCGstLengthProbe final : public TCLengthProbe {
  public:
-  // Of the options only the limits count. Nothing is started before the first song is opened.
+  // Of the options only the limits of time count. Nothing is started before the first song is opened.
   explicit TCGstLengthProbe(TCNativePaths paths, TCGstPlayerOptions options = {});
 
   void Open(std::u16string_view path) override;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "playback/gst/midi_source.h"
@@ -23,8 +24,10 @@ double Seconds(gint64 nanoseconds) {
   return static_cast<double>(nanoseconds) / 1e9;
 }
 
-// `volume ! sink` as one element, and the volume element out of it.
-std::pair<TCGstRef<GstElement>, TCGstRef<GstElement>> MakeSoundBin(GstElement* sink) {
+// `volume ! sink` as one element, and the volume element out of it. The sink is the bin's from then on;
+// without a bin it stays the caller's.
+std::pair<TCGstRef<GstElement>, TCGstRef<GstElement>> MakeSoundBin(TCGstOpenElement& opened) {
+  GstElement* const sink = opened.get();
   TCGstRef<GstElement> bin = OwnElement(gst_bin_new("sound"));
   TCGstRef<GstElement> volume = OwnElement(gst_element_factory_make("volume", nullptr));
   if (!bin || !volume) return {};
@@ -33,6 +36,7 @@ std::pair<TCGstRef<GstElement>, TCGstRef<GstElement>> MakeSoundBin(GstElement* s
   if (!gst_element_link_pads_full(volume.get(), "src", sink, "sink", GST_PAD_LINK_CHECK_NOTHING)) return {};
   const TCGstRef<GstPad> pad(gst_element_get_static_pad(volume.get(), "sink"));
   gst_element_add_pad(bin.get(), gst_ghost_pad_new("sink", pad.get()));
+  gst_object_unref(opened.release());  // the bin holds it as well
   return {std::move(bin), std::move(volume)};
 }
 
@@ -124,18 +128,16 @@ std::unique_ptr<TCGstPipeline> TCGstPipeline::Build(Setup setup) {
 }
 
 bool TCGstPipeline::Assemble(Setup setup) {
+  const bool isMidi = setup.song->midi != nullptr;
+  if (isMidi && !setup.synth) return false;
+  const bool sounds = setup.sink != nullptr;
   TCGstRef<GstElement> soundBin;
-  if (setup.sink) {
-    std::tie(soundBin, volumeElement) = MakeSoundBin(setup.sink.get());
+  if (sounds) {
+    std::tie(soundBin, volumeElement) = MakeSoundBin(setup.sink);
   } else {
     soundBin = OwnElement(gst_element_factory_make("fakesink", nullptr));
   }
-  if (!soundBin) {
-    // It came opened, and nobody else is going to close it.
-    if (setup.sink) gst_element_set_state(setup.sink.get(), GST_STATE_NULL);
-    return false;
-  }
-  const bool isMidi = setup.song->midi != nullptr;
+  if (!soundBin) return false;
   const std::string uri = isMidi ? kMidiSourceUri : FileUri(setup.song->nativePath);
   g_object_set(pipeline.get(), "flags", kAudioOnly, "uri", uri.c_str(), "audio-sink", soundBin.get(),
                nullptr);
@@ -146,8 +148,7 @@ bool TCGstPipeline::Assemble(Setup setup) {
         new TCMidiFeed{setup.synth, setup.song->midi},
         [](gpointer data, GClosure*) { delete static_cast<TCMidiFeed*>(data); }, GConnectFlags(0));
   }
-  auto* listener =
-      new TCBusListener{setup.build, std::move(setup.notify), setup.sink ? soundBin.get() : nullptr};
+  auto* listener = new TCBusListener{setup.build, std::move(setup.notify), sounds ? soundBin.get() : nullptr};
   const TCGstRef<GstBus> bus(gst_element_get_bus(pipeline.get()));
   gst_bus_set_sync_handler(bus.get(), OnMessage, listener,
                            [](gpointer data) { delete static_cast<TCBusListener*>(data); });

@@ -22,12 +22,12 @@ class TCGstPipeline {
     std::uint64_t build = 0;  // the number that its notes carry
     std::shared_ptr<const TCPlayable> song{};
     std::shared_ptr<TCMidiSynth> synth{};  // MIDI songs only
-    TCGstRef<GstElement> sink{};           // null: only probing, nothing sounds
+    TCGstOpenElement sink{};               // null: only probing, nothing sounds
     int volume = 100;
     Notify notify{};
   };
 
-  // Null when GStreamer lacks a part.
+  // Null when GStreamer lacks a part, or a MIDI song its synth.
   [[nodiscard]] static std::unique_ptr<TCGstPipeline> Build(Setup setup);
   // Lets go of the pipeline on a thread of its own, since that takes as long as the sound server likes.
   static void Discard(std::unique_ptr<TCGstPipeline> pipeline, TCJobThreads& jobs);

@@ -1,4 +1,4 @@
-// Owning pointers to GStreamer objects: what is not handed over is released.
+// Owning pointers to GStreamer objects: what is not handed over is released. Any thread.
 #pragma once
 
 #include <gst/gst.h>
@@ -15,6 +15,15 @@ struct TCGstUnref {
 
 template <class T>
 using TCGstRef = std::unique_ptr<T, TCGstUnref>;
+
+// An element outside any pipeline whose device is open: closed before it is released.
+struct TCGstCloseAndUnref {
+  void operator()(GstElement* element) const {
+    gst_element_set_state(element, GST_STATE_NULL);
+    gst_object_unref(element);
+  }
+};
+using TCGstOpenElement = std::unique_ptr<GstElement, TCGstCloseAndUnref>;
 
 // For elements fresh from a factory, whose reference floats.
 inline TCGstRef<GstElement> OwnElement(GstElement* element) {

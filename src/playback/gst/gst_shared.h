@@ -2,6 +2,8 @@
 // in a dead sound server keeps what it uses even after the player is gone.
 #pragma once
 
+#include <utility>
+
 #include "playback/engine/player_desk.h"
 #include "playback/gst/gst_player_options.h"
 #include "playback/gst/midi_synth.h"

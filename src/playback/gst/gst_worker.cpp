@@ -140,10 +140,7 @@ void TCGstWorker::MeasureLength(std::uint64_t load) {
 void TCGstWorker::Build(const TCPlayerAction& action) {
   TCOpenedSink device = OpenSink(shared->options.audioSink);
   // Opening may have taken long; what a newer worker does meanwhile must not sound twice.
-  if (!shared->desk.Publish(ticket, machine)) {
-    if (device.sink) gst_element_set_state(device.sink.get(), GST_STATE_NULL);
-    return;
-  }
+  if (!shared->desk.Publish(ticket, machine)) return;
   if (!device.sink) return Tell(TCPlayerNote::Kind::SinkFailed, action.number, device.detail);
   TCGstPipeline::Setup setup;
   setup.build = action.number;
@@ -167,8 +164,6 @@ void TCGstWorker::Start(TCGstPipeline::Setup setup, GstState state) {
   setup.notify = [desk = std::weak_ptr(shared)](TCPlayerNote note) {
     if (const auto common = desk.lock()) common->desk.Post(std::move(note));
   };
-  if (setup.song->midi && !setup.synth)
-    return Tell(TCPlayerNote::Kind::NoSoundfont, machine.LoadNumber(), {});
   pipeline = TCGstPipeline::Build(std::move(setup));
   if (!pipeline) return Tell(TCPlayerNote::Kind::SourceFailed, build, "A part of GStreamer is missing.");
   // The reason comes from the bus before this does; without one, this is all there is to tell.

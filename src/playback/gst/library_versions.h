@@ -1,5 +1,4 @@
-// The names and versions of the libraries that this room plays with, as found at run time. Used by the About
-// box; any thread.
+// The names and versions of the libraries that this room plays with. Used by the About box; any thread.
 #pragma once
 
 #include <string>
@@ -7,7 +6,8 @@
 
 namespace brevant {
 
-// "Name version" each; the name alone where a library does not tell.
+// "Name version" each: of GStreamer the version that is loaded, of FluidSynth the one that this was built
+// with; the name alone where a library does not tell.
 [[nodiscard]] std::vector<std::string> LibraryVersions();
 
 }  // namespace brevant

@@ -2,7 +2,6 @@
 // of its own.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "playback/engine/player_events.h"

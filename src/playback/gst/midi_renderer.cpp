@@ -11,6 +11,7 @@ constexpr std::int64_t kSecond = 1'000'000'000;
 // The reverberation outlives the voices by about so much.
 constexpr std::int64_t kReverbFrames = TCMidiSynth::kRate / 2;
 constexpr int kAllChannels = -1;
+constexpr int kSustainPedal = 64;  // the number of its controller
 
 }  // namespace
 
@@ -66,7 +67,7 @@ std::int64_t TCMidiRenderer::SendDue(const TCFluidSynth& fluid) {
     // Notes that the file left hanging, and the pedals that would hold them.
     fluid.library.allNotesOff(fluid.synth, kAllChannels);
     for (int channel = 0; channel < fluid.library.countMidiChannels(fluid.synth); ++channel) {
-      fluid.library.controlChange(fluid.synth, channel, 64, 0);
+      fluid.library.controlChange(fluid.synth, channel, kSustainPedal, 0);
     }
   }
   return RungOut(fluid) ? 0 : lengthFrames + kTailFrames - frame;

@@ -7,10 +7,10 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "playback/gst/fluid_library.h"
-#include "playback/midi/smf_reader.h"
 
 namespace brevant {
 

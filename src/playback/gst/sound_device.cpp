@@ -6,13 +6,14 @@ namespace brevant {
 
 namespace {
 
-// Brings the sink to READY, which opens the device; releases it again when that fails.
-TCOpenedSink Open(TCGstRef<GstElement> sink) {
+// Brings the element to READY, which opens the device.
+TCOpenedSink Open(TCGstRef<GstElement> element) {
   TCOpenedSink opened;
-  if (!sink) {
+  if (!element) {
     opened.detail = "The GStreamer plug-in for the sound system is missing.";
     return opened;
   }
+  TCGstOpenElement sink(element.release());
   const TCGstRef<GstBus> bus(gst_bus_new());
   gst_element_set_bus(sink.get(), bus.get());
   const bool open = gst_element_set_state(sink.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
@@ -28,7 +29,6 @@ TCOpenedSink Open(TCGstRef<GstElement> sink) {
     g_error_free(error);
     gst_message_unref(message);
   }
-  gst_element_set_state(sink.get(), GST_STATE_NULL);
   return opened;
 }
 

@@ -8,8 +8,8 @@
 namespace brevant {
 
 struct TCOpenedSink {
-  TCGstRef<GstElement> sink;  // opened, in the READY state; null when nothing could be
-  std::string detail;         // then: why
+  TCGstOpenElement sink;  // in the READY state; null when nothing could be opened
+  std::string detail;     // then: why
 };
 
 // `description` empty: the sound server when one answers, else the sound card when there is one. GStreamer's
