@@ -18,8 +18,8 @@ enum class TCBarDock {
 struct TCCommandBar {
   TCTextId name = TCTextId::MainToolbar;
   TCBarDock dock = TCBarDock::TopEdge;
-  std::span<const TCCommandId>
-      items;  // None: a separator; the menu bar has none, its content is the main menu
+  // None: a separator. The menu bar has no items, its content is the main menu.
+  std::span<const TCCommandId> items;
 };
 
 // The menu bar first.

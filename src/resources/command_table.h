@@ -20,9 +20,9 @@ enum class TCMenuPlace { None, File, Edit, Play, Commands, Options, View, ViewTo
 enum class TCCommandOwner : unsigned {
   None = 0,
   Application = 1,
-  Framework = 2,
+  Framework = 2,  // what every program with a document has: save, exit, show or hide the bars
   Document = 4,
-  View = 8,
+  View = 8,  // the playlist
   Tree = 16,
   Frame = 32,
 };

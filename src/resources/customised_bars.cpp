@@ -15,9 +15,8 @@ constexpr std::u16string_view kMenuText = u"menu ";
 constexpr std::u16string_view kNewMenuText = u"new ";
 
 std::u16string NumberText(TCCommandId command) {
-  std::u16string text;
-  for (const char digit : std::to_string(static_cast<int>(command))) text += static_cast<char16_t>(digit);
-  return text;
+  const std::string digits = std::to_string(static_cast<int>(command));
+  return {digits.begin(), digits.end()};
 }
 
 // None for what is no command's number.

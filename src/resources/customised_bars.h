@@ -18,8 +18,8 @@ namespace brevant {
 
 struct TCBarItem {
   enum class Kind {
-    Command,      // a button, or a time field
-    Separator,    //
+    Command,  // a button, or a time field
+    Separator,
     BuiltInMenu,  // one of the main menus on a button
     NewMenu,      // a menu of the user's own on a button
   };

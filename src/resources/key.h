@@ -40,10 +40,11 @@ enum class TCKeyCode : std::uint32_t {
   Pause,
   Print,
   Menu,
-  VolumeUp,    // the keyboard's own volume keys
-  VolumeDown,  //
-  VolumeMute,  //
-  MediaPlay,   // the keyboard's own player keys
+  // The keyboard's own volume and player keys.
+  VolumeUp,
+  VolumeDown,
+  VolumeMute,
+  MediaPlay,
   MediaStop,
   MediaPrevious,
   MediaNext,

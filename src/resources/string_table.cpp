@@ -2,7 +2,7 @@
 
 namespace brevant {
 
-// A switch without a default: the compiler refuses a text without a number and a number used twice.
+// A switch without a default: the compiler refuses an id without a text and a number that two ids share.
 std::u16string_view TextOf(TCTextId id) {
   switch (id) {
     case TCTextId::BadFileType:
