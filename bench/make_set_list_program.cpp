@@ -1,5 +1,6 @@
-// brevant_make_set_list FOLDER [SONGS [shuffled|sorted [SONGS_PER_LYRIC_FILE]]]: writes a set list to measure
-// with and prints its document's name.
+// brevant_make_set_list FOLDER [SONGS [by_folder|shuffled [SONGS_PER_LYRIC_FILE]]]: writes a set list to
+// measure with and prints its document's name.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -10,7 +11,7 @@
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::fprintf(stderr, "usage: %s FOLDER [SONGS [shuffled|sorted [SONGS_PER_LYRIC_FILE]]]\n", argv[0]);
+    std::fprintf(stderr, "usage: %s FOLDER [SONGS [by_folder|shuffled [SONGS_PER_LYRIC_FILE]]]\n", argv[0]);
     return 2;
   }
   brevant::TCSetListSize size;

@@ -1,7 +1,8 @@
-// brevant_first_window RUNS COMMAND [ARGUMENT...]: starts the command RUNS times and prints, in milliseconds
-// from the start of the process, when its first window stood on the screen, when something was painted in it,
-// and the processor time that all its threads had taken by then, which a busy machine does not stretch. Wants
-// a display with a window manager and nothing else on it; scripts/measure_first_window makes one.
+// brevant_measure_first_window RUNS COMMAND [ARGUMENT...]: starts the command RUNS times and prints, in
+// milliseconds from the start of the process, when its first window stood on the screen, when something was
+// painted in it, and the processor time that all its threads had taken by then, which a busy machine does not
+// stretch. Wants a display with a window manager and nothing else on it; scripts/measure_first_window makes
+// one.
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>

@@ -1,5 +1,5 @@
-// brevant_measure_tick DOCUMENT.brv: plays the last song of the model, then the first, and prints how long
-// the transport's poll takes meanwhile: its only search goes through the songs until it finds the one that
+// brevant_measure_tick DOCUMENT.brv: plays the first song of the model, then the last, and prints how long
+// the transport's tick takes meanwhile: its only search goes through the songs until it finds the one that
 // plays.
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-// brevant_time_run_bench FOLDER [SONGS [polled]]: measures the times of so many songs, links in turn to the
+// brevant_measure_time_run FOLDER [SONGS [polled]]: measures the times of so many songs, links in turn to the
 // sound files of FOLDER, with the probe that the program uses. First each poll comes as soon as a length is
 // known; with "polled" the run is then made once more with the program's own polls, which takes as long as it
 // does there.

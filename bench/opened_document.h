@@ -28,14 +28,6 @@ struct TCOpenedDocument {
     store.ClearSetLists();
     return file.OpenSetListDocument(path);
   }
-
-  [[nodiscard]] std::size_t SongCount() const {
-    std::size_t songs = 0;
-    for (const TCPlayGroups& group : store.groups) {
-      for (const TCPlayList& playlist : group.playlists) songs += playlist.items.size();
-    }
-    return songs;
-  }
 };
 
 // The model path of a document named on the command line; empty with a line on the error output when there is
