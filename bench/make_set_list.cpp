@@ -1,10 +1,8 @@
 #include "make_set_list.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <fstream>
-#include <numeric>
 #include <random>
 #include <string_view>
 #include <utility>

@@ -11,7 +11,6 @@
 
 #include "app/main_frame.h"
 #include "support/fake_player.h"
-#include "views/text_conversion.h"
 
 namespace brevant {
 namespace {

@@ -11,7 +11,6 @@
 
 #include "input_parts.h"
 #include "model/document_file.h"
-#include "model/flat_line.h"
 #include "must_hold.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"

@@ -1,7 +1,6 @@
 // Playlist files: whatever the bytes, every line is a song with the path before the first star and the time
 // behind it, songs that stood there keep what the file does not say, and a second load changes nothing.
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>

@@ -1,7 +1,6 @@
 #include "lyrics/lyric_text.h"
 
 #include <cstdint>
-#include <optional>
 
 #include "text/unicode.h"
 

@@ -1,7 +1,5 @@
 #include "model/set_list_store.h"
 
-#include <algorithm>
-
 #include "text/case_folding.h"
 #include "text/path_parts.h"
 #include "text/time_text.h"

@@ -1,6 +1,7 @@
 #include "model/settings_file.h"
 
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "text/case_folding.h"

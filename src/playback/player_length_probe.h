@@ -1,6 +1,8 @@
 // Measures with the player itself, for a back end that has no silent probe: each song sounds for a moment.
 #pragma once
 
+#include <string_view>
+
 #include "playback/length_probe.h"
 #include "playback/player.h"
 

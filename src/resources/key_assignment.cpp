@@ -1,6 +1,8 @@
 #include "resources/key_assignment.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace brevant {
 namespace {

@@ -6,10 +6,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
-#include <filesystem>
-#include <memory>
-#include <system_error>
 #include <utility>
 #include <vector>
 

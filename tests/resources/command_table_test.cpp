@@ -9,8 +9,6 @@
 #include <utility>
 #include <vector>
 
-#include "resources/menu_text.h"
-
 namespace brevant {
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "resources/command_table.h"

@@ -1,6 +1,5 @@
 #include "text/disk_files.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>

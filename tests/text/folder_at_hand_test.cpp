@@ -1,8 +1,8 @@
 #include "text/folder_at_hand.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "support/temp_folder.h"
 

@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "text/ini_text.h"
-#include "text/unicode.h"
 
 namespace brevant {
 namespace {

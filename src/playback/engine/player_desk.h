@@ -9,6 +9,8 @@
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <variant>
 
 #include "playback/engine/player_events.h"

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "playback/gst/gst_player.h"
 #include "playback/length_probe.h"

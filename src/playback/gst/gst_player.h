@@ -4,6 +4,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "playback/engine/player_desk.h"
 #include "playback/gst/gst_player_options.h"

@@ -1,5 +1,6 @@
 #include "playback/gst/gst_worker.h"
 
+#include <optional>
 #include <utility>
 #include <variant>
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <memory>
+#include <optional>
 #include <system_error>
 #include <utility>
 

@@ -1,7 +1,9 @@
 #include "playback/gst/midi_renderer.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace brevant {
 

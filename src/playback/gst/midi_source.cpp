@@ -2,7 +2,10 @@
 
 #include <gst/audio/audio.h>
 
+#include <cstdint>
 #include <utility>
+
+#include "playback/gst/midi_renderer.h"
 
 namespace brevant {
 

@@ -5,7 +5,8 @@
 
 #include <memory>
 
-#include "playback/gst/midi_renderer.h"
+#include "playback/gst/midi_synth.h"
+#include "playback/midi/smf_reader.h"
 
 namespace brevant {
 

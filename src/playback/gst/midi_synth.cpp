@@ -1,5 +1,7 @@
 #include "playback/gst/midi_synth.h"
 
+#include <optional>
+
 #include "playback/midi/soundfont_search.h"
 
 namespace brevant {

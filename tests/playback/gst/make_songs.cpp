@@ -10,7 +10,6 @@
 #include <functional>
 #include <numbers>
 #include <string>
-#include <vector>
 
 #include "playback/midi/smf_bytes.h"
 
