@@ -12,21 +12,8 @@ namespace {
 
 using HeaderField = std::u16string TCLyricHeaders::*;
 
-// The order in which the header values stand in the packed text.
-enum Header : std::size_t {
-  kArtist,
-  kAlbum,
-  kTitle,
-  kSongCreator,
-  kLength,
-  kLyricWriter,
-  kEditor,
-  kVersion,
-  kOffset,
-  kHeaderCount
-};
-
-constexpr std::array<HeaderField, kHeaderCount> kHeaderFields = {
+// In the order in which the values stand in the packed text.
+constexpr std::array<HeaderField, 9> kHeaderFields = {
     &TCLyricHeaders::artist,      &TCLyricHeaders::album,   &TCLyricHeaders::title,
     &TCLyricHeaders::songCreator, &TCLyricHeaders::length,  &TCLyricHeaders::lyricWriter,
     &TCLyricHeaders::editor,      &TCLyricHeaders::version, &TCLyricHeaders::offset,
@@ -106,7 +93,8 @@ class Reader {
 class LineReader {
  public:
   explicit LineReader(const char* block) : reader(block), left(reader.TakeNumber()) {
-    for (std::size_t header = 0; header < kHeaderCount; ++header) reader.TakeText(reader.TakeNumber());
+    for (std::size_t header = 0; header < kHeaderFields.size(); ++header)
+      reader.TakeText(reader.TakeNumber());
   }
 
   // False behind the last line.
@@ -133,7 +121,7 @@ class LineReader {
   std::string_view text;
 };
 
-using EncodedHeaders = std::array<std::string, kHeaderCount>;
+using EncodedHeaders = std::array<std::string, kHeaderFields.size()>;
 
 template <class Target>
 void Pack(const TCLyricSheet& sheet, const EncodedHeaders& headers, Target& target) {
@@ -173,7 +161,7 @@ void TCLyricSheet::Add(std::string_view utf8, std::int32_t start, std::int32_t e
 TCSongLyrics::TCSongLyrics(const TCLyricSheet& sheet) {
   if (sheet.lines.empty() && sheet.headers == TCLyricHeaders()) return;
   EncodedHeaders headers;
-  for (std::size_t header = 0; header < kHeaderCount; ++header) {
+  for (std::size_t header = 0; header < headers.size(); ++header) {
     EncodeLyricText(headers[header], sheet.headers.*kHeaderFields[header]);
   }
   Ruler ruler;
@@ -212,47 +200,13 @@ std::int32_t TCSongLyrics::FindLineAt(std::int32_t timeMs) const {
   return -1;
 }
 
-std::u16string TCSongLyrics::HeaderAt(std::size_t header) const {
-  if (!packed) return {};
-  Reader reader(packed.get());
-  reader.TakeNumber();  // of lines
-  for (std::size_t before = 0; before < header; ++before) reader.TakeText(reader.TakeNumber());
-  return DecodeLyricText(reader.TakeText(reader.TakeNumber()));
-}
-
-std::u16string TCSongLyrics::Artist() const {
-  return HeaderAt(kArtist);
-}
-std::u16string TCSongLyrics::Album() const {
-  return HeaderAt(kAlbum);
-}
-std::u16string TCSongLyrics::Title() const {
-  return HeaderAt(kTitle);
-}
-std::u16string TCSongLyrics::SongCreator() const {
-  return HeaderAt(kSongCreator);
-}
-std::u16string TCSongLyrics::Length() const {
-  return HeaderAt(kLength);
-}
-std::u16string TCSongLyrics::LyricWriter() const {
-  return HeaderAt(kLyricWriter);
-}
-std::u16string TCSongLyrics::Editor() const {
-  return HeaderAt(kEditor);
-}
-std::u16string TCSongLyrics::Version() const {
-  return HeaderAt(kVersion);
-}
-std::u16string TCSongLyrics::Offset() const {
-  return HeaderAt(kOffset);
-}
-
 TCLyricHeaders TCSongLyrics::Headers() const {
   TCLyricHeaders headers;
   if (!packed) return headers;
-  for (std::size_t header = 0; header < kHeaderCount; ++header) {
-    headers.*kHeaderFields[header] = HeaderAt(header);
+  Reader reader(packed.get());
+  reader.TakeNumber();  // of lines
+  for (const HeaderField field : kHeaderFields) {
+    headers.*field = DecodeLyricText(reader.TakeText(reader.TakeNumber()));
   }
   return headers;
 }

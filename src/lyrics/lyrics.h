@@ -88,24 +88,12 @@ class TCSongLyrics {
   // The first line with start <= timeMs < end, or -1. Unpacks no text.
   [[nodiscard]] std::int32_t FindLineAt(std::int32_t timeMs) const;
 
-  [[nodiscard]] std::u16string Artist() const;
-  [[nodiscard]] std::u16string Album() const;
-  [[nodiscard]] std::u16string Title() const;
-  [[nodiscard]] std::u16string SongCreator() const;
-  [[nodiscard]] std::u16string Length() const;
-  [[nodiscard]] std::u16string LyricWriter() const;
-  [[nodiscard]] std::u16string Editor() const;
-  [[nodiscard]] std::u16string Version() const;
-  [[nodiscard]] std::u16string Offset() const;
-
   [[nodiscard]] TCLyricHeaders Headers() const;
 
   // Equal when they hold the same lines and header values.
   friend bool operator==(const TCSongLyrics& a, const TCSongLyrics& b);
 
  private:
-  [[nodiscard]] std::u16string HeaderAt(std::size_t header) const;
-
   std::shared_ptr<const char[]> packed;
 };
 

@@ -128,13 +128,6 @@ void TCCustomisedBars::Insert(TCTextId bar, std::size_t place, TCBarItem item) {
   SetItems(bar, std::move(items));
 }
 
-void TCCustomisedBars::RemoveAt(TCTextId bar, std::size_t place) {
-  TCBarItems items = ItemsOf(bar);
-  if (place >= items.size()) return;
-  items.erase(items.begin() + static_cast<std::ptrdiff_t>(place));
-  SetItems(bar, std::move(items));
-}
-
 std::u16string ItemText(const TCBarItem& item) {
   switch (item.kind) {
     case Kind::Command:

@@ -63,7 +63,6 @@ struct TCCustomisedBars {
   // Puts the item in front of the one at `place`, or behind all. A bar shows a command or built-in menu once,
   // so one that is there already moves; a time field leaves the bar that it was on.
   void Insert(TCTextId bar, std::size_t place, TCBarItem item);
-  void RemoveAt(TCTextId bar, std::size_t place);
 
   friend bool operator==(const TCCustomisedBars&, const TCCustomisedBars&) = default;
 };

@@ -6,11 +6,6 @@ std::u16string_view MenuTextWithoutHint(std::u16string_view menuText) {
   return menuText.substr(0, menuText.find(u'\t'));
 }
 
-std::u16string_view KeyHint(std::u16string_view menuText) {
-  const std::size_t tab = menuText.find(u'\t');
-  return tab == std::u16string_view::npos ? std::u16string_view() : menuText.substr(tab + 1);
-}
-
 std::u16string WithoutMnemonic(std::u16string_view text) {
   std::u16string plain(text);
   std::erase(plain, u'&');

@@ -218,7 +218,7 @@ TEST_F(LyricFile, EveryLineEndsWhereTheNextBegins) {
   EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 10'000, 20'000, 0}));
   EXPECT_EQ(lyrics.LineAt(1), (TCLyric{u"b", 20'000, 30'000, 0}));
   EXPECT_EQ(lyrics.LineAt(2), (TCLyric{u"c", 30'000, kEndOfLyrics, 0}));
-  EXPECT_EQ(lyrics.Title(), u"Song");
+  EXPECT_EQ(lyrics.Headers().title, u"Song");
 }
 
 TEST_F(LyricFile, TagsOfEveryShapeAreReadAlike) {
@@ -239,7 +239,7 @@ TEST_F(LyricFile, TheOffsetMovesEveryLineButTheLast) {
   EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 9'500, 19'500, 0}));
   EXPECT_EQ(lyrics.LineAt(1), (TCLyric{u"b", 19'500, 29'500, 0}));
   EXPECT_EQ(lyrics.LineAt(2), (TCLyric{u"c", 30'000, kEndOfLyrics, 0}));
-  EXPECT_EQ(lyrics.Offset(), u"500");
+  EXPECT_EQ(lyrics.Headers().offset, u"500");
 }
 
 TEST_F(LyricFile, ANegativeOffsetMovesLinesBack) {
@@ -280,25 +280,25 @@ TEST_F(LyricFile, AnUnfinishedLastLineIsLostUnlessItIsTheOnlyOne) {
 
 TEST_F(LyricFile, AMarkGarblesTheFirstLine) {
   const TCSongLyrics lyrics = Load("\xEF\xBB\xBF[ti:Song]\r\n[al:Album]\r\n");
-  EXPECT_EQ(lyrics.Title(), u":Song");
-  EXPECT_EQ(lyrics.Album(), u"Album");
+  EXPECT_EQ(lyrics.Headers().title, u":Song");
+  EXPECT_EQ(lyrics.Headers().album, u"Album");
 }
 
 TEST_F(LyricFile, EightBitTextIsUtf8OrWindows1252) {
-  EXPECT_EQ(Load("[ti:caf\xC3\xA9]\r\n").Title(), u"caf\u00E9");
-  EXPECT_EQ(Load("[ti:caf\xE9 \x80]\r\n").Title(), u"caf\u00E9 \u20AC");
+  EXPECT_EQ(Load("[ti:caf\xC3\xA9]\r\n").Headers().title, u"caf\u00E9");
+  EXPECT_EQ(Load("[ti:caf\xE9 \x80]\r\n").Headers().title, u"caf\u00E9 \u20AC");
 }
 
 TEST_F(LyricFile, TheEightBitFileWins) {
   files.PutUtf16(u"C:\\Music\\Song.lrcx", u"[ti:wide]\r\n");
-  EXPECT_EQ(Load("[ti:narrow]\r\n").Title(), u"narrow");
+  EXPECT_EQ(Load("[ti:narrow]\r\n").Headers().title, u"narrow");
 }
 
 TEST_F(LyricFile, TheWideFileIsReadWhereThereIsNoOther) {
   files.PutUtf16(u"C:\\Music\\Song.lrcx", u"\uFEFF[ti:\u65E5\u672C]\r\n[00:10.00]M: \u8A9E\r\n");
   TCSongLyrics lyrics;
   EXPECT_TRUE(LoadLyrics(files, u"C:\\Music\\Song.mp3", lyrics));
-  EXPECT_EQ(lyrics.Title(), u"\u65E5\u672C");
+  EXPECT_EQ(lyrics.Headers().title, u"\u65E5\u672C");
   EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"M: \u8A9E", 10'000, kEndOfLyrics, 1}));
 }
 
@@ -317,15 +317,15 @@ TEST_F(LyricFile, WithoutOneTheLinesGoAndTheHeaderValuesStay) {
   files.MakeUnreadable(u"C:\\Music\\Song.lrc");
   EXPECT_FALSE(LoadLyrics(files, u"C:\\Music\\Song.mp3", lyrics));
   EXPECT_TRUE(lyrics.Empty());
-  EXPECT_EQ(lyrics.Title(), u"Song");
+  EXPECT_EQ(lyrics.Headers().title, u"Song");
 }
 
 TEST_F(LyricFile, LoadingAgainReplacesTheLinesAndOnlyTheHeaderValuesThatAreSet) {
   TCSongLyrics lyrics = Load("[ti:Song]\r\n[al:Album]\r\n[offset:500]\r\n[00:10.00]a\r\n");
   files.Put(u"C:\\Music\\Song.lrc", "[ti:Other]\r\n[00:10.00]b\r\n[00:20.00]c\r\n");
   EXPECT_TRUE(LoadLyrics(files, u"C:\\Music\\Song.mp3", lyrics));
-  EXPECT_EQ(lyrics.Title(), u"Other");
-  EXPECT_EQ(lyrics.Album(), u"Album");
+  EXPECT_EQ(lyrics.Headers().title, u"Other");
+  EXPECT_EQ(lyrics.Headers().album, u"Album");
   ASSERT_EQ(lyrics.LineCount(), 2U);
   EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"b", 9'500, 19'500, 0}));
 }
@@ -346,7 +346,7 @@ TEST_F(LyricFile, InTheWrongEncodingIsReadAsWhatItLooksLike) {
   // UTF-16 under the name of an 8-bit file: the zero bytes stay in the text, and a return swallows one of
   // them.
   const std::string wide("[\0t\0i\0:\0S\0]\0\r\0\n\0", 16);
-  EXPECT_EQ(Load(wide).Title(), u"");
+  EXPECT_EQ(Load(wide).Headers().title, u"");
   files.Remove(u"C:\\Music\\Song.lrc");
   files.Put(u"C:\\Music\\Song.lrcx", "[ti:Song]\r\n[00:10.00]a\r\n");
   TCSongLyrics lyrics;
@@ -377,7 +377,7 @@ TEST_F(LyricFile, PastTheGreatestSizeIsPassedOver) {
   files.PutUtf16(u"C:\\Music\\Song.lrcx", u"[ti:wide]\r\n");
   TCSongLyrics lyrics;
   EXPECT_TRUE(LoadLyrics(files, u"C:\\Music\\Song.mp3", lyrics));
-  EXPECT_EQ(lyrics.Title(), u"wide");
+  EXPECT_EQ(lyrics.Headers().title, u"wide");
 }
 
 }  // namespace

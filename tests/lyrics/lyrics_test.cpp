@@ -19,7 +19,7 @@ TEST(Lyrics, AreEmptyAtFirst) {
   EXPECT_TRUE(lyrics.HoldsNothing());
   EXPECT_EQ(lyrics.LineCount(), 0U);
   EXPECT_EQ(lyrics.LineAt(0), TCLyric());
-  EXPECT_EQ(lyrics.Artist(), u"");
+  EXPECT_EQ(lyrics.Headers().artist, u"");
   EXPECT_EQ(lyrics.Headers(), TCLyricHeaders());
   EXPECT_EQ(lyrics.FindLineAt(0), -1);
 }
@@ -41,15 +41,15 @@ TEST(Lyrics, HoldTheirLinesInOrder) {
 
 TEST(Lyrics, HoldTheirHeaderValues) {
   const TCSongLyrics lyrics = LyricsOf({{u"line", 0, 1, 0}}, AllHeaders());
-  EXPECT_EQ(lyrics.Artist(), u"artist");
-  EXPECT_EQ(lyrics.Album(), u"album");
-  EXPECT_EQ(lyrics.Title(), u"title");
-  EXPECT_EQ(lyrics.SongCreator(), u"creator");
-  EXPECT_EQ(lyrics.Length(), u"length");
-  EXPECT_EQ(lyrics.LyricWriter(), u"writer");
-  EXPECT_EQ(lyrics.Editor(), u"editor");
-  EXPECT_EQ(lyrics.Version(), u"version");
-  EXPECT_EQ(lyrics.Offset(), u"offset");
+  EXPECT_EQ(lyrics.Headers().artist, u"artist");
+  EXPECT_EQ(lyrics.Headers().album, u"album");
+  EXPECT_EQ(lyrics.Headers().title, u"title");
+  EXPECT_EQ(lyrics.Headers().songCreator, u"creator");
+  EXPECT_EQ(lyrics.Headers().length, u"length");
+  EXPECT_EQ(lyrics.Headers().lyricWriter, u"writer");
+  EXPECT_EQ(lyrics.Headers().editor, u"editor");
+  EXPECT_EQ(lyrics.Headers().version, u"version");
+  EXPECT_EQ(lyrics.Headers().offset, u"offset");
   EXPECT_EQ(lyrics.Headers(), AllHeaders());
   EXPECT_EQ(lyrics.LineAt(0).text, u"line");
 }
@@ -58,14 +58,14 @@ TEST(Lyrics, WithHeaderValuesAloneAreEmptyOfLines) {
   const TCSongLyrics lyrics = LyricsOf({}, AllHeaders());
   EXPECT_TRUE(lyrics.Empty());
   EXPECT_FALSE(lyrics.HoldsNothing());
-  EXPECT_EQ(lyrics.Title(), u"title");
+  EXPECT_EQ(lyrics.Headers().title, u"title");
 }
 
 TEST(Lyrics, OfEveryScriptComeBackAsTheyWere) {
   TCLyricHeaders headers;
   headers.title = u"\u65E5\u672C\u8A9E";
   const TCSongLyrics wide = LyricsOf({{u"\u65E5\u672C", 0, 1, 0}, {u"\u8A9E", 1, 2, 0}}, headers);
-  EXPECT_EQ(wide.Title(), headers.title);
+  EXPECT_EQ(wide.Headers().title, headers.title);
   EXPECT_EQ(wide.LineAt(0).text, u"\u65E5\u672C");
   EXPECT_EQ(wide.LineAt(1).text, u"\u8A9E");
 }

@@ -55,7 +55,7 @@ TEST_F(DocumentFileTest, ASongsLyricFileIsReadWithIt) {
   files.Put(u"C:\\a.lrc", "[ti:Title]\r\n[00:01.00]First line\r\n");
   ASSERT_TRUE(Open(u"\"A\" \"P\" \"C:\\a.mp3\" 03:00\r\n\"A\" \"P\" \"C:\\b.mp3\" 03:00\r\n"));
   EXPECT_EQ(PlaylistOf(0, 0).items.at(0).lyrics.LineCount(), 1u);
-  EXPECT_EQ(PlaylistOf(0, 0).items.at(0).lyrics.Title(), u"Title");
+  EXPECT_EQ(PlaylistOf(0, 0).items.at(0).lyrics.Headers().title, u"Title");
   EXPECT_TRUE(PlaylistOf(0, 0).items.at(1).lyrics.Empty());
 }
 

@@ -49,6 +49,17 @@ TEST(BarTarget, AMenuHoldsWhatIsPutIntoIt) {
   EXPECT_EQ(bars.ItemsOf(kMenu.bar).size(), 4u);
 }
 
+TEST(BarTarget, AnItemIsRemovedByItsPlace) {
+  TCCustomisedBars bars;
+  RemoveFrom(bars, kStandard, 1);
+  EXPECT_EQ(CommandsIn(bars, kStandard), (std::vector<Id>{Id::FileNew, Id::FileSave}));
+  RemoveFrom(bars, kStandard, 2);
+  EXPECT_EQ(ItemsIn(bars, kStandard).size(), 2u) << "there is no such place";
+  RemoveFrom(bars, kStandard, 0);
+  RemoveFrom(bars, kStandard, 0);
+  EXPECT_TRUE(ItemsIn(bars, kStandard).empty()) << "an empty bar is not a delivered one";
+}
+
 TEST(BarTarget, AMenuTakesCommandsAlone) {
   TCCustomisedBars bars = WithMenu();
   for (const TCBarItem& item : {TCBarItem(), MenuItem(TCMenuPlace::Play), NewMenuItem(u"Another"),

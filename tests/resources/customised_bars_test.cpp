@@ -62,17 +62,6 @@ TEST(CustomisedBars, SeparatorsAndMenusOfTheUsersOwnMayStandTwice) {
   EXPECT_EQ(bars.ItemsOf(kStandard).size(), 3u + 2 + 2 + 1);
 }
 
-TEST(CustomisedBars, AnItemIsRemovedByItsPlace) {
-  TCCustomisedBars bars;
-  bars.RemoveAt(kStandard, 1);
-  EXPECT_EQ(CommandsOf(bars, kStandard), (std::vector<Id>{Id::FileNew, Id::FileSave}));
-  bars.RemoveAt(kStandard, 2);
-  EXPECT_EQ(bars.ItemsOf(kStandard).size(), 2u) << "there is no such place";
-  bars.RemoveAt(kStandard, 0);
-  bars.RemoveAt(kStandard, 0);
-  EXPECT_TRUE(bars.ItemsOf(kStandard).empty()) << "an empty bar is not a delivered one";
-}
-
 TEST(CustomisedBars, EveryItemIsKeptAsATextAndReadBack) {
   TCBarItem menu = NewMenuItem(u"Intro, & outro");
   menu.entries = {Id::Play, Id::Stop};
