@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/utf16.h"
 #include "text/case_folding.h"
 #include "text/file_system.h"
 
@@ -37,14 +38,7 @@ class TCMemoryFiles final : public TCFileSystem {
   void Put(std::u16string_view path, std::string bytes = {}) { files[ToLower(path)] = std::move(bytes); }
 
   // The text as a text line file holds it: UTF-16 little-endian, no mark, line ends as they stand in `text`.
-  void PutUtf16(std::u16string_view path, std::u16string_view text) {
-    std::string bytes;
-    for (const char16_t unit : text) {
-      bytes.push_back(static_cast<char>(unit & 0xFF));
-      bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    Put(path, std::move(bytes));
-  }
+  void PutUtf16(std::u16string_view path, std::u16string_view text) { Put(path, Utf16Bytes(text)); }
 
   void Remove(std::u16string_view path) { files.erase(ToLower(path)); }
   void MakeUnreadable(std::u16string_view path) { unreadable.insert(ToLower(path)); }

@@ -191,7 +191,7 @@ TEST_P(PlayerContract, AnEndedSongPlaysAgainFromItsBeginning) {
 TEST_P(PlayerContract, ASongShorterThanThePollsIsSeenToSoundBeforeItEnds) {
   LoadAndOpen(TCContractSong::Blink);
   Player().Play();
-  EXPECT_TRUE(rig->Await([] { return false; }, 0.5) == false);  // nobody asks meanwhile
+  EXPECT_FALSE(rig->Await([] { return false; }, 0.5));  // nobody asks meanwhile
   EXPECT_GT(Position(), 0.0);
   EXPECT_TRUE(Await([this] { return Position() == 0.0; }));
 }

@@ -41,14 +41,15 @@ class TCTempFolder {
     return TCNativePaths::FromNative(Native(name)).value_or(u"no name the model can hold");
   }
 
-  // Makes the file and the folders above it.
-  void Write(std::string_view name, std::string_view bytes = {}) const {
+  // Makes the file and the folders above it. The file's native name.
+  std::string Write(std::string_view name, std::string_view bytes = {}) const {
     const std::filesystem::path path = Native(name);
     std::filesystem::create_directories(path.parent_path());
     std::ofstream file(path, std::ios::binary);
     file << bytes;
     file.close();
     EXPECT_TRUE(file.good()) << path;
+    return path.string();
   }
   void MakeFolder(std::string_view name) const { std::filesystem::create_directories(Native(name)); }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/memory_files.h"
+#include "support/utf16.h"
 
 namespace brevant {
 namespace {
@@ -11,17 +12,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string Utf16(std::u16string_view text) {
-  std::string bytes;
-  for (const char16_t unit : text) {
-    bytes.push_back(static_cast<char>(unit & 0xFF));
-    bytes.push_back(static_cast<char>(unit >> 8));
-  }
-  return bytes;
-}
-
 TextLines Split(std::u16string_view text) {
-  return SplitUtf16Lines(Utf16(text));
+  return SplitUtf16Lines(Utf16Bytes(text));
 }
 
 TEST(TextLines, AMarkBeforeTheFirstCharacterIsDropped) {
@@ -67,8 +59,8 @@ TEST(TextLines, OfNothingAreNone) {
 }
 
 TEST(TextLines, AnOddLastByteIsIgnored) {
-  EXPECT_THAT(SplitUtf16Lines(Utf16(u"a\r\n") + "b"), ElementsAre(u"a"));
-  EXPECT_THAT(SplitUtf16Lines(Utf16(u"a\r\n").substr(0, 5)), ElementsAre(u"a"));
+  EXPECT_THAT(SplitUtf16Lines(Utf16Bytes(u"a\r\n") + "b"), ElementsAre(u"a"));
+  EXPECT_THAT(SplitUtf16Lines(Utf16Bytes(u"a\r\n").substr(0, 5)), ElementsAre(u"a"));
 }
 
 TEST(TextLines, OfAnEightBitFileReadAsUtf16AreOneLine) {
@@ -105,8 +97,8 @@ TEST(TextLines, EightBitTextIsDecodedAsAWhole) {
 }
 
 TEST(TextLines, AreVisitedAsTheyAreSplit) {
-  for (const std::string& bytes : {std::string(), std::string("a"), Utf16(u"\uFEFFa\r\n\r\nb\r"),
-                                   Utf16(u"one"), std::string("a\r\ncaf\xC3\xA9\r\nlost")}) {
+  for (const std::string& bytes : {std::string(), std::string("a"), Utf16Bytes(u"\uFEFFa\r\n\r\nb\r"),
+                                   Utf16Bytes(u"one"), std::string("a\r\ncaf\xC3\xA9\r\nlost")}) {
     TextLines visited;
     const LineVisitor keep = [&visited](std::u16string_view line) { visited.emplace_back(line); };
     VisitUtf16Lines(bytes, keep);
@@ -118,7 +110,7 @@ TEST(TextLines, AreVisitedAsTheyAreSplit) {
 }
 
 TEST(TextLines, AreWrittenWithoutAMarkAndWithAnEndAfterEveryLine) {
-  EXPECT_EQ(JoinUtf16Lines({u"a", u"", u"\u20AC"}), Utf16(u"a\r\n\r\n\u20AC\r\n"));
+  EXPECT_EQ(JoinUtf16Lines({u"a", u"", u"\u20AC"}), Utf16Bytes(u"a\r\n\r\n\u20AC\r\n"));
   EXPECT_EQ(JoinUtf16Lines({}), "");
 }
 
@@ -159,7 +151,7 @@ TEST(TextLines, TheFirstCanBeHadAlone) {
        {u"", u"\r", u"\r\n", u"a", u"a\r", u"a\rb", u"a\r\nb\r\n", u"\r\na\r\n", u"\uFEFFa\r\nb",
         u"\u0D00\u000Aa\r\n", u"\uFEFF", u"\uFEFF\r\na\r\n"}) {
     const TextLines lines = Split(text);
-    const auto first = FirstUtf16Line(Utf16(text));
+    const auto first = FirstUtf16Line(Utf16Bytes(text));
     EXPECT_EQ(first, lines.empty() ? std::nullopt : std::optional(lines.front()))
         << testing::PrintToString(text);
   }
@@ -213,7 +205,7 @@ TEST(TextLines, AFilePastTheGreatestSizeIsRefused) {
 TEST(TextLines, AreWrittenAndReadBack) {
   TCMemoryFiles files;
   EXPECT_TRUE(WriteTextLines(files, u"a.brv", {u"one", u"", u"\u20AC"}));
-  EXPECT_EQ(files.BytesOf(u"a.brv"), Utf16(u"one\r\n\r\n\u20AC\r\n"));
+  EXPECT_EQ(files.BytesOf(u"a.brv"), Utf16Bytes(u"one\r\n\r\n\u20AC\r\n"));
   TextLines lines;
   EXPECT_TRUE(ReadTextLines(files, u"a.brv", lines));
   EXPECT_THAT(lines, ElementsAre(u"one", u"", u"\u20AC"));

@@ -7,7 +7,7 @@
 
 #include "playback/gst/gst_player.h"
 #include "playback/gst/song_files.h"
-#include "playback/gst/temp_folder.h"
+#include "support/temp_folder.h"
 
 namespace brevant {
 namespace {
@@ -57,7 +57,7 @@ class Accident : public testing::Test {
 };
 
 TEST_F(Accident, TheFileIsNotThere) {
-  ExpectUnplayable(folder.path / "nothing.mp3");
+  ExpectUnplayable(folder.Native("nothing.mp3"));
 }
 
 TEST_F(Accident, TheFileIsEmpty) {
@@ -69,12 +69,13 @@ TEST_F(Accident, ATextIsNamedLikeASong) {
 }
 
 TEST_F(Accident, TheFileIsAFolder) {
-  ExpectUnplayable(folder.path);
+  folder.MakeFolder("song.mp3");
+  ExpectUnplayable(folder.Native("song.mp3"));
 }
 
 TEST_F(Accident, TheFileIsAPipeNobodyWritesTo) {
-  ASSERT_EQ(mkfifo((folder.path / "pipe.wav").c_str(), 0600), 0);
-  ExpectUnplayable(folder.path / "pipe.wav");
+  ASSERT_EQ(mkfifo(folder.Native("pipe.wav").c_str(), 0600), 0);
+  ExpectUnplayable(folder.Native("pipe.wav"));
 }
 
 TEST_F(Accident, TheMidiFileHasNoTracks) {
@@ -83,8 +84,8 @@ TEST_F(Accident, TheMidiFileHasNoTracks) {
 
 TEST_F(Accident, NoSoundfontIsOnTheMachine) {
   TCGstPlayerOptions options = Options();
-  options.systemSoundfont = (folder.path / "nothing.sf2").string();
-  options.dataFolders = {folder.path.string()};
+  options.systemSoundfont = folder.Native("nothing.sf2");
+  options.dataFolders = {folder.Native("")};
   Restart(options);
   LoadAndPlay(SongFile("tone.mid"));
   ASSERT_TRUE(Opened());
@@ -95,7 +96,7 @@ TEST_F(Accident, NoSoundfontIsOnTheMachine) {
 
 TEST_F(Accident, TheFirstSoundfontIsDamagedAndTheNextIsTaken) {
   TCGstPlayerOptions options = Options();
-  options.soundfont = folder.Write("damaged.sf2", "RIFF....sfbk").string();
+  options.soundfont = folder.Write("damaged.sf2", "RIFF....sfbk");
   Restart(options);
   LoadAndPlay(SongFile("tone.mid"));
   EXPECT_TRUE(Await([this] { return Position() > 0.0; }));
@@ -309,7 +310,7 @@ TEST_F(Accident, TheNameHasSignsThatMeanSomethingInAnAddress) {
 
 TEST_F(Accident, TheNameWasWrittenInOtherUpperAndLowerCase) {
   folder.Write("Song.WAV", BytesOf(SongFile("tone.wav")));
-  LoadAndPlay(folder.path / "SONG.wav");
+  LoadAndPlay(folder.Native("SONG.wav"));
   EXPECT_TRUE(Await([this] { return Position() > 0.0; }));
 }
 

@@ -19,12 +19,6 @@ double SecondsSince(std::chrono::steady_clock::time_point begin) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-std::string BytesOf(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  EXPECT_TRUE(stream.is_open()) << file;
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 class GstLengthProbe : public testing::Test {
  protected:
   void Restart(const TCGstPlayerOptions& options) {

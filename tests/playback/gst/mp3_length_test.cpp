@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "playback/gst/song_files.h"
-#include "playback/gst/temp_folder.h"
+#include "support/temp_folder.h"
 
 namespace brevant {
 namespace {

@@ -20,6 +20,7 @@
 #include "support/pitch.h"
 #include "support/pulse_server.h"
 #include "support/temp_folder.h"
+#include "support/utf16.h"
 #include "text/disk_files.h"
 #include "text/numbers.h"
 #include "text/time_text.h"
@@ -49,12 +50,7 @@ class TCShow {
   bool Open(const TCTempFolder& folder, const std::vector<std::u16string>& songs) {
     std::u16string text;
     for (const std::u16string& song : songs) text += u"\"Band\" \"Set\" \"" + song + u"\" 09:09\r\n";
-    std::string bytes;
-    for (const char16_t unit : text) {
-      bytes.push_back(static_cast<char>(unit & 0xFF));
-      bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    folder.Write("show.brv", bytes);
+    folder.Write("show.brv", Utf16Bytes(text));
     document.OnOpenDocument(folder.Model("show.brv"));
     return !record.setLists.groups.empty() && Songs().size() == songs.size();
   }
@@ -91,15 +87,10 @@ class TCShow {
 
 TEST(RealShow, BrokenAndMissingSongsInTheMiddleOfARunCostNoneOfTheOthersItsTime) {
   const TCTempFolder folder;
-  const auto bytesOf = [](const char* name) {
-    std::ifstream stream(SongFile(name), std::ios::binary);
-    EXPECT_TRUE(stream.is_open()) << name;
-    return std::string(std::istreambuf_iterator<char>(stream), {});
-  };
-  const std::string wma = bytesOf("mark.wma");
+  const std::string wma = BytesOf(SongFile("mark.wma"));
   std::string scrambled = wma;
   std::fill(scrambled.begin() + 30, scrambled.begin() + 200, '\xFF');
-  folder.Write("no_tracks.mid", bytesOf("mark.mid").substr(0, 14));
+  folder.Write("no_tracks.mid", BytesOf(SongFile("mark.mid")).substr(0, 14));
   folder.Write("no_midi.mid", "MThd and nothing that follows from it");
   folder.Write("headless.wma", wma.substr(100));
   folder.Write("scrambled.wma", scrambled);
@@ -274,15 +265,6 @@ std::string Windows1252(std::u16string_view text) {
   return bytes;
 }
 
-std::string Utf16(std::u16string_view text) {
-  std::string bytes;
-  for (const char16_t unit : text) {
-    bytes.push_back(static_cast<char>(unit & 0xFF));
-    bytes.push_back(static_cast<char>(unit >> 8));
-  }
-  return bytes;
-}
-
 // Silence, 8 bits at 8000 a second.
 std::string LongWave(std::uint32_t seconds) {
   const auto number = [](std::uint32_t value, int bytes) {
@@ -309,7 +291,7 @@ TEST(RealShow, HundredsOfLinesOfEveryEncodingFollowTheSongWithinOnePoll) {
   };
   const std::vector<Case> cases{{".lrc in UTF-8", "song.lrc", EncodeUtf8(text)},
                                 {".lrc in Windows-1252", "song.lrc", Windows1252(text)},
-                                {".lrcx", "song.lrcx", Utf16(text)}};
+                                {".lrcx", "song.lrcx", Utf16Bytes(text)}};
   const std::vector<TCTempFolder> folders(cases.size());
   std::vector<std::unique_ptr<TCShow>> shows;
   for (std::size_t i = 0; i < cases.size(); ++i) {

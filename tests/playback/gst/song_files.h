@@ -1,9 +1,14 @@
-// Where the tests' songs lie, as the model names them, and a player's rig without a sound device.
+// The songs that the build makes for the player's tests, as the system and as the model names them, and a way
+// to wait for the player.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <thread>
 
@@ -21,6 +26,12 @@ inline std::u16string UrlOf(const std::filesystem::path& file) {
 
 inline std::u16string SongUrl(const std::string& name) {
   return UrlOf(SongFile(name));
+}
+
+inline std::string BytesOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  EXPECT_TRUE(stream.is_open()) << file;
+  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 // Polls `condition` until it holds; false when it does not within `seconds`.

@@ -3,61 +3,47 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
+#include <string>
+
+#include "support/temp_folder.h"
 
 namespace brevant {
 namespace {
 
-namespace fs = std::filesystem;
 using testing::ElementsAre;
 
 class SoundfontSearch : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "soundfonts-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder = pattern;
-  }
-  void TearDown() override { fs::remove_all(folder); }
-
-  std::string Make(const std::string& name) {
-    const fs::path path = folder / name;
-    fs::create_directories(path.parent_path());
-    std::ofstream(path) << "x";
-    return path.string();
-  }
-
-  fs::path folder;
+  TCTempFolder folder;
 };
 
 TEST_F(SoundfontSearch, ThePreferredOnesComeFirstThenTheFoldersInTheirOrderByName) {
-  const std::string zebra = Make("home/sounds/sf2/zebra.sf2");
-  const std::string ant = Make("home/sounds/sf2/ANT.SF2");
-  const std::string compressed = Make("home/sounds/sf3/b.sf3");
-  const std::string other = Make("system/soundfonts/c.sf2");
-  const std::string mine = Make("mine.sf2");
-  Make("home/sounds/sf2/readme.txt");
-  EXPECT_THAT(FindSoundfonts({"", mine}, {folder / "home", folder / "system"}),
+  const std::string zebra = folder.Write("home/sounds/sf2/zebra.sf2");
+  const std::string ant = folder.Write("home/sounds/sf2/ANT.SF2");
+  const std::string compressed = folder.Write("home/sounds/sf3/b.sf3");
+  const std::string other = folder.Write("system/soundfonts/c.sf2");
+  const std::string mine = folder.Write("mine.sf2");
+  folder.Write("home/sounds/sf2/readme.txt");
+  EXPECT_THAT(FindSoundfonts({"", mine}, {folder.Native("home"), folder.Native("system")}),
               ElementsAre(mine, ant, zebra, compressed, other));
 }
 
 TEST_F(SoundfontSearch, APreferredOneThatIsMissingOrAFolderIsPassedOver) {
-  const std::string other = Make("soundfonts/c.sf2");
-  EXPECT_THAT(FindSoundfonts({(folder / "gone.sf2").string()}, {folder}), ElementsAre(other));
-  EXPECT_THAT(FindSoundfonts({folder.string()}, {folder}), ElementsAre(other));
+  const std::string other = folder.Write("soundfonts/c.sf2");
+  EXPECT_THAT(FindSoundfonts({folder.Native("gone.sf2")}, {folder.Native("")}), ElementsAre(other));
+  EXPECT_THAT(FindSoundfonts({folder.Native("")}, {folder.Native("")}), ElementsAre(other));
 }
 
 TEST_F(SoundfontSearch, NoFileIsNamedTwice) {
-  const std::string file = Make("soundfonts/c.sf2");
-  EXPECT_THAT(FindSoundfonts({file}, {folder, folder}), ElementsAre(file));
+  const std::string file = folder.Write("soundfonts/c.sf2");
+  EXPECT_THAT(FindSoundfonts({file}, {folder.Native(""), folder.Native("")}), ElementsAre(file));
 }
 
 TEST_F(SoundfontSearch, AFolderNamedLikeASoundfontAndALinkToNothingAreNone) {
-  fs::create_directories(folder / "soundfonts/folder.sf2");
-  fs::create_symlink(folder / "nothing", folder / "soundfonts/broken.sf2");
-  EXPECT_THAT(FindSoundfonts({}, {folder}), ElementsAre());
+  folder.MakeFolder("soundfonts/folder.sf2");
+  std::filesystem::create_symlink("nothing", folder.Native("soundfonts/broken.sf2"));
+  EXPECT_THAT(FindSoundfonts({}, {folder.Native("")}), ElementsAre());
 }
 
 TEST(DataFolders, AreTheUsersThenTheSystems) {
