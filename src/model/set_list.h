@@ -57,6 +57,7 @@ struct TCPlayListItem {
   void SetPath(std::u16string_view path, TCSongTexts& texts);
 };
 
+// One set list: songs in the order of the show.
 struct TCPlayList {
   std::u16string name;
   TCSharedText folder;  // of the playlist file; empty when it was listed without a folder
@@ -70,6 +71,7 @@ struct TCPlayList {
   std::vector<TCPlayListItem> items;
 };
 
+// One group of playlists.
 struct TCPlayGroups {
   std::u16string name;
   TCSharedText folder;  // of the group list file; bare playlist names are resolved against it

@@ -1,5 +1,7 @@
-// Every option of the program with its built-in default. Changed by commands while the program runs; read
-// from the settings file once at the start and written once at the end. User-interface thread only.
+// The options of the program with their built-in defaults. Changed by commands while the program runs; read
+// from the settings file once at the start and written once at the end. The gap between songs and the media
+// types are options too, but stand with the set lists that they are for (TCSetListStore). User-interface
+// thread only.
 #pragma once
 
 #include <cstdint>
@@ -30,6 +32,8 @@ struct TCSettings {
   bool autoPlayPlayList = false;
   bool liveViewMode = false;
 
+  // What the media file chooser begins with: a path, and the type in any form that ends with it ("*.mp3",
+  // "mp3").
   std::u16string lastMediaFileName;
   std::u16string lastMediaFileExtSpec;
 
@@ -37,8 +41,8 @@ struct TCSettings {
   std::u16string lyricsFontTypeName{kDefaultFontFace};
 
   std::int32_t seekStepSeconds = 2;
-  std::int32_t volumeStep = 5;  // on the scale 0 to 100
-  std::int32_t disableEditing = 0;
+  std::int32_t volumeStep = 5;         // on the scale 0 to 100
+  std::int32_t disableEditing = 0;     // on unless 0; a number in the settings file
   std::int32_t playListFontSize = 14;  // points; any value is kept, whatever shows it keeps it usable
   std::int32_t lyricsFontSize = 18;    // points
   std::int32_t numberLyricLines = 2;

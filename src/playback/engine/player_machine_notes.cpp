@@ -5,7 +5,11 @@
 
 namespace brevant {
 
+namespace {
+
 using Kind = TCPlayerAction::Kind;
+
+}  // namespace
 
 TCPlayerMachine::Actions TCPlayerMachine::OnNote(const TCPlayerNote& note, double now) {
   Actions actions;
