@@ -123,9 +123,11 @@ void TCStageStyle::DrawField(const QStyleOptionFrame& field, QPainter* painter, 
 
 QIcon TCStageStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
                                  const QWidget* widget) const {
-  // Every bar asks for this one when it is made. The toolkit's is black on every palette, and reading its
-  // files loads the readers of all picture formats: several milliseconds before the first window is seen.
+  // Every bar and every pane asks for these when it is made. The toolkit's are of one colour on every palette
+  // and blurred on many a screen, and reading their files takes milliseconds before the first window is seen.
   if (picture == SP_ToolBarHorizontalExtensionButton) return PictureIcon(kBarMoreIcon);
+  if (picture == SP_TitleBarNormalButton) return PictureIcon(kPaneFloatIcon);
+  if (picture == SP_TitleBarCloseButton) return PictureIcon(kPaneCloseIcon);
   return QProxyStyle::standardIcon(picture, option, widget);
 }
 

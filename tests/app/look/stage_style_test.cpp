@@ -115,15 +115,19 @@ TEST(StageStyle, AListOfManyChoicesOpensWithAFewAndIsScrolled) {
   list.hidePopup();
 }
 
-TEST(StageStyle, TheArrowOfANarrowBarIsSeenOnAnyBackground) {
+TEST(StageStyle, TheArrowOfANarrowBarAndThePanesButtonsAreSeenOnAnyBackground) {
   TCStageStyle style;
-  const QIcon arrow = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
   const QPalette before = QApplication::palette();
-  for (const QColor colour : {QColor(Qt::white), QColor(Qt::black)}) {
-    QPalette palette = before;
-    palette.setColor(QPalette::ButtonText, colour);
-    QApplication::setPalette(palette);
-    EXPECT_GT(Pixels(arrow, colour), 20) << colour.name().toStdString();
+  for (const QStyle::StandardPixmap picture :
+       {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_TitleBarNormalButton,
+        QStyle::SP_TitleBarCloseButton}) {
+    const QIcon icon = style.standardIcon(picture, nullptr, nullptr);
+    for (const QColor colour : {QColor(Qt::white), QColor(Qt::black)}) {
+      QPalette palette = before;
+      palette.setColor(QPalette::ButtonText, colour);
+      QApplication::setPalette(palette);
+      EXPECT_GT(Pixels(icon, colour), 20) << picture << colour.name().toStdString();
+    }
   }
   QApplication::setPalette(before);
 }
