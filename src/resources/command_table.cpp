@@ -190,6 +190,20 @@ constexpr TCCommand kCommands[] = {
 constexpr TCMenuPlace kMainMenus[] = {Menu::File,    Menu::Edit, Menu::Play, Menu::Commands,
                                       Menu::Options, Menu::View, Menu::Help};
 
+// What a menu opens with begins no group: nothing is above it. Inside View the tool bars' menu is above.
+// clang-format off
+constexpr Id kGroupBeginnings[] = {
+    Id::RecentFile, Id::Exit,                                                                      // File
+    Id::SelectSongToMove, Id::NewGroupFolder, Id::SongProperties, Id::Cancel,                      // Edit
+    Id::SeekForward, Id::NextSong, Id::VolumeUp, Id::SetRepeatBegin,                               // Play
+    Id::PlaylistFontSize, Id::ClearInformation, Id::Reset,                                         // Commands
+    Id::WhiteOnBlack, Id::ImmediatePlay, Id::SongLatency, Id::ConfirmFileRemove, Id::LoadLastFile, // Options
+    Id::Customize,                                                                                 // Toolbars
+    Id::PlaylistManagerPane, Id::FocusPlaylistManager,                                             // View
+    Id::About,                                                                                     // Help
+};
+// clang-format on
+
 // A context menu's entry; an empty text stands for the main menu's.
 constexpr TCMenuItem kSeparator = {};
 
@@ -286,6 +300,10 @@ std::vector<const TCCommand*> CommandsInMenu(TCMenuPlace place) {
     if (command.menu == place) entries.push_back(&command);
   }
   return entries;
+}
+
+bool BeginsMenuGroup(TCCommandId id) {
+  return std::ranges::find(kGroupBeginnings, id) != std::end(kGroupBeginnings);
 }
 
 std::vector<TCMenuItem> ContextMenu(TCContextMenu menu) {

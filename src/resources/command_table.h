@@ -73,6 +73,10 @@ struct TCCommand {
 // The entries of one menu from top to bottom.
 [[nodiscard]] std::vector<const TCCommand*> CommandsInMenu(TCMenuPlace place);
 
+// Whether the main menu draws a line above the command: it and those below it, down to the next line, belong
+// together.
+[[nodiscard]] bool BeginsMenuGroup(TCCommandId id);
+
 // The context menus.
 
 enum class TCContextMenu : int {

@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <algorithm>
 #include <array>
 
@@ -93,13 +94,16 @@ void TCColumnFitter::Fit() {
     if (columnHeader.sectionSize(column) != width) columnHeader.resizeSection(column, width);
     others += columnHeader.sectionSize(column);
   }
-  // The names take what is left, and the header's total is never cut off for want of a wider column.
+  // The names take what is left, and never less than the header above them.
   const int name = static_cast<int>(TCPlaylistColumn::Name);
   widths.SetNeeded(TCPlaylistColumn::Name, std::max(table.viewport()->width() - others,
                                                     CellWidthOf(HeaderOf(TCPlaylistColumn::Name))));
   const int nameWidth = widths.Of(TCPlaylistColumn::Name);
   if (columnHeader.sectionSize(name) != nameWidth) columnHeader.resizeSection(name, nameWidth);
-  table.setHorizontalScrollBarPolicy(NamesAreCutOff() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  const bool cutOff = NamesAreCutOff();
+  table.setHorizontalScrollBarPolicy(cutOff ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  // There would be no way back from where the table was scrolled to while it could be.
+  if (!cutOff) table.horizontalScrollBar()->setValue(0);
 }
 
 bool TCColumnFitter::NamesAreCutOff() {
@@ -112,8 +116,8 @@ bool TCColumnFitter::NamesAreCutOff() {
       std::max_element(rows.begin(), rows.end(), [](const TCPlaylistRow& a, const TCPlaylistRow& b) {
         return a.texts.name.size() < b.texts.name.size();
       });
-  const int nameWidth = longest == rows.end() ? 0 : CellWidthOf(ToQString(longest->texts.name));
-  return std::max(nameWidth, CellWidthOf(HeaderOf(TCPlaylistColumn::Name))) > seen;
+  // The header above is cut in front of its total, so that nobody has to scroll for that.
+  return longest != rows.end() && CellWidthOf(ToQString(longest->texts.name)) > seen;
 }
 
 void TCColumnFitter::Load(const QSettings& settings) {

@@ -7,10 +7,15 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
 #include <set>
+#include <utility>
 
+#include "app/bars/customize_sheet.h"
 #include "app/dialog_answer.h"
 #include "app/dialogs/add_play_items_dlg.h"
+#include "app/dialogs/form_dialog.h"
 #include "app/help/help_window.h"
 #include "app/whole_program.h"
 #include "resources/command_table.h"
@@ -51,8 +56,9 @@ bool IsTheToolkits(const QObject* object) {
   if (object == nullptr) return false;
   const bool listOfAFileChooser = object->inherits("QComboBoxListView") && InFileChooser(object);
   const QString name = object->objectName();
-  return listOfAFileChooser ||
-         (name.startsWith(QStringLiteral("qt_")) && !name.startsWith(QStringLiteral("qt_msgbox")));
+  const bool holdsOurs =
+      name.startsWith(QStringLiteral("qt_msgbox")) || name.startsWith(QStringLiteral("qt_tabwidget"));
+  return listOfAFileChooser || (name.startsWith(QStringLiteral("qt_")) && !holdsOurs);
 }
 
 // The controls below `root` that have no name, or one with the mark of a menu's letter in it.
@@ -114,6 +120,55 @@ TEST_F(AccessibleNames, EveryControlOfEveryDialogHasOne) {
   Frame().Tree().setFocus();
   Frame().Tree().SelectNode(app->Record().setLists.groups[0].treeNode);
   ExpectNamesInDialogOf(Id::Remove, 2);
+}
+
+TEST_F(AccessibleNames, EveryControlOfEveryFileDialogHasOne) {
+  Start(kShow);
+  ExpectNamesInDialogOf(Id::FileSaveAs, 5);
+  for (const auto& [command, button] :
+       {std::pair(Id::AddSongs, "FindSongs"), std::pair(Id::SongProperties, "SetDir")}) {
+    Frame().PlaylistView().selectRow(0);
+    // The form asks for files itself, so its answer is given from within.
+    const TCDialogAnswer<TCFormDialog> answer([name = button](TCFormDialog& form) {
+      auto* chooser = form.findChild<QPushButton*>(QLatin1String(name));
+      ASSERT_NE(chooser, nullptr) << name;
+      {
+        const TCDialogAnswer<QFileDialog> inner([](QFileDialog& dialog) {
+          EXPECT_EQ(FaultsOf(dialog, 5), "") << dialog.windowTitle().toStdString();
+          dialog.reject();
+        });
+        chooser->click();
+      }
+      form.reject();
+    });
+    app->Actions().ActionOf(command)->trigger();
+    QCoreApplication::sendPostedEvents();
+  }
+}
+
+TEST_F(AccessibleNames, EveryControlOfTheCustomizeSheetHasOne) {
+  Start(kShow);
+  TCCustomisedBars wanted;
+  wanted.Insert(TCTextId::StandardToolbar, 0, NewMenuItem(u"Mine"));
+  Frame().Bars().Customise(wanted);
+  // The sheet lets its caller go on, so nobody is waiting while it is open.
+  app->Actions().ActionOf(Id::Customize)->trigger();
+  QCoreApplication::sendPostedEvents();
+  auto* sheet = Frame().findChild<TCCustomizeSheet*>();
+  ASSERT_NE(sheet, nullptr);
+  auto* pages = sheet->findChild<QTabWidget*>(QStringLiteral("Pages"));
+  ASSERT_NE(pages, nullptr);
+  // The field for a menu's name comes with a menu of the user's own.
+  auto* target = sheet->findChild<QComboBox*>(QStringLiteral("BarTarget"));
+  const int mine = target->findText(QStringLiteral("Mine"), Qt::MatchContains);
+  ASSERT_GE(mine, 0);
+  target->setCurrentIndex(mine);
+  constexpr int kFewest[] = {13, 9, 14};
+  for (int page = 0; page < pages->count(); ++page) {
+    pages->setCurrentIndex(page);
+    EXPECT_EQ(FaultsOf(*sheet, kFewest[page]), "") << pages->tabText(page).toStdString();
+  }
+  sheet->accept();
 }
 
 TEST_F(AccessibleNames, TheGuideAndTheAboutBoxHaveThem) {

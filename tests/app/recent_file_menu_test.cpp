@@ -46,14 +46,19 @@ class RecentFileMenu : public TCWholeProgram {
  protected:
   [[nodiscard]] QMenu& FileMenu() { return *Frame().menuBar()->actions().constFirst()->menu(); }
 
-  // What stands between "Save As" and "Exit".
+  // What stands between the line below "Save As" and the one above "Exit".
   [[nodiscard]] QStringList Entries() {
     QStringList texts;
+    int lines = 0;
     for (const QAction* entry : FileMenu().actions()) {
-      if (entry->isVisible())
+      if (entry->isSeparator()) {
+        ++lines;
+      } else if (lines == 1 && entry->isVisible()) {
         texts.append(entry->text() + QLatin1String(entry->isEnabled() ? "" : " (disabled)"));
+      }
     }
-    return texts.mid(4, texts.size() - 5);
+    EXPECT_EQ(lines, 2);
+    return texts;
   }
 
   // `number` as the menu shows it.
@@ -83,7 +88,7 @@ TEST_F(RecentFileMenu, NumberedEntriesTakeThePlaceOfTheEntryAndComeBackAtTheNext
   app->Document().OpenDocumentFile(u"\\a\\b.brv");
   const QStringList entries{QStringLiteral("&1 b.brv"), QStringLiteral("&2 show.brv")};
   EXPECT_EQ(Entries(), entries);
-  for (const QAction* entry : FileMenu().actions().mid(4, 2))
+  for (const QAction* entry : FileMenu().actions().mid(5, 2))
     EXPECT_EQ(entry->statusTip(), QStringLiteral("Open this document"));
   app.reset();  // without a close
   files.Remove(kIniPath);

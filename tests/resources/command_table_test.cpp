@@ -28,6 +28,16 @@ std::vector<int> MenuNumbers(TCMenuPlace place) {
   return numbers;
 }
 
+// A menu's commands from top to bottom, with 0 for each line between two groups.
+std::vector<int> MenuGroups(TCMenuPlace place) {
+  std::vector<int> numbers;
+  for (const TCCommand* const command : CommandsInMenu(place)) {
+    if (BeginsMenuGroup(command->id)) numbers.push_back(0);
+    numbers.push_back(static_cast<int>(command->id));
+  }
+  return numbers;
+}
+
 std::vector<std::pair<int, std::u16string>> ContextItems(TCContextMenu menu) {
   std::vector<std::pair<int, std::u16string>> items;
   for (const TCMenuItem& item : ContextMenu(menu)) {
@@ -89,6 +99,24 @@ TEST(CommandTable, FillsTheMenusInOrder) {
   EXPECT_THAT(MenuNumbers(TCMenuPlace::View), ElementsAre(59393, 4002, 4000, 4003, 4004, 32907, 32908));
   EXPECT_THAT(MenuNumbers(TCMenuPlace::Help), ElementsAre(57667, 57664));
   EXPECT_THAT(MenuNumbers(TCMenuPlace::None), ElementsAre());
+}
+
+TEST(CommandTable, DrawsALineBetweenWhatDoesNotBelongTogether) {
+  EXPECT_THAT(MenuGroups(TCMenuPlace::File), ElementsAre(57600, 57601, 57603, 57604, 0, 57616, 0, 57665));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::Edit),
+              ElementsAre(57634, 57637, 32862, 32799, 32920, 0, 32949, 32946, 32947, 0, 32904, 32905, 32796,
+                          32797, 32798, 0, 32861, 0, 32793));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::Play),
+              ElementsAre(32772, 32773, 32774, 0, 32776, 32779, 0, 32852, 32853, 32831, 32832, 0, 32913,
+                          32912, 0, 32935, 32936));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::Commands),
+              ElementsAre(32829, 32826, 0, 32877, 32960, 32961, 0, 32827, 0, 32921));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::Options),
+              ElementsAre(32838, 32870, 32954, 0, 32847, 32841, 32878, 0, 32844, 32851, 0, 32868, 32906,
+                          32922, 0, 32843, 32959, 32880, 0, 32842, 32846));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::ViewToolbars), ElementsAre(59392, 0, 35001));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::View), ElementsAre(59393, 0, 4002, 4000, 4003, 4004, 0, 32907, 32908));
+  EXPECT_THAT(MenuGroups(TCMenuPlace::Help), ElementsAre(57667, 0, 57664));
 }
 
 TEST(CommandTable, GivesEveryMenuALetterThatTheKeyTableLeavesFree) {

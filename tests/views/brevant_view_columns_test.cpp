@@ -96,6 +96,24 @@ TEST_F(TCBrevantViewColumnsTest, ScrollToTheSideOnlyWhereANameIsCutOff) {
   EXPECT_TRUE(view.horizontalScrollBar()->isVisible());
 }
 
+TEST_F(TCBrevantViewColumnsTest, DoNotScrollToTheSideForAHeaderThatIsCutOff) {
+  view.ShowRows(Rows(3), TCShowRows::Afresh);
+  view.SetPlaylistHeader(std::u16string(200, u'W') + u" - Total Playlist Time: 01:02:03");
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+}
+
+TEST_F(TCBrevantViewColumnsTest, GoBackToTheFirstColumnWhenNoNameIsCutOffAnyMore) {
+  std::vector<TCPlaylistRow> rows = Rows(3);
+  rows[1].texts.name = std::u16string(200, u'W');
+  view.ShowRows(rows, TCShowRows::Afresh);
+  QCoreApplication::processEvents();
+  view.horizontalScrollBar()->setValue(50);
+  ASSERT_EQ(view.horizontalScrollBar()->value(), 50);
+  view.ShowRows(Rows(3), TCShowRows::KeepPlace);
+  EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+}
+
 TEST_F(TCBrevantViewColumnsTest, TheNamesTakeWhatAWideWindowLeaves) {
   view.resize(3000, 400);
   view.ShowRows(Rows(3), TCShowRows::Afresh);

@@ -1,10 +1,14 @@
 #include "app/bars/customize_sheet.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "app/bars/commands_page.h"
 #include "app/bars/keyboard_page.h"
@@ -28,6 +32,7 @@ TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
   setWindowTitle(QStringLiteral("Customize"));
   setSizeGripEnabled(true);
   pages->setObjectName(QStringLiteral("Pages"));
+  pages->setAccessibleName(QStringLiteral("Pages"));
   keyboard->setWhatsThis(QStringLiteral("Which keys fire a command. What is assigned here acts at once."));
   options->setWhatsThis(QStringLiteral("How the bars look, and what comes up when a button is pointed at."));
   commands->setWhatsThis(
@@ -52,8 +57,22 @@ TCCustomizeSheet::TCCustomizeSheet(TCBarSet& barSet, QWidget* parent)
   layout->addWidget(pages, 1);
   layout->addLayout(lastRow);
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+  for (const QComboBox* box : findChildren<QComboBox*>())
+    box->view()->setAccessibleName(box->accessibleName());
   resize(kSize.expandedTo(minimumSizeHint()));
-  keyboard->setFocus();
+  AddPageKeys();
+  keyboard->BeginSearch();
+}
+
+void TCCustomizeSheet::AddPageKeys() {
+  // The pages' own answer to these keys comes last, and a combo box takes them for letters of an entry.
+  for (const auto& [key, step] :
+       {std::pair(QKeySequence::NextChild, 1), std::pair(QKeySequence::PreviousChild, -1)}) {
+    auto* shortcut = new QShortcut(key, this);
+    connect(shortcut, &QShortcut::activated, pages, [this, by = step] {
+      pages->setCurrentIndex((pages->currentIndex() + by + pages->count()) % pages->count());
+    });
+  }
 }
 
 void TCCustomizeSheet::Open(TCBarSet& bars, QWidget& parent) {

@@ -30,6 +30,8 @@ class TCCustomizeSheet final : public QDialog {
 
  private:
   void Reset();
+  // Ctrl+Tab and its way back, from wherever the focus is.
+  void AddPageKeys();
 
   TCBarSet& bars;
   QTabWidget* pages;

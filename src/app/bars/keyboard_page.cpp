@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -85,6 +86,8 @@ TCKeyboardPage::TCKeyboardPage(TCBarSet& barSet)
   category->setMaxVisibleItems(category->count());
   search->setPlaceholderText(QStringLiteral("Name or key"));
   search->setClearButtonEnabled(true);
+  // The toolkit gives the button in the field no name.
+  for (auto* clear : search->findChildren<QToolButton*>()) clear->setAccessibleName(QStringLiteral("Clear"));
   list->setHeaderLabels({QStringLiteral("Command"), QStringLiteral("Keys")});
   list->setRootIsDecorated(false);
   list->setUniformRowHeights(true);
@@ -96,7 +99,6 @@ TCKeyboardPage::TCKeyboardPage(TCBarSet& barSet)
   description->setTextFormat(Qt::PlainText);
   use->setWordWrap(true);
   use->setTextFormat(Qt::PlainText);
-  setFocusProxy(search);
   LayOut();
   ConnectControls();
   ShowCommands();
@@ -137,6 +139,10 @@ void TCKeyboardPage::LayOut() {
   layout->addWidget(description);
   layout->addLayout(below);
   layout->addLayout(last);
+}
+
+void TCKeyboardPage::BeginSearch() {
+  search->setFocus();
 }
 
 void TCKeyboardPage::ConnectControls() {
@@ -203,6 +209,9 @@ void TCKeyboardPage::AssignKey() {
   TCKeyAssignment keys = bars.Customised().keys;
   keys.Assign(newKey->Key(), Chosen());
   Change(keys);
+  // The button has nothing to do any more. Its focus would pass to the one that brings all delivered keys
+  // back.
+  list->setFocus();
 }
 
 void TCKeyboardPage::RemoveKey() {

@@ -24,6 +24,9 @@ class TCKeyboardPage final : public QWidget {
   // `barSet` outlives the page.
   explicit TCKeyboardPage(TCBarSet& barSet);
 
+  // Gives the keyboard to the field that finds a command.
+  void BeginSearch();
+
   // Shows the keys as they are now: something else has changed them.
   void ShowKeys();
 

@@ -6,8 +6,15 @@ namespace brevant {
 namespace {
 
 void AddCommands(QMenu& menu, TCMenuPlace place, const TCCommandActions& actions) {
+  // A separator goes in only between entries that are there.
+  bool separatorDue = false;
   for (const TCCommand* command : CommandsInMenu(place)) {
-    if (QAction* action = actions.ActionOf(command->id)) menu.addAction(action);
+    separatorDue = separatorDue || BeginsMenuGroup(command->id);
+    QAction* action = actions.ActionOf(command->id);
+    if (action == nullptr) continue;
+    if (separatorDue && !menu.isEmpty()) menu.addSeparator();
+    separatorDue = false;
+    menu.addAction(action);
   }
 }
 
@@ -46,8 +53,7 @@ void FillMenuBar(QMenuBar& bar, const TCCommandActions& actions) {
 
 QMenu* MakeContextMenu(TCContextMenu which, const TCCommandActions& actions, QWidget& parent) {
   auto* menu = new QMenu(&parent);
-  // A separator goes in only between entries that are there.
-  bool separatorDue = false;
+  bool separatorDue = false;  // as above
   for (const TCMenuItem& item : ContextMenu(which)) {
     QAction* source = actions.ActionOf(item.id);
     if (source == nullptr) {

@@ -4,8 +4,10 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QScopedValueRollback>
+#include <QTreeView>
 #include <utility>
 
 #include "app/dialogs/add_play_items_dlg.h"
@@ -18,6 +20,18 @@
 #include "views/text_conversion.h"
 
 namespace brevant {
+namespace {
+
+// The toolkit gives every column but the name the width of its title, and cuts a date in its middle.
+void ShowColumnsWhole(const QFileDialog& dialog) {
+  const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (files == nullptr) return;  // the desktop's own dialog
+  for (int column = 1; column < files->header()->count(); ++column) {
+    files->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+  }
+}
+
+}  // namespace
 
 TCQtPrompts::TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore,
                          TCNativePaths nativePaths)
@@ -101,6 +115,7 @@ void TCQtPrompts::SetUp(QFileDialog& dialog) const {
   dialog.setNameFilter(ToQString(DocumentTemplateText(TCDocumentTemplateField::FilterName)));
   dialog.setDefaultSuffix(ToQString(TextOf(TCTextId::DocumentExtension)));
   dialog.setDirectory(DocumentFolder());
+  ShowColumnsWhole(dialog);
 }
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
@@ -132,6 +147,7 @@ void TCQtPrompts::SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& 
   dialog.setNameFilters(MediaFileFilters(question.types));
   dialog.setDefaultSuffix(ToQString(question.defaultType));
   dialog.setDirectory(!mediaFolder.isEmpty() && QDir(mediaFolder).exists() ? mediaFolder : DocumentFolder());
+  ShowColumnsWhole(dialog);
   if (question.initialPath.empty()) return;
   const std::string written = paths.ToNative(question.initialPath);
   TCOtherCase otherCase;

@@ -57,6 +57,13 @@ bool TCGuideBrowser::Find(const QString& text, TCDirection direction, TCFrom fro
   return true;
 }
 
+QVariant TCGuideBrowser::loadResource(int type, const QUrl& name) {
+  const QVariant found = QTextBrowser::loadResource(type, name);
+  if (type != QTextDocument::ImageResource) return found;
+  const QImage whole = QImage::fromData(found.toByteArray());
+  return whole.isNull() ? found : QVariant(GuidePicture(whole, devicePixelRatioF()));
+}
+
 void TCGuideBrowser::changeEvent(QEvent* event) {
   QTextBrowser::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) DressPage();

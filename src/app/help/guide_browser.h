@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QTextBrowser>
+#include <QVariant>
 
 namespace brevant {
 
@@ -28,6 +29,7 @@ class TCGuideBrowser final : public QTextBrowser {
   bool Find(const QString& text, TCDirection direction, TCFrom from);
 
  protected:
+  [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
   void changeEvent(QEvent* event) override;
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
 

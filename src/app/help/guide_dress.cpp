@@ -97,6 +97,12 @@ QString HeadingAnchor(const QString& heading) {
   return anchor;
 }
 
+QImage GuidePicture(const QImage& whole, qreal devicePixelRatio) {
+  QImage picture = whole.scaledToWidth(qRound(kPictureWidth * devicePixelRatio), Qt::SmoothTransformation);
+  picture.setDevicePixelRatio(devicePixelRatio);
+  return picture;
+}
+
 void DressGuidePage(QTextDocument& page, const QPalette& palette) {
   page.setDocumentMargin(kMargin);
   QTextCursor whole(&page);

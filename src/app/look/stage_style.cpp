@@ -1,6 +1,8 @@
 #include "app/look/stage_style.h"
 
 #include <QPainter>
+#include <QStyleOption>
+#include <QTabBar>
 #include <QToolBar>
 
 #include "app/look/picture_icon.h"
@@ -64,6 +66,26 @@ void DrawEdge(const QStyleOption& option, QPainter& painter) {
   painter.restore();
 }
 
+// Between two groups of a menu's entries.
+void DrawMenuGap(const QStyleOptionMenuItem& option, QPainter& painter) {
+  constexpr int kInset = 5;
+  painter.save();
+  painter.fillRect(option.rect, option.palette.base());
+  painter.setPen(option.palette.color(QPalette::Mid));
+  const int middle = option.rect.center().y();
+  painter.drawLine(option.rect.left() + kInset, middle, option.rect.right() - kInset, middle);
+  painter.restore();
+}
+
+// Which tab is shown has to be seen on black as well: a line along its outer edge.
+void DrawTabThatIsShown(const QStyleOptionTab& option, QPainter& painter) {
+  constexpr int kThick = 2;
+  const bool below = option.shape == QTabBar::RoundedSouth || option.shape == QTabBar::TriangularSouth;
+  const QRect& tab = option.rect;
+  const int top = below ? tab.bottom() + 1 - kThick : tab.top();
+  painter.fillRect(tab.left() + 1, top, tab.width() - 2, kThick, option.palette.color(QPalette::Highlight));
+}
+
 }  // namespace
 
 TCStageStyle::TCStageStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -80,6 +102,21 @@ int TCStageStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
+void TCStageStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  if (element == CE_MenuItem) {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (entry != nullptr && entry->menuItemType == QStyleOptionMenuItem::Separator && entry->text.isEmpty()) {
+      return DrawMenuGap(*entry, *painter);
+    }
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_TabBarTabShape && option->state.testFlag(State_Selected)) {
+    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    if (tab != nullptr) DrawTabThatIsShown(*tab, *painter);
+  }
+}
+
 void TCStageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
   if (element == PE_PanelLineEdit) {
@@ -91,7 +128,9 @@ void TCStageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     return DrawButtonThatIsOn(*option, *painter);
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (element == PE_IndicatorCheckBox && IsDark(option->palette)) DrawEdge(*option, *painter);
+  // A pane that floats has no frame but this one.
+  const bool edged = element == PE_IndicatorCheckBox || element == PE_FrameDockWidget;
+  if (edged && IsDark(option->palette)) DrawEdge(*option, *painter);
 }
 
 int TCStageStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
@@ -123,9 +162,11 @@ void TCStageStyle::DrawField(const QStyleOptionFrame& field, QPainter* painter, 
 
 QIcon TCStageStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
                                  const QWidget* widget) const {
-  // Every bar asks for this one when it is made. The toolkit's is black on every palette, and reading its
-  // files loads the readers of all picture formats: several milliseconds before the first window is seen.
+  // Every bar and every pane asks for these when it is made. The toolkit's are of one colour on every palette
+  // and blurred on many a screen, and reading their files takes milliseconds before the first window is seen.
   if (picture == SP_ToolBarHorizontalExtensionButton) return PictureIcon(kBarMoreIcon);
+  if (picture == SP_TitleBarNormalButton) return PictureIcon(kPaneFloatIcon);
+  if (picture == SP_TitleBarCloseButton) return PictureIcon(kPaneCloseIcon);
   return QProxyStyle::standardIcon(picture, option, widget);
 }
 

@@ -23,6 +23,10 @@ inline constexpr std::string_view kRowIcon = "row_song";
 // On the button behind a bar that is too narrow for all of its own, 24 x 24.
 inline constexpr std::string_view kBarMoreIcon = "bar_more";
 
+// On the buttons in a pane's title, 24 x 24: it becomes a window of its own, and it goes.
+inline constexpr std::string_view kPaneFloatIcon = "pane_float";
+inline constexpr std::string_view kPaneCloseIcon = "pane_close";
+
 // The tree's pictures, 23 x 19, by image number: group, playlist and song, each plain and then selected.
 inline constexpr std::string_view kTreeIcons[] = {"tree_group",    "tree_group_selected",
                                                   "tree_playlist", "tree_playlist_selected",

@@ -4,6 +4,8 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QTreeWidget>
+#include <set>
+#include <string>
 
 #include "app/bars/open_customize_sheet.h"
 #include "app/whole_program.h"
@@ -30,6 +32,49 @@ TEST_F(CustomizeSheet, HasThreePages) {
   QStringList names;
   for (int i = 0; i < pages.count(); ++i) names.append(pages.tabText(i));
   EXPECT_EQ(names.join(u'|').toStdString(), "Keyboard|Options|Commands");
+}
+
+TEST_F(CustomizeSheet, CtrlTabGoesFromPageToPageWhateverHasTheFocus) {
+  auto& pages = Find<QTabWidget>("Pages");
+  for (int page = 0; page < pages.count(); ++page) {
+    int controls = 0;
+    for (QWidget* control : pages.widget(page)->findChildren<QWidget*>()) {
+      pages.setCurrentIndex(page);
+      if (control->focusPolicy() == Qt::NoFocus || !control->isVisible() || !control->isEnabled()) continue;
+      control->setFocus();
+      if (!control->hasFocus()) continue;
+      ++controls;
+      const std::string name = control->objectName().toStdString() + " of page " + std::to_string(page);
+      QTest::keyClick(control, Qt::Key_Tab, Qt::ControlModifier);
+      EXPECT_EQ(pages.currentIndex(), (page + 1) % pages.count()) << name;
+      EXPECT_TRUE(pages.currentWidget()->isAncestorOf(QApplication::focusWidget())) << name;
+      pages.setCurrentIndex(page);
+      control->setFocus();
+      QTest::keyClick(control, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+      EXPECT_EQ(pages.currentIndex(), (page + pages.count() - 1) % pages.count()) << name;
+    }
+    EXPECT_GT(controls, 2) << "page " << page;
+  }
+}
+
+TEST_F(CustomizeSheet, TabGoesThroughEveryControlOfAPageAndComesBack) {
+  auto& pages = Find<QTabWidget>("Pages");
+  for (int page = 0; page < pages.count(); ++page) {
+    pages.setCurrentIndex(page);
+    pages.setFocus();
+    std::set<QWidget*> reached;
+    while (reached.insert(QApplication::focusWidget()).second) {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    for (QWidget* control : sheet->findChildren<QWidget*>()) {
+      const bool takesKeys = (control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisible() &&
+                             control->isEnabled() && control->focusProxy() == nullptr;
+      if (takesKeys && !control->objectName().isEmpty() &&
+          !control->objectName().startsWith(QStringLiteral("qt_"))) {
+        EXPECT_TRUE(reached.contains(control)) << control->objectName().toStdString() << " of page " << page;
+      }
+    }
+  }
 }
 
 TEST_F(CustomizeSheet, ResetBringsEverythingBackOnAllPages) {

@@ -81,6 +81,7 @@ TEST_F(KeyboardPage, AssignsAFreeKeyThatActsAtOnce) {
   EXPECT_EQ(Use(), QStringLiteral("Is free."));
   Click("AssignKey");
   EXPECT_EQ(CommandOf(Qt::Key_PageDown), Id::NextSong);
+  EXPECT_EQ(QApplication::focusWidget(), &KeyCommands()) << "the next button brings all delivered keys back";
   EXPECT_EQ(KeysShownFor(QStringLiteral("Next Song")), QStringLiteral("Down, D, Page Down"));
   EXPECT_EQ(Find<QListWidget>("CommandKeys").count(), 3);
   EXPECT_EQ(Find<TCKeyField>("NewKey").text(), QString()) << "ready for the next";

@@ -50,11 +50,48 @@ TEST_F(CommandMenus, HoldTheCommandsOfTheirPlaceInOrder) {
     QList<QAction*> expected;
     for (const TCCommand* command : CommandsInMenu(places[i])) expected.append(actions.ActionOf(command->id));
     QList<QAction*> entries = title->menu()->actions();
+    entries.removeIf([](const QAction* entry) { return entry->isSeparator(); });
     if (places[i] == TCMenuPlace::View) {
       ASSERT_NE(entries.takeFirst()->menu(), nullptr) << "the tool bars' own menu comes first";
     }
     EXPECT_EQ(entries, expected) << title->text().toStdString();
   }
+}
+
+TEST_F(CommandMenus, HaveALineAboveEachGroupOfCommands) {
+  for (const TCCommand& command : Commands()) target.handled.insert(command.id);
+  const TCCommandActions actions(target, window);
+  QMenuBar bar;
+  FillMenuBar(bar, actions);
+  for (const TCCommand& command : Commands()) {
+    const QAction* entry = actions.ActionOf(command.id);
+    for (const QAction* title : bar.actions()) {
+      const QList<QAction*> entries = title->menu()->actions();
+      const qsizetype place = entries.indexOf(entry);
+      if (place < 0) continue;
+      EXPECT_EQ(place > 0 && entries[place - 1]->isSeparator(), BeginsMenuGroup(command.id))
+          << entry->text().toStdString();
+    }
+  }
+}
+
+TEST_F(CommandMenus, HaveNoLineWhereAGroupIsMissing) {
+  // Of the groups between them nobody carries anything out, and of what goes above them neither.
+  target.handled = {TCCommandId::FileOpen, TCCommandId::Exit, TCCommandId::LoadLastFile, TCCommandId::About};
+  const TCCommandActions actions(target, window);
+  QMenuBar bar;
+  FillMenuBar(bar, actions);
+  ASSERT_EQ(bar.actions().size(), 3);
+  const auto linesIn = [&bar](qsizetype menu) {
+    QString lines;
+    for (const QAction* entry : bar.actions()[menu]->menu()->actions()) {
+      lines += entry->isSeparator() ? QLatin1Char('-') : QLatin1Char('x');
+    }
+    return lines;
+  };
+  EXPECT_EQ(linesIn(0), QStringLiteral("x-x")) << "File";
+  EXPECT_EQ(linesIn(1), QStringLiteral("x")) << "Options";
+  EXPECT_EQ(linesIn(2), QStringLiteral("x")) << "Help";
 }
 
 TEST_F(CommandMenus, NoTitleTakesAKeyOfTheTable) {

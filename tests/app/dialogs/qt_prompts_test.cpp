@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 #include "app/dialog_answer.h"
 #include "app/dialogs/dialog_enter_user_text.h"
@@ -54,12 +55,47 @@ TCMediaFileQuestion SongQuestion() {
   return {TCChooseFiles::Several, {u"mid", u"mp3", u"wav", u"wma"}, u"mp3", u""};
 }
 
+// The first column that does not show what it holds, or none.
+int ColumnCutOff(QFileDialog& dialog) {
+  auto& files = *dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (!QTest::qWaitFor([&files] { return files.model()->rowCount(files.rootIndex()) > 0; })) return 0;
+  files.doItemsLayout();
+  for (int column = 1; column < files.model()->columnCount(); ++column) {
+    const QString text = files.model()->index(0, column, files.rootIndex()).data().toString();
+    if (!files.isColumnHidden(column) &&
+        files.columnWidth(column) < files.fontMetrics().horizontalAdvance(text)) {
+      return column;
+    }
+  }
+  return -1;
+}
+
 QLineEdit& NameIn(QFileDialog& dialog) {
   return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
 }
 
 QLineEdit& FieldOf(QDialog& dialog) {
   return *dialog.findChild<QLineEdit*>(QStringLiteral("Text"));
+}
+
+TEST_F(QtPrompts, AFileDialogCutsNoDateOrSize) {
+  Write("show.brv");
+  Write("song.mp3");
+  setLists.documentFolder = Model("");
+  const auto expectWhole = [](QFileDialog& dialog) {
+    EXPECT_EQ(ColumnCutOff(dialog), -1);
+    dialog.reject();
+  };
+  {
+    const TCDialogAnswer<QFileDialog> answer(expectWhole);
+    (void)prompts.ChooseDocumentToOpen();
+  }
+  {
+    const TCDialogAnswer<QFileDialog> answer(expectWhole);
+    (void)prompts.ChooseDocumentToSave(u"");
+  }
+  const TCDialogAnswer<QFileDialog> answer(expectWhole);
+  (void)prompts.ChooseMediaFiles(SongQuestion());
 }
 
 TEST_F(QtPrompts, TheTextComesBackAsItWasTyped) {

@@ -9,6 +9,7 @@
 #include <QTextBlock>
 #include <set>
 
+#include "app/help/guide_dress.h"
 #include "app/look/stage_palette.h"
 
 namespace brevant {
@@ -39,6 +40,30 @@ TEST_F(GuideBrowser, ShowsAPageWithItsTitle) {
   browser.Open(QStringLiteral("panes.md"));
   EXPECT_EQ(browser.Title(), QStringLiteral("The panes"));
   EXPECT_TRUE(browser.toPlainText().contains(QStringLiteral("Four panes")));
+}
+
+TEST_F(GuideBrowser, APictureIsDrawnSmallerWithoutLosingLines) {
+  browser.Open(QStringLiteral("performing.md"));
+  const QString name = QStringLiteral("../images/daylight.png");
+  const auto shown = browser.document()
+                         ->resource(QTextDocument::ImageResource, browser.source().resolved(QUrl(name)))
+                         .value<QImage>();
+  ASSERT_FALSE(shown.isNull());
+  const QImage whole(QStringLiteral(":/guide/images/daylight.png"));
+  ASSERT_GT(whole.width(), shown.width());
+  // A line of one pixel leaves a shade, where every other pixel left out would leave it whole or nothing.
+  EXPECT_EQ(
+      shown.convertToFormat(QImage::Format_RGB32),
+      whole.scaledToWidth(shown.width(), Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32));
+}
+
+TEST(GuidePicture, HasAsManyPixelsAsTheScreenShowsOfIt) {
+  const QImage whole(1600, 1000, QImage::Format_RGB32);
+  const QImage plain = GuidePicture(whole, 1);
+  const QImage fine = GuidePicture(whole, 2);
+  EXPECT_EQ(fine.width(), 2 * plain.width());
+  EXPECT_EQ(fine.deviceIndependentSize(), plain.deviceIndependentSize());
+  EXPECT_EQ(plain.height(), plain.width() * 1000 / 1600);
 }
 
 TEST_F(GuideBrowser, OpensAPageAtAHeading) {

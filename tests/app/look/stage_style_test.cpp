@@ -8,11 +8,15 @@
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPalette>
+#include <QStyleOption>
+#include <QTabBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "app/look/picture_icon.h"
 #include "app/look/stage_palette.h"
@@ -115,15 +119,73 @@ TEST(StageStyle, AListOfManyChoicesOpensWithAFewAndIsScrolled) {
   list.hidePopup();
 }
 
-TEST(StageStyle, TheArrowOfANarrowBarIsSeenOnAnyBackground) {
+// Drawn by the style alone, on the window's colour.
+QImage Drawn(QStyle::ControlElement element, QStyleOption& option, const QPalette& palette) {
+  QImage image(60, 20, QImage::Format_RGB32);
+  image.fill(palette.color(QPalette::Window));
+  option.rect = image.rect();
+  option.palette = palette;
+  QPainter painter(&image);
+  TCStageStyle().drawControl(element, &option, &painter, nullptr);
+  return image;
+}
+
+TEST(StageStyle, ALineBetweenMenuEntriesIsSeenOnBlackAndOnWhite) {
+  for (const auto& [text, background] : {std::pair(0xFFFFFFU, 0x000000U), std::pair(0x000000U, 0xFFFFFFU)}) {
+    const QPalette palette = MenuPalette(text, background);
+    QStyleOptionMenuItem entry;
+    entry.menuItemType = QStyleOptionMenuItem::Separator;
+    const QImage image = Drawn(QStyle::CE_MenuItem, entry, palette);
+    double most = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      most = std::max(most, Contrast(image.pixelColor(30, y), palette.color(QPalette::Base)));
+    }
+    EXPECT_GT(most, 1.5) << palette.color(QPalette::Base).name().toStdString();
+  }
+}
+
+TEST(StageStyle, TheTabThatIsShownHasALineAlongItsOuterEdge) {
+  const QPalette palette = StagePalette(0xFFFFFF, 0x000000);
+  const QColor blue = palette.color(QPalette::Highlight);
+  for (const auto& [shape, edge] :
+       {std::pair(QTabBar::RoundedNorth, 0), std::pair(QTabBar::RoundedSouth, 19)}) {
+    QStyleOptionTab tab;
+    tab.shape = shape;
+    tab.state = QStyle::State_Enabled;
+    EXPECT_NE(Drawn(QStyle::CE_TabBarTabShape, tab, palette).pixelColor(30, edge), blue);
+    tab.state |= QStyle::State_Selected;
+    EXPECT_EQ(Drawn(QStyle::CE_TabBarTabShape, tab, palette).pixelColor(30, edge), blue);
+  }
+}
+
+TEST(StageStyle, APaneThatFloatsHasAnEdgeThatIsSeenOnBlack) {
+  const QPalette palette = StagePalette(0xFFFFFF, 0x000000);
+  QImage image(60, 20, QImage::Format_RGB32);
+  image.fill(palette.color(QPalette::Window));
+  QStyleOptionFrame frame;
+  frame.rect = image.rect();
+  frame.palette = palette;
+  frame.lineWidth = 1;
+  QPainter painter(&image);
+  TCStageStyle().drawPrimitive(QStyle::PE_FrameDockWidget, &frame, &painter, nullptr);
+  for (const QPoint edge : {QPoint(0, 10), QPoint(59, 10), QPoint(30, 0), QPoint(30, 19)}) {
+    EXPECT_EQ(image.pixelColor(edge), palette.color(QPalette::Mid));
+  }
+}
+
+TEST(StageStyle, TheArrowOfANarrowBarAndThePanesButtonsAreSeenOnAnyBackground) {
   TCStageStyle style;
-  const QIcon arrow = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
   const QPalette before = QApplication::palette();
-  for (const QColor colour : {QColor(Qt::white), QColor(Qt::black)}) {
-    QPalette palette = before;
-    palette.setColor(QPalette::ButtonText, colour);
-    QApplication::setPalette(palette);
-    EXPECT_GT(Pixels(arrow, colour), 20) << colour.name().toStdString();
+  for (const QStyle::StandardPixmap picture :
+       {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_TitleBarNormalButton,
+        QStyle::SP_TitleBarCloseButton}) {
+    const QIcon icon = style.standardIcon(picture, nullptr, nullptr);
+    for (const QColor colour : {QColor(Qt::white), QColor(Qt::black)}) {
+      QPalette palette = before;
+      palette.setColor(QPalette::ButtonText, colour);
+      QApplication::setPalette(palette);
+      EXPECT_GT(Pixels(icon, colour), 20) << picture << colour.name().toStdString();
+    }
   }
   QApplication::setPalette(before);
 }
