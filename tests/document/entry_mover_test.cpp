@@ -153,7 +153,24 @@ TEST_F(EntryMoverTest, WithDisableEditingTheSelectionStillMoves) {
   rig.view.selected = {1};
   mover.MoveSongUp();
   EXPECT_THAT(rig.view.selected, ElementsAre(0));
+  mover.MoveSongDown();
+  mover.MoveSongDown();
+  EXPECT_THAT(rig.view.selected, ElementsAre(2));
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3"));
+}
+
+TEST_F(EntryMoverTest, OnTheRowsOfAnEmptiedPlaylistOnlyTheSelectionMovesAndOnlyUp) {
+  rig.view.selected = {0, 1, 2};
+  rig.editor.RemoveSelectedRows();
+  ASSERT_EQ(rig.view.rows.size(), 3u);
+  rig.view.selected = {1};
+  mover.MoveSongDown();
+  EXPECT_THAT(rig.view.selected, ElementsAre(1));
+  mover.MoveSongUp();
+  EXPECT_THAT(rig.view.selected, ElementsAre(0));
+  rig.Select(u"Late");
+  mover.CopySelectedRowsToNode();
+  EXPECT_EQ(Lines().size(), 7u);
 }
 
 TEST_F(EntryMoverTest, TheCurrentSongsRowIsSelectedToBeMoved) {
@@ -162,6 +179,21 @@ TEST_F(EntryMoverTest, TheCurrentSongsRowIsSelectedToBeMoved) {
   mover.SelectSongToMove();
   EXPECT_THAT(rig.view.selected, ElementsAre(2));
   EXPECT_EQ(rig.view.scrolledTo, 2);
+}
+
+TEST_F(EntryMoverTest, TheSongToMoveIsTheOneThatWasCurrentWhenTheRowsWereColouredLast) {
+  rig.store.currentSong = 1;
+  rig.presenter.HighlightCurrentSong();
+  rig.store.currentSong = 2;
+  mover.SelectSongToMove();
+  EXPECT_THAT(rig.view.selected, ElementsAre(1));
+}
+
+TEST_F(EntryMoverTest, DisableEditingStopsNoDuplicate) {
+  rig.record.settings.disableEditing = 1;
+  rig.Select(u"d.mp3");
+  mover.Duplicate();
+  EXPECT_EQ(rig.store.groups[0].playlists[1].items.size(), 2u);
 }
 
 TEST_F(EntryMoverTest, ADuplicatedSongStandsAtTheEndOfItsPlaylist) {
