@@ -102,6 +102,16 @@ TEST_F(SongPropertiesTest, TheFileTypeIsAppliedToTheWholePlaylistAndToItsNodes) 
   EXPECT_EQ(rig.tree.Lines(), rig.ModelLines());
 }
 
+TEST_F(SongPropertiesTest, TheFileTypeAloneLeavesTheFoldersOfTheOthers) {
+  TCSongPropertiesForm form(rig.parts, {0, 0, 0});
+  form.songPath = u"E:\\";
+  form.songName = u"a.mid";
+  form.extensionForAll = true;
+  form.Apply();
+  EXPECT_EQ(Song(0, 0).FullPath(), u"E:\\a.mid");
+  EXPECT_EQ(Song(0, 1).FullPath(), u"C:\\b.mid");
+}
+
 TEST_F(SongPropertiesTest, ARepairReadsTheLyricsOfEverySongAgain) {
   rig.files.Put(u"E:\\b.lrc", "[00:01.0]Hello");
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
