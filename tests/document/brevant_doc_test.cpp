@@ -288,8 +288,11 @@ TEST_F(BrevantDocTest, CancelSaysSoAndDropsTheMouseState) {
 }
 
 TEST_F(BrevantDocTest, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
+  Poll(1);
+  ASSERT_EQ(frame.status, u"1 of 4");
   document.OnCommand(TCCommandId::Cancel);
   EXPECT_FALSE(document.Transport().TimeRun().Pending());
   EXPECT_EQ(frame.status, u"");
@@ -320,6 +323,16 @@ TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) 
   EXPECT_TRUE(document.IsModified());
   EXPECT_EQ(view.header, u"One - Total Playlist Time: 02:25");
   EXPECT_EQ(view.rows[1].texts.time, u"01:05");
+}
+
+TEST_F(BrevantDocTest, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  document.OnOpenDocument(kShow);
+  document.DropFiles({u"C:\\a.mp3"});
+  document.OnCommand(TCCommandId::RefreshAllTimes);
+  Poll(1);
+  ASSERT_TRUE(document.Transport().TimeRun().Pending());
+  EXPECT_EQ(frame.status, u"");
 }
 
 TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {

@@ -69,6 +69,15 @@ TEST_F(EntryMoverTest, ASongThatComesFromElsewhereShowsInTheCurrentPlaylist) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"e.mp3", u"a.mp3", u"b.mp3", u"c.mp3"));
 }
 
+TEST_F(EntryMoverTest, WhileAnEmptyPlaylistIsCurrentTheRowsOnTheScreenFollowTheirOwn) {
+  rig.store.groups[0].playlists[1].items.clear();
+  rig.store.currentPlaylist = 1;
+  rig.Show();
+  ASSERT_EQ(rig.store.shown, (TCPlaylistPosition{0, 0}));
+  Move(u"a.mp3", u"c.mp3");
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
+}
+
 TEST_F(EntryMoverTest, APlaylistMovesAcrossGroupsAndStaysOnTheScreen) {
   Move(u"One", u"Late");
   EXPECT_THAT(Lines(), ElementsAre(u"Sets", u"  Two", u"    d.mp3", u"Club", u"  One", u"    a.mp3",
@@ -176,6 +185,7 @@ TEST_F(EntryMoverTest, OnTheRowsOfAnEmptiedPlaylistOnlyTheSelectionMovesAndOnlyU
 TEST_F(EntryMoverTest, TheCurrentSongsRowIsSelectedToBeMoved) {
   rig.store.currentSong = 2;
   rig.presenter.HighlightCurrentSong();
+  rig.view.scrolledTo = -1;  // the user looked elsewhere since
   mover.SelectSongToMove();
   EXPECT_THAT(rig.view.selected, ElementsAre(2));
   EXPECT_EQ(rig.view.scrolledTo, 2);

@@ -163,6 +163,18 @@ TEST_F(SetListEditorTest, TheCurrentPlaylistsNewNameStandsInTheHeader) {
   EXPECT_EQ(rig.view.header, u"Opener - Total Playlist Time: 03:30");
 }
 
+TEST_F(SetListEditorTest, WhileAnEmptyPlaylistIsCurrentNewNamesStandInTheRowsAndHeaderOnTheScreen) {
+  rig.store.groups[0].playlists[1].items.clear();
+  rig.store.currentPlaylist = 1;
+  rig.Show();
+  ASSERT_EQ(rig.store.shown, (TCPlaylistPosition{0, 0}));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"b.mp3"), u"bee.mp3"));
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"bee.mp3", u"c.mp3"));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Two"), u"Second"));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"One"), u"Opener"));
+  EXPECT_EQ(rig.view.header, u"Opener - Total Playlist Time: 03:30");
+}
+
 TEST_F(SetListEditorTest, RenamingToBlanksOrANodeOfNothingChangesNothing) {
   EXPECT_FALSE(editor.Rename(rig.tree.NodeNamed(u"One"), u"  "));
   EXPECT_FALSE(editor.Rename(TCTreeNode::None, u"x"));
@@ -218,12 +230,16 @@ TEST_F(SetListEditorTest, WhatWasSelectedWhenTheUserAskedCountsWhateverTheTreeFo
     };
   };
   rig.Select(u"Club");
-  rig.prompts.textAnswers = {selectMeanwhile(u"a.mp3", u"P"), selectMeanwhile(u"a.mp3", u"G")};
+  rig.prompts.textAnswers = {selectMeanwhile(u"a.mp3", u"P"), selectMeanwhile(u"a.mp3", u"G"),
+                             selectMeanwhile(u"a.mp3", u"R")};
   EXPECT_TRUE(editor.AskForPlaylist());
   EXPECT_EQ(Lines().back(), u"  P");
   rig.Select(u"Club");
   EXPECT_TRUE(editor.AskForGroup());
   EXPECT_EQ(Lines().back(), u"G");
+  rig.Select(u"G");
+  editor.AskForNewName();
+  EXPECT_EQ(Lines().back(), u"R");
 }
 
 TEST_F(SetListEditorTest, TheShownGroupsNewNameIsSuggestedNext) {

@@ -129,8 +129,15 @@ TEST_F(SongPropertiesTest, ThePlaylistRemembersTheTwoBoxes) {
   const TCPlayList& playlist = rig.store.groups[0].playlists[1];
   EXPECT_EQ(playlist.state2, 1);
   EXPECT_EQ(playlist.state3, 0);
-  EXPECT_TRUE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).pathForAll);
+  TCSongPropertiesForm next(rig.parts, {0, 1, 0});
+  EXPECT_TRUE(next.pathForAll);
+  EXPECT_FALSE(next.extensionForAll);
   EXPECT_FALSE(TCSongPropertiesForm(rig.parts, {0, 0, 0}).pathForAll);
+  next.pathForAll = false;
+  next.extensionForAll = true;
+  next.Apply();
+  EXPECT_FALSE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).pathForAll);
+  EXPECT_TRUE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).extensionForAll);
 }
 
 TEST_F(SongPropertiesTest, ASongOfAnotherPlaylistIsRepairedWithoutTouchingTheView) {
