@@ -1,6 +1,7 @@
 // The playlist manager tree: groups, their playlists and the playlists' songs. Shows the nodes that the
 // document gives it, and passes on what mouse and keys ask for: picking, renaming in place, dragging a node
-// to another place, and where songs are to be put down. User-interface thread only.
+// to another place, and where songs are to be put down. Mouse, keys and labels have a source file each.
+// User-interface thread only.
 #pragma once
 
 #include <QPoint>
