@@ -74,13 +74,12 @@ void TCPlayListManagerTreeView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton) Q_EMIT contextMenuWanted(event->globalPosition().toPoint());
   if (!isLeft) return;
 
-  const TCTreeNode node = NodeUnder(event->globalPosition().toPoint());
   if (placing == TCPlacing::Waiting) {
     pressPlaced = true;
-    ShowPointer(node);
-    Q_EMIT placeWanted();
+    Q_EMIT placeWanted(SelectedNode());
     return;
   }
+  const TCTreeNode node = NodeUnder(event->globalPosition().toPoint());
   buttonPressed = true;
   pressedNode = node;
   pressPlace = event->position().toPoint();

@@ -74,8 +74,8 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   // By mouse or keys: `source` is to go where `target`, another node, stands. They may be of different
   // levels.
   void nodeMoved(TCTreeNode source, TCTreeNode target);
-  // A click while placing waits; the selected node says where.
-  void placeWanted();
+  // A click while placing waits: at the node that is selected then. None when none is.
+  void placeWanted(TCTreeNode at);
   // A press of the right button, or the keyboard's menu key.
   void contextMenuWanted(QPoint globalPosition);
 
