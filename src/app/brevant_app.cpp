@@ -93,9 +93,15 @@ void TCBrevantApp::ConnectTree() {
   });
   connect(&tree, &TCTree::nodeMoved, this,
           [this](TCTreeNode source, TCTreeNode target) { document.MoveNode(source, target); });
-  // Queued: the placing may ask for a name, and not inside the click.
+  // Queued: the placing may ask for a name, and not inside the click. The mouse may have selected another
+  // place by then.
   connect(
-      &tree, &TCTree::placeWanted, this, [this] { document.PlacePendingFiles(); }, Qt::QueuedConnection);
+      &tree, &TCTree::placeWanted, this,
+      [this, &tree](TCTreeNode at) {
+        tree.SelectNode(at);
+        document.PlacePendingFiles();
+      },
+      Qt::QueuedConnection);
   connect(&tree, &TCTree::contextMenuWanted, this, [this](QPoint position) { treeMenu->popup(position); });
   keyFilter.LetKeep(tree, [&tree](int key, Qt::KeyboardModifiers modifiers) {
     return TreeKeepsKey(key, modifiers, tree.SelectedKind());

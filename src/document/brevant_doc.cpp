@@ -1,9 +1,9 @@
 #include "document/brevant_doc.h"
 
-#include <array>
 #include <utility>
 
 #include "document/add_play_items.h"
+#include "document/option_commands.h"
 #include "document/option_prompts.h"
 #include "document/recovery_copy.h"
 #include "document/song_properties.h"
@@ -12,49 +12,6 @@
 #include "text/path_parts.h"
 
 namespace brevant {
-
-namespace {
-
-struct OptionCommand {
-  TCCommandId command;
-  bool (*isOn)(const TCSettings&);
-  void (*invert)(TCSettings&);
-};
-
-template <auto Option>
-constexpr OptionCommand Toggle(TCCommandId command) {
-  return {command, [](const TCSettings& settings) { return static_cast<bool>(settings.*Option); },
-          [](TCSettings& settings) { settings.*Option = !(settings.*Option); }};
-}
-
-// Commands that do nothing but turn an option on or off.
-constexpr std::array kOptionCommands = {
-    Toggle<&TCSettings::autoSongAdvance>(TCCommandId::AutoSongAdvance),
-    Toggle<&TCSettings::autoPlayPlayList>(TCCommandId::AutoPlayPlayList),
-    Toggle<&TCSettings::autoRecycle>(TCCommandId::AutoRecycle),
-    // With the two colours that follow it.
-    OptionCommand{TCCommandId::WhiteOnBlack, [](const TCSettings& settings) { return settings.whiteOnBlack; },
-                  [](TCSettings& settings) { settings.SetWhiteOnBlack(!settings.whiteOnBlack); }},
-    Toggle<&TCSettings::dynamicPlayColours>(TCCommandId::DynamicPlayColours),
-    Toggle<&TCSettings::immediatePlay>(TCCommandId::ImmediatePlay),
-    Toggle<&TCSettings::playlistManagerImmediatePlay>(TCCommandId::PlaylistManagerImmediatePlay),
-    Toggle<&TCSettings::confirmFileRemove>(TCCommandId::ConfirmFileRemove),
-    Toggle<&TCSettings::disableEditing>(TCCommandId::DisableEditing),
-    Toggle<&TCSettings::foldersSaveFormat>(TCCommandId::FoldersSaveFormat),
-    Toggle<&TCSettings::loadLastFileOnProgramRun>(TCCommandId::LoadLastFile),
-    Toggle<&TCSettings::loadLastWindowState>(TCCommandId::LoadLastWindowState),
-    OptionCommand{TCCommandId::Reset, [](const TCSettings& settings) { return settings.resetPending; },
-                  [](TCSettings& settings) { settings.ToggleReset(); }},
-};
-
-const OptionCommand* OptionOf(TCCommandId command) {
-  for (const OptionCommand& entry : kOptionCommands) {
-    if (entry.command == command) return &entry;
-  }
-  return nullptr;
-}
-
-}  // namespace
 
 TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
     : parts(std::move(documentParts)),
@@ -174,88 +131,8 @@ bool TCBrevantDoc::SaveAs() {
   return true;
 }
 
-const TCBrevantDoc::Handler* TCBrevantDoc::HandlerOf(TCCommandId command) {
-  using Doc = TCBrevantDoc;
-  using Id = TCCommandId;
-  static constexpr std::array kHandlers = {
-      Handler{Id::FileNew, [](Doc& doc) { doc.FileNew(); }},
-      Handler{Id::FileOpen, [](Doc& doc) { doc.FileOpen(); }},
-      Handler{Id::FileSave, [](Doc& doc) { doc.Save(); }},
-      Handler{Id::FileSaveAs, [](Doc& doc) { doc.SaveAs(); }},
-      Handler{Id::Cancel, [](Doc& doc) { doc.Cancel(); }},
-      Handler{Id::ClearInformation, [](Doc& doc) { doc.parts.messages.Clear(); }},
-
-      Handler{Id::CreateGroupList, [](Doc& doc) { doc.editor.AskForGroup(); }},
-      Handler{Id::NewGroupFolder, [](Doc& doc) { doc.editor.CreateGroup(TextOf(TCTextId::NewGroupFolder)); }},
-      Handler{Id::CreatePlaylist, [](Doc& doc) { doc.editor.AskForPlaylist(); }},
-      Handler{Id::NewPlaylistFolder,
-              [](Doc& doc) { doc.editor.CreatePlaylist(TextOf(TCTextId::NewPlaylistFolder)); }},
-      Handler{Id::AddSongs, [](Doc& doc) { doc.AddSongs(); }},
-      Handler{Id::Rename, [](Doc& doc) { doc.editor.AskForNewName(); }},
-      Handler{Id::Remove, [](Doc& doc) { doc.Remove(); }},
-      Handler{Id::SongProperties, [](Doc& doc) { doc.ShowSongProperties(); }},
-      Handler{Id::Copy, [](Doc& doc) { doc.Copy(); }},
-      Handler{Id::Paste, [](Doc& doc) { doc.placement.Paste(); }},
-      Handler{Id::Duplicate, [](Doc& doc) { doc.mover.Duplicate(); }},
-      Handler{Id::SelectSongToMove, [](Doc& doc) { doc.mover.SelectSongToMove(); }},
-      Handler{Id::MoveSongUp, [](Doc& doc) { doc.mover.MoveSongUp(); }},
-      Handler{Id::MoveSongDown, [](Doc& doc) { doc.mover.MoveSongDown(); }},
-      Handler{Id::ShowTreeSelection, [](Doc& doc) { doc.ShowTreeSelection(); }},
-      Handler{Id::FocusPlaylistManager, [](Doc& doc) { doc.parts.treeView.TakeFocus(); }},
-
-      Handler{Id::Play, [](Doc& doc) { doc.transport.Play(); }},
-      Handler{Id::Stop, [](Doc& doc) { doc.transport.Stop(); }},
-      Handler{Id::PauseContinue, [](Doc& doc) { doc.transport.PauseContinue(); }},
-      Handler{Id::LoadSong, [](Doc& doc) { doc.PickRow(doc.parts.record.setLists.currentSong); }},
-      Handler{Id::NextSong, [](Doc& doc) { doc.transport.NextSong(); }},
-      Handler{Id::PriorSong, [](Doc& doc) { doc.transport.PriorSong(); }},
-      Handler{Id::NextPlaylist, [](Doc& doc) { doc.transport.NextPlaylist(); }},
-      Handler{Id::PriorPlaylist, [](Doc& doc) { doc.transport.PriorPlaylist(); }},
-
-      Handler{Id::VolumeUp, [](Doc& doc) { doc.volumeAndSeek.VolumeUp(); }},
-      Handler{Id::MediaVolumeUp, [](Doc& doc) { doc.volumeAndSeek.VolumeUp(); }},
-      Handler{Id::VolumeDown, [](Doc& doc) { doc.volumeAndSeek.VolumeDown(); }},
-      Handler{Id::MediaVolumeDown, [](Doc& doc) { doc.volumeAndSeek.VolumeDown(); }},
-      Handler{Id::SeekForward, [](Doc& doc) { doc.volumeAndSeek.SeekForward(); }},
-      Handler{Id::SeekBack, [](Doc& doc) { doc.volumeAndSeek.SeekBack(); }},
-      Handler{Id::SetRepeatBegin, [](Doc& doc) { doc.volumeAndSeek.SetRepeatBegin(); }},
-      Handler{Id::SetRepeatEnd, [](Doc& doc) { doc.volumeAndSeek.SetRepeatEnd(); }},
-
-      Handler{Id::RefreshSongTime, [](Doc& doc) { doc.transport.RefreshCurrentSongTime(); }},
-      Handler{Id::RefreshAllTimes, [](Doc& doc) { doc.transport.StartTimeRun(TCTimeScope::AllSongs); }},
-      Handler{Id::RefreshPlaylistTimes,
-              [](Doc& doc) { doc.transport.StartTimeRun(TCTimeScope::CurrentPlaylist); }},
-  };
-  for (const Handler& handler : kHandlers) {
-    if (handler.command == command) return &handler;
-  }
-  return nullptr;
-}
-
-bool TCBrevantDoc::Handles(TCCommandId command) {
-  return HandlerOf(command) != nullptr || OptionOf(command) != nullptr || IsOptionPrompt(command);
-}
-
-bool TCBrevantDoc::IsChecked(TCCommandId command) const {
-  const OptionCommand* entry = OptionOf(command);
-  return entry != nullptr && entry->isOn(parts.record.settings);
-}
-
-bool TCBrevantDoc::OnCommand(TCCommandId command) {
-  if (const Handler* handler = HandlerOf(command)) {
-    handler->run(*this);
-  } else if (OptionOf(command) != nullptr) {
-    ToggleOption(command);
-  } else if (IsOptionPrompt(command)) {
-    ChangeOption(command);
-  } else {
-    return false;
-  }
-  return true;
-}
-
 void TCBrevantDoc::ToggleOption(TCCommandId command) {
-  OptionOf(command)->invert(parts.record.settings);
+  InvertOption(command, parts.record.settings);
   parts.frame.ShowOptions();
   RefreshProperties();
   if (command == TCCommandId::WhiteOnBlack || command == TCCommandId::DynamicPlayColours)

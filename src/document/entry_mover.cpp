@@ -91,10 +91,8 @@ void TCEntryMover::MoveSongs(TCSongPosition from, TCSongPosition to) {
 }
 
 void TCEntryMover::MoveRow(std::int32_t from, std::int32_t to) {
-  const TCTreeNode source = parts.Store().GetSongTreeNode(from);
-  const TCTreeNode target = parts.Store().GetSongTreeNode(to);
-  Move(source, target);
-  if (target != TCTreeNode::None) parts.view.SelectRow(to);
+  Move(parts.Store().GetSongTreeNode(from), parts.Store().GetSongTreeNode(to));
+  parts.view.SelectRow(to);
 }
 
 void TCEntryMover::MoveSongUp() {

@@ -16,7 +16,8 @@ class TCEntryMover {
 
   // Puts the source's entry where the target's stands, across playlists and groups too. Both are of one kind.
   void Move(TCTreeNode source, TCTreeNode target);
-  // The song of one row of the current playlist to the place of another, whose row is selected then.
+  // The song of one row of the current playlist to the place of another, whose row is selected then, whatever
+  // became of the move.
   void MoveRow(std::int32_t from, std::int32_t to);
 
   // The first selected row, one place up or down; the selection goes along even if the song may not.

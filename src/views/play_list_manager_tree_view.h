@@ -1,6 +1,7 @@
 // The playlist manager tree: groups, their playlists and the playlists' songs. Shows the nodes that the
 // document gives it, and passes on what mouse and keys ask for: picking, renaming in place, dragging a node
-// to another place, and where songs are to be put down. User-interface thread only.
+// to another place, and where songs are to be put down. Mouse, keys and labels have a source file each.
+// User-interface thread only.
 #pragma once
 
 #include <QPoint>
@@ -73,8 +74,8 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   // By mouse or keys: `source` is to go where `target`, another node, stands. They may be of different
   // levels.
   void nodeMoved(TCTreeNode source, TCTreeNode target);
-  // A click while placing waits; the selected node says where.
-  void placeWanted();
+  // A click while placing waits: at the node that is selected then. None when none is.
+  void placeWanted(TCTreeNode at);
   // A press of the right button, or the keyboard's menu key.
   void contextMenuWanted(QPoint globalPosition);
 

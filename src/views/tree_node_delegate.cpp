@@ -10,8 +10,6 @@ namespace brevant {
 
 void TCTreeNodeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  // A picture takes its place even when there is none to show: labels of one level stand below each other.
-  option->features |= QStyleOptionViewItem::HasDecoration;
   // The toolkit would draw an open node's picture as that of a button that is on.
   option->state.setFlag(QStyle::State_Open, false);
   if (option->state.testFlag(QStyle::State_Selected)) {

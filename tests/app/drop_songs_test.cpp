@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QTest>
 #include <QUrl>
 
@@ -67,6 +68,24 @@ TEST_F(DropSongs, TwoHundredFilesOfAllNamesArePlacedInTheirOrder) {
   }
   EXPECT_TRUE(app->Document().IsModified());
   EXPECT_NE(Status().left(5), QStringLiteral("Click"));
+}
+
+TEST_F(DropSongs, TheSongThatWasClickedSaysWhereThoughTheMouseGoesOn) {
+  Start(kShow);
+  ASSERT_GE(Songs(0).size(), 2u);
+  Drop({QStringLiteral("/m/x.mp3")});
+  TCPlayListManagerTreeView& tree = Frame().Tree();
+  tree.expandAll();
+  const QModelIndex group = tree.model()->index(0, 0);
+  const QModelIndex song = tree.model()->index(0, 0, tree.model()->index(0, 0, group));
+  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(song).center());
+  // The placing waits for the end of the click; a busy window has moves of the mouse in between.
+  const QPoint elsewhere = tree.visualRect(tree.model()->index(1, 0, group)).center();
+  QMouseEvent move(QEvent::MouseMove, elsewhere, tree.viewport()->mapToGlobal(elsewhere), Qt::NoButton,
+                   Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(tree.viewport(), &move);
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(Songs(0)[1].fileName, u"x.mp3");
 }
 
 TEST_F(DropSongs, TheFirstFileOfAWrongTypeIsNamedAndEndsTheRun) {

@@ -124,6 +124,11 @@ TEST_F(AddPlayItemsTest, CreateWithoutSongsChangesOnlyTheCurrentPlaylist) {
   EXPECT_EQ(rig.store.CurrentPosition(), (TCPlaylistPosition{1, 0}));
   EXPECT_EQ(rig.modified, 0);
   EXPECT_EQ(rig.tree.SelectedText(), u"Early");
+  EXPECT_EQ(rig.store.lastGroupListName, u"Club");
+  EXPECT_EQ(rig.store.lastPlayListName, u"Early") << "although no row of it can be shown";
+  form.ChoosePlaylist(1);
+  form.Create();
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"c.mp3"));
 }
 
 TEST_F(AddPlayItemsTest, CreateFillsAnEmptyPlaylist) {
@@ -135,10 +140,13 @@ TEST_F(AddPlayItemsTest, CreateFillsAnEmptyPlaylist) {
 
 TEST_F(AddPlayItemsTest, AChosenPlaylistThatIsNoneIsRefused) {
   TCAddPlayItems form = Open(u"Sets", u"Two");
+  form.ChooseGroup(1);
   form.ChoosePlaylist(-1);
   form.songFiles = u"C:\\x.mp3";
   form.Create();
   EXPECT_EQ(rig.store.CurrentPosition(), (TCPlaylistPosition{0, 0}));
+  EXPECT_EQ(rig.store.lastGroupListName, u"Club") << "the names are remembered first";
+  EXPECT_EQ(rig.store.lastPlayListName, u"Two");
   EXPECT_EQ(rig.modified, 0);
 }
 

@@ -4,15 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "document/add_play_items.h"
-#include "document/brevant_doc.h"
+#include "document/show_document.h"
 #include "document/song_properties.h"
-#include "support/fake_frame.h"
-#include "support/fake_player.h"
-#include "support/fake_playlist_view.h"
-#include "support/fake_prompts.h"
-#include "support/fake_tree.h"
-#include "support/memory_files.h"
-#include "support/message_log.h"
 
 namespace brevant {
 namespace {
@@ -24,33 +17,9 @@ using testing::Not;
 
 using Id = TCCommandId;
 
-class BrevantDocEditingTest : public testing::Test {
+class BrevantDocEditingTest : public TCShowDocument {
  protected:
-  BrevantDocEditingTest() {
-    files.PutUtf16(u"D:\\show.brv",
-                   u"\"Sets\" \"One\" \"C:\\a.mp3\" 03:00\r\n\"Sets\" \"One\" \"C:\\b.mp3\" 04:00\r\n"
-                   u"\"Sets\" \"Two\" \"C:\\c.mp3\" 01:00\r\n\"Club\" \"Late\" \"C:\\d.mp3\" 01:00\r\n");
-    for (const std::u16string_view song : {u"C:\\a.mp3", u"C:\\b.mp3", u"C:\\c.mp3", u"C:\\d.mp3"})
-      files.Put(song);
-    document.OnOpenDocument(u"D:\\show.brv");
-  }
-
-  void Select(std::u16string_view text) { tree.selected = tree.NodeNamed(text); }
-  [[nodiscard]] std::vector<std::u16string> Rows() const {
-    std::vector<std::u16string> rows;
-    for (const TCPlaylistRow& row : view.rows) rows.push_back(row.texts.name);
-    return rows;
-  }
-
-  TCMemoryFiles files;
-  TCAppRecord record;
-  TCFakePlayer player;
-  TCFakePlaylistView view;
-  TCFakeTree tree;
-  TCMessageLog messages;
-  TCFakeFrame frame;
-  TCFakePrompts prompts;
-  TCBrevantDoc document{{record, files, &player, view, tree, messages, frame, prompts, {}}};
+  BrevantDocEditingTest() { document.OnOpenDocument(kShow); }
 };
 
 TEST_F(BrevantDocEditingTest, AnOpenedDocumentFillsTheTreeAndANewOneEmptiesIt) {
@@ -245,6 +214,21 @@ TEST_F(BrevantDocEditingTest, EnterPicksTheSelectedNodeAndOpensItsPlaylist) {
   EXPECT_THAT(Rows(), ElementsAre(u"c.mp3"));
 }
 
+TEST_F(BrevantDocEditingTest, EnterOnASongPlaysItOnlyWhenBothOptionsAreOn) {
+  for (const bool inTheTree : {false, true}) {
+    for (const bool immediate : {false, true}) {
+      document.OnOpenDocument(kShow);
+      document.OnCommand(Id::Stop);
+      record.settings.playlistManagerImmediatePlay = inTheTree;
+      record.settings.immediatePlay = immediate;
+      Select(u"d.mp3");
+      document.EnterOnNode();
+      EXPECT_THAT(Rows(), ElementsAre(u"d.mp3"));
+      EXPECT_EQ(document.Transport().State().playing, inTheTree && immediate);
+    }
+  }
+}
+
 TEST_F(BrevantDocEditingTest, TheSelectedNodesPlaylistIsCopiedIntoThePlaylistWindow) {
   Select(u"d.mp3");
   document.OnCommand(Id::ShowTreeSelection);
@@ -292,7 +276,7 @@ TEST_F(BrevantDocEditingTest, ADroppedDocumentAsksAboutUnsavedChangesFirst) {
   document.SetModified();
   prompts.saveAnswers = {TCSaveAnswer::Cancel};
   document.DropFiles({u"D:\\other.brv"});
-  EXPECT_EQ(document.GetPathName(), u"D:\\show.brv");
+  EXPECT_EQ(document.GetPathName(), kShow);
   EXPECT_EQ(tree.Lines().size(), 9u);
 }
 
@@ -356,10 +340,7 @@ TEST_F(BrevantDocEditingTest, MeasuredTimesAreShownInTheRowsThatStandThereWhileA
   ASSERT_EQ(view.rows[1].texts.time, u"04:00");
   player.SetDefaultSong({.length = 90.0});
   document.OnCommand(Id::RefreshAllTimes);
-  for (int tick = 0; tick < 20; ++tick) {
-    player.Advance(0.3);
-    document.OnPlayTimerTick();
-  }
+  Poll(20);
   EXPECT_EQ(view.rows[1].texts.time, u"01:30");
   EXPECT_EQ(view.header, u"One - Total Playlist Time: 03:15");
 }

@@ -4,16 +4,8 @@
 
 #include <functional>
 
-#include "document/brevant_doc.h"
+#include "document/show_document.h"
 #include "document/song_properties.h"
-#include "support/fake_frame.h"
-#include "support/fake_player.h"
-#include "support/fake_playlist_view.h"
-#include "support/fake_prompts.h"
-#include "support/fake_properties.h"
-#include "support/fake_tree.h"
-#include "support/memory_files.h"
-#include "support/message_log.h"
 
 namespace brevant {
 namespace {
@@ -21,18 +13,11 @@ namespace {
 using Id = TCCommandId;
 using P = TCProperty;
 
-constexpr std::u16string_view kShow = u"D:\\Docs\\show.brv";
 constexpr std::u16string_view kTyped = u"typed by the user";
 
-class BrevantDocProperties : public testing::Test {
+class BrevantDocProperties : public TCShowDocument {
  protected:
-  BrevantDocProperties() {
-    files.PutUtf16(kShow,
-                   u"\"Sets\" \"One\" \"C:\\a.mp3\" 03:00\r\n\"Sets\" \"One\" \"C:\\b.mp3\" 04:00\r\n"
-                   u"\"Sets\" \"Two\" \"C:\\c.mp3\" 01:00\r\n");
-    for (const std::u16string_view song : {u"C:\\a.mp3", u"C:\\b.mp3", u"C:\\c.mp3"}) files.Put(song);
-    document.OnOpenDocument(kShow);
-  }
+  BrevantDocProperties() { document.OnOpenDocument(kShow); }
 
   // A refresh shows the song's own title again.
   [[nodiscard]] bool Refreshes(const std::function<void()>& act) {
@@ -43,32 +28,6 @@ class BrevantDocProperties : public testing::Test {
   [[nodiscard]] bool Refreshes(Id command) {
     return Refreshes([this, command] { document.OnCommand(command); });
   }
-  void Poll(int times) {
-    for (int poll = 0; poll < times; ++poll) {
-      player.Advance(0.3);
-      document.OnPlayTimerTick();
-    }
-  }
-
-  TCMemoryFiles files;
-  TCAppRecord record;
-  TCFakePlayer player;
-  TCFakePlaylistView view;
-  TCFakeTree tree;
-  TCMessageLog messages;
-  TCFakeFrame frame;
-  TCFakePrompts prompts;
-  TCFakeProperties pane;
-  TCBrevantDoc document{{.record = record,
-                         .files = files,
-                         .player = &player,
-                         .playlistView = view,
-                         .treeView = tree,
-                         .messages = messages,
-                         .frame = frame,
-                         .prompts = prompts,
-                         .folders = {u"\\opt\\", u"\\conf\\", u"\\state\\"},
-                         .properties = &pane}};
 };
 
 TEST_F(BrevantDocProperties, AnOpenedDocumentIsShownWithItsFirstSong) {

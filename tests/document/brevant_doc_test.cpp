@@ -3,15 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "document/show_document.h"
 #include "model/play_marks.h"
-#include "support/fake_frame.h"
-#include "support/fake_player.h"
-#include "support/fake_playlist_view.h"
-#include "support/fake_prompts.h"
-#include "support/fake_tree.h"
-#include "support/memory_files.h"
-#include "support/message_log.h"
-#include "support/repeat_fields.h"
 
 namespace brevant {
 namespace {
@@ -19,46 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::u16string_view kShow = u"D:\\Docs\\show.brv";
-constexpr std::u16string_view kShowText =
-    u"\"Sets\" \"One\" \"C:\\a.mp3\" 03:00\r\n\"Sets\" \"One\" \"C:\\b.mp3\" 04:00\r\n"
-    u"\"Sets\" \"Two\" \"C:\\c.mp3\" 01:00\r\n";
-
-class TCRecentFileLog final : public TCRecentFileList {
- public:
-  void AddToRecentFileList(std::u16string_view path) override { paths.emplace_back(path); }
-  std::vector<std::u16string> paths;
-};
-
-class BrevantDocTest : public testing::Test {
- protected:
-  BrevantDocTest() {
-    files.PutUtf16(kShow, kShowText);
-    for (const std::u16string_view song : {u"C:\\a.mp3", u"C:\\b.mp3", u"C:\\c.mp3"}) files.Put(song);
-  }
-
-  TCMemoryFiles files;
-  TCAppRecord record;
-  TCFakePlayer player;
-  TCFakePlaylistView view;
-  TCFakeTree tree;
-  TCMessageLog messages;
-  TCFakeFrame frame;
-  TCFakePrompts prompts;
-  TCFakeRepeatFields repeatFields;
-  TCRecentFileLog recent;
-  TCBrevantDoc document{{.record = record,
-                         .files = files,
-                         .player = &player,
-                         .playlistView = view,
-                         .treeView = tree,
-                         .messages = messages,
-                         .frame = frame,
-                         .prompts = prompts,
-                         .folders = {u"", u"", u"\\state\\recovery\\"},
-                         .repeatFields = &repeatFields,
-                         .recentFiles = &recent}};
-};
+class BrevantDocTest : public TCShowDocument {};
 
 TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
   EXPECT_TRUE(document.OnOpenDocument(kShow));
@@ -139,17 +93,17 @@ TEST_F(BrevantDocTest, OpeningTheOpenFileReadsItFromDiskAgain) {
 TEST_F(BrevantDocTest, OnlyWhatIsOpenedThroughTheProgramOrSavedUnderANewNameIsARecentFile) {
   document.OnOpenDocument(kShow);  // as the last file is at a start
   document.OnCommand(TCCommandId::FileSave);
-  EXPECT_THAT(recent.paths, IsEmpty());
+  EXPECT_THAT(rig.recent.paths, IsEmpty());
   document.OpenDocumentFile(kShow);
-  EXPECT_THAT(recent.paths, ElementsAre(kShow));
+  EXPECT_THAT(rig.recent.paths, ElementsAre(kShow));
   document.SetModified();
   prompts.saveAnswers = {TCSaveAnswer::Cancel};
   document.OpenDocumentFile(u"D:\\Docs\\other.brv");
   prompts.saveAsAnswers = {std::nullopt, std::u16string(u"D:\\Docs\\copy.brv")};
   document.OnCommand(TCCommandId::FileSaveAs);
-  EXPECT_THAT(recent.paths, ElementsAre(kShow)) << "cancelled";
+  EXPECT_THAT(rig.recent.paths, ElementsAre(kShow)) << "cancelled";
   document.OnCommand(TCCommandId::FileSaveAs);
-  EXPECT_THAT(recent.paths, ElementsAre(kShow, u"D:\\Docs\\copy.brv"));
+  EXPECT_THAT(rig.recent.paths, ElementsAre(kShow, u"D:\\Docs\\copy.brv"));
 }
 
 TEST_F(BrevantDocTest, TheOpenFileIsNotReadAgainWhileItsUnsavedChangesAreHeldOnTo) {
@@ -334,8 +288,11 @@ TEST_F(BrevantDocTest, CancelSaysSoAndDropsTheMouseState) {
 }
 
 TEST_F(BrevantDocTest, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
+  Poll(1);
+  ASSERT_EQ(frame.status, u"1 of 4");
   document.OnCommand(TCCommandId::Cancel);
   EXPECT_FALSE(document.Transport().TimeRun().Pending());
   EXPECT_EQ(frame.status, u"");
@@ -358,26 +315,31 @@ TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) 
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
-  player.Advance(0.3);
-  document.OnPlayTimerTick();
-  EXPECT_EQ(frame.status, u"1 of 3");
+  Poll(1);
+  EXPECT_EQ(frame.status, u"1 of 4");
   EXPECT_FALSE(document.IsModified());
-  for (int poll = 0; poll < 5; ++poll) {
-    player.Advance(0.3);
-    document.OnPlayTimerTick();
-  }
+  Poll(5);
   EXPECT_EQ(frame.status, u"");
   EXPECT_TRUE(document.IsModified());
   EXPECT_EQ(view.header, u"One - Total Playlist Time: 02:25");
   EXPECT_EQ(view.rows[1].texts.time, u"01:05");
 }
 
+TEST_F(BrevantDocTest, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
+  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  document.OnOpenDocument(kShow);
+  document.DropFiles({u"C:\\a.mp3"});
+  document.OnCommand(TCCommandId::RefreshAllTimes);
+  Poll(1);
+  ASSERT_TRUE(document.Transport().TimeRun().Pending());
+  EXPECT_EQ(frame.status, u"");
+}
+
 TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
-  player.Advance(0.3);
-  document.OnPlayTimerTick();
+  Poll(1);
   document.OnOpenDocument(kShow);
   EXPECT_FALSE(document.Transport().TimeRun().Pending());
   EXPECT_EQ(frame.status, u"");
@@ -387,7 +349,7 @@ TEST_F(BrevantDocTest, ARunOverThePlaylistLeavesTheOthersAlone) {
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshPlaylistTimes);
-  for (int poll = 0; poll < 5; ++poll) document.OnPlayTimerTick();
+  Poll(5);
   EXPECT_EQ(record.setLists.groups[0].playlists[1].items[0].time, u"01:00");
   EXPECT_EQ(record.setLists.groups[0].playlists[0].items[0].time, u"01:05");
 }
@@ -413,31 +375,26 @@ TEST_F(BrevantDocTest, ANewLyricFontSizeAndANewNumberOfLinesAreDrawnAtTheNextPol
   files.Put(u"C:\\a.lrc", "[00:00.000]one\r\n[01:00.000]two\r\n[02:00.000]three\r\n");
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::Play);
-  const auto poll = [this] {
-    player.Advance(0.3);
-    document.OnPlayTimerTick();
-  };
-  poll();
-  poll();
+  Poll(2);
   ASSERT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo"));
   messages.clears = 0;
-  poll();
+  Poll(1);
   ASSERT_EQ(messages.clears, 0) << "the current line has not changed";
 
   prompts.texts = {u"40", u"3", u"7"};
   document.OnCommand(TCCommandId::LyricsFontSize);
   EXPECT_EQ(document.Transport().State().lastLyricIndex, -1);
-  poll();
+  Poll(1);
   EXPECT_EQ(messages.clears, 1);
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo"));
 
   document.OnCommand(TCCommandId::LyricLines);
   EXPECT_EQ(document.Transport().State().lastLyricIndex, -1);
-  poll();
+  Poll(1);
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone", u"\r\n", u"\ttwo", u"\r\n", u"\tthree"));
 
   document.OnCommand(TCCommandId::VolumeStep);
-  poll();
+  Poll(1);
   EXPECT_EQ(messages.clears, 2) << "no other prompt draws them anew";
 }
 
@@ -461,13 +418,14 @@ TEST_F(BrevantDocTest, SeekAndRepeatKeysReachThePlayerAndTheTimeFields) {
   document.OnCommand(TCCommandId::SetRepeatBegin);
   document.OnCommand(TCCommandId::SeekForward);
   EXPECT_EQ(player.Calls().size(), 2u);
-  EXPECT_EQ(repeatFields.end, 9);
-  EXPECT_EQ(repeatFields.begin, 7);
+  EXPECT_EQ(rig.repeatFields.end, 9);
+  EXPECT_EQ(rig.repeatFields.begin, 7);
   EXPECT_EQ(static_cast<int>(player.GetPosition().value_or(0.0)), 9);
 }
 
 TEST_F(BrevantDocTest, WithoutAPlayerEveryKeyOfAPerformanceAndEveryPollRunsWithoutEffect) {
-  TCBrevantDoc mute{{record, files, nullptr, view, tree, messages, frame, prompts, {}}};
+  TCDocumentRig silent(files, nullptr);
+  TCBrevantDoc& mute = silent.document;
   mute.OnOpenDocument(kShow);
   using Id = TCCommandId;
   for (const Id command : {Id::Play, Id::LoadSong, Id::PauseContinue, Id::Stop, Id::SeekForward, Id::SeekBack,
@@ -478,8 +436,8 @@ TEST_F(BrevantDocTest, WithoutAPlayerEveryKeyOfAPerformanceAndEveryPollRunsWitho
   }
   EXPECT_FALSE(mute.Transport().State().playing);
   EXPECT_FALSE(mute.IsModified());
-  EXPECT_EQ(view.rows[0].texts.time, u"03:00");
-  EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
+  EXPECT_EQ(silent.view.rows[0].texts.time, u"03:00");
+  EXPECT_THAT(silent.messages.lines, ElementsAre(u"...Brevant..."));
 }
 
 TEST_F(BrevantDocTest, ACommandOfSomebodyElseIsNotTaken) {

@@ -69,6 +69,15 @@ TEST_F(EntryMoverTest, ASongThatComesFromElsewhereShowsInTheCurrentPlaylist) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"e.mp3", u"a.mp3", u"b.mp3", u"c.mp3"));
 }
 
+TEST_F(EntryMoverTest, WhileAnEmptyPlaylistIsCurrentTheRowsOnTheScreenFollowTheirOwn) {
+  rig.store.groups[0].playlists[1].items.clear();
+  rig.store.currentPlaylist = 1;
+  rig.Show();
+  ASSERT_EQ(rig.store.shown, (TCPlaylistPosition{0, 0}));
+  Move(u"a.mp3", u"c.mp3");
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
+}
+
 TEST_F(EntryMoverTest, APlaylistMovesAcrossGroupsAndStaysOnTheScreen) {
   Move(u"One", u"Late");
   EXPECT_THAT(Lines(), ElementsAre(u"Sets", u"  Two", u"    d.mp3", u"Club", u"  One", u"    a.mp3",
@@ -153,15 +162,48 @@ TEST_F(EntryMoverTest, WithDisableEditingTheSelectionStillMoves) {
   rig.view.selected = {1};
   mover.MoveSongUp();
   EXPECT_THAT(rig.view.selected, ElementsAre(0));
+  mover.MoveSongDown();
+  mover.MoveSongDown();
+  EXPECT_THAT(rig.view.selected, ElementsAre(2));
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3"));
+}
+
+TEST_F(EntryMoverTest, OnTheRowsOfAnEmptiedPlaylistOnlyTheSelectionMovesAndOnlyUp) {
+  rig.view.selected = {0, 1, 2};
+  rig.editor.RemoveSelectedRows();
+  ASSERT_EQ(rig.view.rows.size(), 3u);
+  rig.view.selected = {1};
+  mover.MoveSongDown();
+  EXPECT_THAT(rig.view.selected, ElementsAre(1));
+  mover.MoveSongUp();
+  EXPECT_THAT(rig.view.selected, ElementsAre(0));
+  rig.Select(u"Late");
+  mover.CopySelectedRowsToNode();
+  EXPECT_EQ(Lines().size(), 7u);
 }
 
 TEST_F(EntryMoverTest, TheCurrentSongsRowIsSelectedToBeMoved) {
   rig.store.currentSong = 2;
   rig.presenter.HighlightCurrentSong();
+  rig.view.scrolledTo = -1;  // the user looked elsewhere since
   mover.SelectSongToMove();
   EXPECT_THAT(rig.view.selected, ElementsAre(2));
   EXPECT_EQ(rig.view.scrolledTo, 2);
+}
+
+TEST_F(EntryMoverTest, TheSongToMoveIsTheOneThatWasCurrentWhenTheRowsWereColouredLast) {
+  rig.store.currentSong = 1;
+  rig.presenter.HighlightCurrentSong();
+  rig.store.currentSong = 2;
+  mover.SelectSongToMove();
+  EXPECT_THAT(rig.view.selected, ElementsAre(1));
+}
+
+TEST_F(EntryMoverTest, DisableEditingStopsNoDuplicate) {
+  rig.record.settings.disableEditing = 1;
+  rig.Select(u"d.mp3");
+  mover.Duplicate();
+  EXPECT_EQ(rig.store.groups[0].playlists[1].items.size(), 2u);
 }
 
 TEST_F(EntryMoverTest, ADuplicatedSongStandsAtTheEndOfItsPlaylist) {

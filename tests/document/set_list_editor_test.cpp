@@ -163,6 +163,18 @@ TEST_F(SetListEditorTest, TheCurrentPlaylistsNewNameStandsInTheHeader) {
   EXPECT_EQ(rig.view.header, u"Opener - Total Playlist Time: 03:30");
 }
 
+TEST_F(SetListEditorTest, WhileAnEmptyPlaylistIsCurrentNewNamesStandInTheRowsAndHeaderOnTheScreen) {
+  rig.store.groups[0].playlists[1].items.clear();
+  rig.store.currentPlaylist = 1;
+  rig.Show();
+  ASSERT_EQ(rig.store.shown, (TCPlaylistPosition{0, 0}));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"b.mp3"), u"bee.mp3"));
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"bee.mp3", u"c.mp3"));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Two"), u"Second"));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"One"), u"Opener"));
+  EXPECT_EQ(rig.view.header, u"Opener - Total Playlist Time: 03:30");
+}
+
 TEST_F(SetListEditorTest, RenamingToBlanksOrANodeOfNothingChangesNothing) {
   EXPECT_FALSE(editor.Rename(rig.tree.NodeNamed(u"One"), u"  "));
   EXPECT_FALSE(editor.Rename(TCTreeNode::None, u"x"));
@@ -175,6 +187,8 @@ TEST_F(SetListEditorTest, TheSelectedNodesNewNameIsAskedFor) {
   rig.prompts.texts = {u"Second", std::nullopt, u" "};
   editor.AskForNewName();
   EXPECT_EQ(rig.prompts.lastPrompt, u"Enter the new folder name");
+  EXPECT_EQ(rig.prompts.lastExample, u"");
+  EXPECT_EQ(rig.prompts.lastMode, TCTextPromptMode::Property);
   EXPECT_EQ(rig.prompts.lastText, u"");
   editor.AskForNewName();
   editor.AskForNewName();
@@ -216,12 +230,16 @@ TEST_F(SetListEditorTest, WhatWasSelectedWhenTheUserAskedCountsWhateverTheTreeFo
     };
   };
   rig.Select(u"Club");
-  rig.prompts.textAnswers = {selectMeanwhile(u"a.mp3", u"P"), selectMeanwhile(u"a.mp3", u"G")};
+  rig.prompts.textAnswers = {selectMeanwhile(u"a.mp3", u"P"), selectMeanwhile(u"a.mp3", u"G"),
+                             selectMeanwhile(u"a.mp3", u"R")};
   EXPECT_TRUE(editor.AskForPlaylist());
   EXPECT_EQ(Lines().back(), u"  P");
   rig.Select(u"Club");
   EXPECT_TRUE(editor.AskForGroup());
   EXPECT_EQ(Lines().back(), u"G");
+  rig.Select(u"G");
+  editor.AskForNewName();
+  EXPECT_EQ(Lines().back(), u"R");
 }
 
 TEST_F(SetListEditorTest, TheShownGroupsNewNameIsSuggestedNext) {
@@ -274,6 +292,33 @@ TEST_F(SetListEditorTest, WithoutConfirmFileRemoveNobodyIsAsked) {
   rig.tree.selected = TCTreeNode::None;
   editor.RemoveSelectedNode();
   EXPECT_EQ(rig.modified, 1);
+}
+
+TEST_F(SetListEditorTest, WhatWasAskedAboutIsRemovedWhereverItIsByThen) {
+  rig.prompts.removeAnswers = {true};
+  rig.prompts.whileRemoveIsAsked = [this] {
+    rig.mover.Move(rig.tree.NodeNamed(u"c.mp3"), rig.tree.NodeNamed(u"a.mp3"));
+    rig.Select(u"d.mp3");
+  };
+  rig.Select(u"c.mp3");
+  editor.RemoveSelectedNode();
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3"));
+  EXPECT_EQ(Lines().size(), 9u);
+}
+
+TEST_F(SetListEditorTest, DisableEditingStopsNoCreatingRenamingOrRemoving) {
+  rig.record.settings.disableEditing = 1;
+  rig.record.settings.confirmFileRemove = false;
+  rig.Select(u"Club");
+  EXPECT_TRUE(editor.CreateGroup(u"New"));
+  EXPECT_TRUE(editor.CreatePlaylist(u"First"));
+  EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"d.mp3"), u"x.mp3"));
+  rig.view.selected = {0};
+  editor.RemoveSelectedRows();
+  rig.Select(u"Late");
+  editor.RemoveSelectedNode();
+  EXPECT_THAT(Lines(), ElementsAre(u"Sets", u"  One", u"    b.mp3", u"    c.mp3", u"  Two", u"    x.mp3",
+                                   u"Club", u"New", u"  First"));
 }
 
 TEST_F(SetListEditorTest, BehindARemovedCurrentPlaylistTheNextOneIsShown) {

@@ -45,6 +45,16 @@ TEST_F(SongPlacementTest, CopiedRowsAreQuotedOneDirectlyBehindTheOther) {
   EXPECT_EQ(placement.CopyText(), u"\"C:\\b.mp3\"");
 }
 
+TEST_F(SongPlacementTest, RowsThatStandForNoSongAnyMoreLeaveNothingCopied) {
+  rig.view.selected = {0};
+  placement.CopySelectedRows();
+  rig.store.groups[0].playlists[0].items.clear();
+  ASSERT_EQ(rig.view.rows.size(), 3u) << "an emptied playlist stays on the screen";
+  rig.view.selected = {0, 2};
+  placement.CopySelectedRows();
+  EXPECT_EQ(placement.CopyText(), u"");
+}
+
 TEST_F(SongPlacementTest, OfTheTreeOnlyASongIsCopied) {
   rig.Select(u"d.mp3");
   placement.CopySelectedNode();
@@ -52,6 +62,15 @@ TEST_F(SongPlacementTest, OfTheTreeOnlyASongIsCopied) {
   rig.Select(u"One");
   placement.CopySelectedNode();
   rig.Select(u"Sets");
+  placement.CopySelectedNode();
+  EXPECT_EQ(placement.CopyText(), u"\"C:\\d.mp3\"");
+}
+
+TEST_F(SongPlacementTest, ASongWithoutANameIsNotCopiedFromTheTree) {
+  rig.Select(u"d.mp3");
+  placement.CopySelectedNode();
+  rig.store.groups[0].playlists[0].items[0].SetPath(u"");
+  rig.Select(u"a.mp3");
   placement.CopySelectedNode();
   EXPECT_EQ(placement.CopyText(), u"\"C:\\d.mp3\"");
 }
@@ -137,6 +156,48 @@ TEST_F(SongPlacementTest, CancelForgetsTheDroppedFiles) {
   EXPECT_TRUE(placement.Pending());
 }
 
+TEST_F(SongPlacementTest, ASecondDropReplacesTheFilesOfTheFirst) {
+  Drop({u"D:\\x.mp3", u"D:\\y.mp3"});
+  Drop({u"D:\\z.mp3"});
+  rig.Select(u"Two");
+  placement.PlacePendingFiles();
+  EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"z.mp3"));
+}
+
+TEST_F(SongPlacementTest, ADropWhileANameIsAskedForWaitsForItsOwnClick) {
+  Drop({u"D:\\x.mp3", u"D:\\y.mp3"});
+  rig.Select(u"Sets");
+  rig.prompts.textAnswers = {[this](const TCTextPrompt&) {
+    EXPECT_EQ(rig.frame.placing, TCPlacing::Nothing);
+    Drop({u"D:\\z.mp3"});
+    return std::optional<std::u16string>(u"New");
+  }};
+  placement.PlacePendingFiles();
+  EXPECT_THAT(Songs(2), ElementsAre(u"x.mp3", u"y.mp3"));
+  EXPECT_TRUE(placement.Pending());
+  EXPECT_EQ(rig.frame.placing, TCPlacing::Waiting);
+  rig.Select(u"Two");
+  placement.PlacePendingFiles();
+  EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"z.mp3"));
+}
+
+TEST_F(SongPlacementTest, TheCurrentPlaylistIsShownAgainWhateverTheClickPlaced) {
+  Drop({u"D:\\notes.txt"});
+  rig.Select(u"Two");
+  const int shows = rig.view.shows;
+  placement.PlacePendingFiles();
+  EXPECT_EQ(rig.view.shows, shows + 1);
+  EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3"));
+}
+
+TEST_F(SongPlacementTest, DisableEditingStopsNoPlacing) {
+  rig.record.settings.disableEditing = 1;
+  Drop({u"D:\\x.mp3"});
+  rig.Select(u"Two");
+  placement.PlacePendingFiles();
+  EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"x.mp3"));
+}
+
 TEST_F(SongPlacementTest, AClickWithoutPendingFilesPlacesNothing) {
   Drop({u"D:\\x.mp3"});
   rig.Select(u"Two");
@@ -145,9 +206,12 @@ TEST_F(SongPlacementTest, AClickWithoutPendingFilesPlacesNothing) {
   EXPECT_EQ(Songs(1).size(), 2u);
 }
 
-TEST_F(SongPlacementTest, WithoutASelectedNodeNothingIsPlaced) {
+TEST_F(SongPlacementTest, WithoutASelectedNodeNothingIsPlacedAndNoTypeIsBlamed) {
+  Drop({u"D:\\x.txt"});
+  placement.PlacePendingFiles();
   Drop({u"D:\\x.mp3"});
   placement.PlacePendingFiles();
+  EXPECT_THAT(rig.messages.lines, IsEmpty());
   EXPECT_EQ(rig.modified, 0);
   EXPECT_FALSE(placement.Pending());
 }
@@ -159,6 +223,14 @@ TEST_F(SongPlacementTest, AtAGroupAPlaylistIsAskedForAndTakesAllFiles) {
   placement.PlacePendingFiles();
   EXPECT_EQ(rig.store.groups[0].playlists[2].name, u"New");
   EXPECT_THAT(Songs(2), ElementsAre(u"x.mp3", u"y.mp3"));
+}
+
+TEST_F(SongPlacementTest, AWrongTypeAtAGroupAsksForNoPlaylist) {
+  Drop({u"D:\\notes.txt"});
+  rig.Select(u"Sets");
+  placement.PlacePendingFiles();
+  EXPECT_THAT(rig.messages.lines, ElementsAre(u"Invalid media file type (.xxx) for file: D:\\notes.txt"));
+  EXPECT_EQ(rig.modified, 0);
 }
 
 TEST_F(SongPlacementTest, ACancelledPlaylistPromptPlacesNothing) {

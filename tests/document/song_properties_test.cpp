@@ -102,6 +102,16 @@ TEST_F(SongPropertiesTest, TheFileTypeIsAppliedToTheWholePlaylistAndToItsNodes) 
   EXPECT_EQ(rig.tree.Lines(), rig.ModelLines());
 }
 
+TEST_F(SongPropertiesTest, TheFileTypeAloneLeavesTheFoldersOfTheOthers) {
+  TCSongPropertiesForm form(rig.parts, {0, 0, 0});
+  form.songPath = u"E:\\";
+  form.songName = u"a.mid";
+  form.extensionForAll = true;
+  form.Apply();
+  EXPECT_EQ(Song(0, 0).FullPath(), u"E:\\a.mid");
+  EXPECT_EQ(Song(0, 1).FullPath(), u"C:\\b.mid");
+}
+
 TEST_F(SongPropertiesTest, ARepairReadsTheLyricsOfEverySongAgain) {
   rig.files.Put(u"E:\\b.lrc", "[00:01.0]Hello");
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
@@ -119,8 +129,15 @@ TEST_F(SongPropertiesTest, ThePlaylistRemembersTheTwoBoxes) {
   const TCPlayList& playlist = rig.store.groups[0].playlists[1];
   EXPECT_EQ(playlist.state2, 1);
   EXPECT_EQ(playlist.state3, 0);
-  EXPECT_TRUE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).pathForAll);
+  TCSongPropertiesForm next(rig.parts, {0, 1, 0});
+  EXPECT_TRUE(next.pathForAll);
+  EXPECT_FALSE(next.extensionForAll);
   EXPECT_FALSE(TCSongPropertiesForm(rig.parts, {0, 0, 0}).pathForAll);
+  next.pathForAll = false;
+  next.extensionForAll = true;
+  next.Apply();
+  EXPECT_FALSE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).pathForAll);
+  EXPECT_TRUE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).extensionForAll);
 }
 
 TEST_F(SongPropertiesTest, ASongOfAnotherPlaylistIsRepairedWithoutTouchingTheView) {

@@ -33,6 +33,7 @@ class TCFakePrompts final : public TCPrompts {
   std::deque<std::optional<TCPaths>> mediaAnswers;
   TCMediaFileQuestion lastMediaQuestion;
   std::deque<bool> removeAnswers;
+  std::function<void()> whileRemoveIsAsked;  // what happens while that question stands there
   std::u16string lastRemoveQuestion;
 
   // What the user does in the larger dialogs; true is OK.
@@ -64,6 +65,7 @@ class TCFakePrompts final : public TCPrompts {
   }
   bool ConfirmRemove(std::u16string_view question) override {
     lastRemoveQuestion = question;
+    if (whileRemoveIsAsked) whileRemoveIsAsked();
     return Next(removeAnswers, false);
   }
   bool EditSetLists(TCAddPlayItems& form) override {

@@ -3,23 +3,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QImage>
-#include <QLineEdit>
-#include <QPainter>
 #include <QPixmap>
-#include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
-#include <QVBoxLayout>
 
 #include "views/tree_rig.h"
 
 namespace brevant {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -146,6 +140,17 @@ TEST_F(Tree, ClearingTakesAllNodes) {
   EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
 }
 
+TEST_F(Tree, ClearingEndsADrag) {
+  OpenAll();
+  mouse.Press(Label(first[0]));
+  mouse.Drag(Label(first[1]));
+  tree.ClearNodes();
+  other.setFocus();
+  const TCTreeNode added = tree.AddNodes(TCTreeNode::None, 0, {u"New"}).front();
+  tree.FollowNode(added);
+  EXPECT_EQ(tree.SelectedNode(), added) << "the user no longer drags";
+}
+
 TEST_F(Tree, FollowsASongOnlyWhileTheUserWorksElsewhere) {
   other.setFocus();
   tree.FollowNode(first[0]);
@@ -205,175 +210,6 @@ TEST_F(Tree, TakesTheFocusButNotIntoAPaneThatIsClosed) {
   EXPECT_TRUE(other.hasFocus());
 }
 
-TEST_F(Tree, EnterActsOnceForItsPressAndOnceForItsReleaseOnPlaylistsAndSongsAlone) {
-  tree.TakeFocus();
-  for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
-    for (const TCTreeNode node : {setOne, first[0]}) {
-      enters.clear();
-      tree.SelectNode(node);
-      QTest::keyPress(&tree, enter);
-      EXPECT_EQ(enters.count(), 1);
-      QTest::keyRelease(&tree, enter);
-      EXPECT_EQ(enters.count(), 2);
-    }
-    enters.clear();
-    tree.SelectNode(gigs);
-    QTest::keyClick(&tree, enter);
-    EXPECT_EQ(enters.count(), 0);
-  }
-}
-
-TEST_F(Tree, EnterOnAGroupOrWithoutANodeIsLeftToTheFrame) {
-  tree.TakeFocus();
-  window.keys = 0;
-  QTest::keyClick(&tree, Qt::Key_Return);
-  EXPECT_EQ(window.keys, 1);
-  tree.SelectNode(gigs);
-  QTest::keyClick(&tree, Qt::Key_Return);
-  EXPECT_EQ(window.keys, 2);
-  tree.SelectNode(setOne);
-  QTest::keyClick(&tree, Qt::Key_Return);
-  EXPECT_EQ(window.keys, 2);
-}
-
-TEST_F(Tree, AHeldEnterActsNoMoreThanAShortOne) {
-  tree.TakeFocus();
-  tree.SelectNode(setOne);
-  const auto send = [this](QEvent::Type type, bool repeat) {
-    QKeyEvent event(type, Qt::Key_Return, {}, QString(), repeat);
-    QCoreApplication::sendEvent(&tree, &event);
-  };
-  send(QEvent::KeyPress, false);
-  for (int i = 0; i < 5; ++i) {
-    send(QEvent::KeyRelease, true);
-    send(QEvent::KeyPress, true);
-  }
-  send(QEvent::KeyRelease, false);
-  EXPECT_EQ(enters.count(), 2);
-}
-
-TEST_F(Tree, TheReleaseOfAnEnterThatWentDownElsewhereIsNoEnter) {
-  tree.SelectNode(setOne);
-  tree.TakeFocus();
-  QTest::keyRelease(&tree, Qt::Key_Return);
-  EXPECT_EQ(enters.count(), 0);
-  QTest::keyPress(&tree, Qt::Key_Return);
-  other.setFocus();
-  tree.TakeFocus();
-  QTest::keyRelease(&tree, Qt::Key_Return);
-  EXPECT_EQ(enters.count(), 1);
-}
-
-TEST_F(Tree, PlainArrowsMoveTheSelectionAndOpenAndCloseNodes) {
-  tree.TakeFocus();
-  tree.SelectNode(gigs);
-  QTest::keyClick(&tree, Qt::Key_Right);
-  EXPECT_TRUE(tree.isExpanded(IndexOf(gigs)));
-  QTest::keyClick(&tree, Qt::Key_Down);
-  EXPECT_EQ(tree.SelectedNode(), setOne);
-  QTest::keyClick(&tree, Qt::Key_Down);
-  EXPECT_EQ(tree.SelectedNode(), setTwo);
-  QTest::keyClick(&tree, Qt::Key_Up);
-  EXPECT_EQ(tree.SelectedNode(), setOne);
-  QTest::keyClick(&tree, Qt::Key_Left);
-  QTest::keyClick(&tree, Qt::Key_Left);
-  EXPECT_FALSE(tree.isExpanded(IndexOf(gigs)));
-  EXPECT_THAT(Moves(), IsEmpty());
-}
-
-TEST_F(Tree, TheFirstArrowSelectsTheFirstGroupWhenNothingIsSelected) {
-  for (const Qt::Key arrow : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Left, Qt::Key_Right}) {
-    tree.clearSelection();
-    tree.TakeFocus();
-    ASSERT_EQ(tree.SelectedNode(), TCTreeNode::None);
-    QTest::keyClick(&tree, arrow);
-    EXPECT_EQ(tree.SelectedNode(), gigs);
-    EXPECT_FALSE(tree.isExpanded(IndexOf(gigs)));
-  }
-  tree.clearSelection();
-  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(tree.SelectedNode(), gigs);
-  EXPECT_THAT(Moves(), IsEmpty());
-  tree.ClearNodes();
-  QTest::keyClick(&tree, Qt::Key_Down);
-  EXPECT_EQ(tree.SelectedNode(), TCTreeNode::None);
-}
-
-TEST_F(Tree, ShiftWithAnArrowMovesTheNodeWhenTheKeyComesUp) {
-  OpenAll();
-  tree.TakeFocus();
-  tree.SelectNode(first[0]);
-  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_THAT(Moves(), IsEmpty());
-  EXPECT_EQ(tree.SelectedNode(), first[1]);
-  QTest::keyRelease(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[1])));
-}
-
-TEST_F(Tree, ShiftHeldWalksANodeAlongAsTheDocumentMovesIt) {
-  OpenAll();
-  tree.TakeFocus();
-  tree.SelectNode(first[0]);
-  LetTheDocumentMove();
-  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(IndexOf(first[0]).row(), 2);
-  EXPECT_EQ(tree.SelectedNode(), first[0]);
-  QTest::keyClick(&tree, Qt::Key_Up, Qt::ShiftModifier);
-  EXPECT_EQ(IndexOf(first[0]).row(), 1);
-}
-
-TEST_F(Tree, AHeldShiftArrowMovesOnceARepeat) {
-  OpenAll();
-  tree.TakeFocus();
-  tree.SelectNode(first[0]);
-  LetTheDocumentMove();
-  const auto send = [this](QEvent::Type type, bool repeat) {
-    QKeyEvent event(type, Qt::Key_Down, Qt::ShiftModifier, QString(), repeat);
-    QCoreApplication::sendEvent(&tree, &event);
-  };
-  send(QEvent::KeyPress, false);
-  send(QEvent::KeyRelease, true);
-  send(QEvent::KeyPress, true);
-  send(QEvent::KeyRelease, false);
-  EXPECT_EQ(IndexOf(first[0]).row(), 2);
-}
-
-TEST_F(Tree, ShiftDownOnTheLastNodeMovesNothing) {
-  tree.TakeFocus();
-  tree.SelectNode(rehearsals);
-  QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  tree.SelectNode(gigs);
-  QTest::keyClick(&tree, Qt::Key_Up, Qt::ShiftModifier);
-  EXPECT_THAT(Moves(), IsEmpty());
-}
-
-TEST_F(Tree, AShiftArrowThatWasGivenUpMovesNothing) {
-  OpenAll();
-  tree.TakeFocus();
-  tree.SelectNode(first[0]);
-  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  tree.ResetMouseState();
-  QTest::keyRelease(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_THAT(Moves(), IsEmpty());
-
-  QTest::keyPress(&tree, Qt::Key_Up, Qt::ShiftModifier);
-  other.setFocus();  // the release goes there
-  tree.TakeFocus();
-  QTest::keyClick(&tree, Qt::Key_Down);
-  EXPECT_THAT(Moves(), IsEmpty());
-}
-
-TEST_F(Tree, AShiftArrowWhoseNodeHasGoneMovesNothing) {
-  OpenAll();
-  tree.TakeFocus();
-  tree.SelectNode(first[0]);
-  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  tree.DeleteNode(first[0]);
-  QTest::keyRelease(&tree, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_THAT(Moves(), IsEmpty());
-}
-
 TEST_F(Tree, EveryLevelHasItsPictureAndTheSelectedNodeAnother) {
   TCSetListTreeModel::TCPictures pictures;
   for (int i = 0; i < 6; ++i) {
@@ -399,6 +235,33 @@ TEST_F(Tree, EveryLevelHasItsPictureAndTheSelectedNodeAnother) {
     EXPECT_EQ(green(nodes[level]), 10 + level * 80);
     tree.SelectNode(nodes[level]);
     EXPECT_EQ(green(nodes[level]), 10 + level * 80 + 40);
+  }
+}
+
+TEST_F(Tree, PicturesHaveTheirSizeAndLinesJoinTheNodesInFrontOfThem) {
+  EXPECT_EQ(tree.iconSize(), QSize(23, 19));
+  QPalette colours = tree.palette();
+  colours.setColor(QPalette::Base, Qt::black);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    colours.setColor(role, Qt::white);
+  colours.setColor(QPalette::Mid, QColor(1, 2, 250));
+  tree.setPalette(colours);
+  OpenAll();
+  tree.SelectNode(rehearsals);
+  const QImage picture = tree.viewport()->grab().toImage();
+  const auto inFrontOf = [&](TCTreeNode node, const auto& drawn) {
+    const QRect row = RowOf(node);
+    int count = 0;
+    for (int x = row.left() - tree.indentation(); x < row.left(); ++x) {
+      for (int y = row.top(); y <= row.bottom(); ++y) count += drawn(picture.pixelColor(x, y)) ? 1 : 0;
+    }
+    return count;
+  };
+  const auto line = [](const QColor& colour) { return colour == QColor(1, 2, 250); };
+  const auto arrow = [&line](const QColor& colour) { return colour != QColor(Qt::black) && !line(colour); };
+  for (const TCTreeNode node : {gigs, setOne, setTwo, first[0], first[2]}) {
+    EXPECT_GT(inFrontOf(node, line), 0) << Text(node).toStdString();
+    EXPECT_EQ(inFrontOf(node, arrow) > 0, node == gigs || node == setOne) << Text(node).toStdString();
   }
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -31,6 +32,11 @@ class TCTreeRig : public testing::Test {
 
   void SetUp() override {
     tree.SetCursors(TestCursors());
+    QPixmap picture(23, 19);
+    picture.fill(Qt::red);
+    TCSetListTreeModel::TCPictures pictures;
+    pictures.fill(QIcon(picture));
+    tree.SetPictures(pictures);
     const std::vector<TCTreeNode> groups = tree.AddNodes(TCTreeNode::None, 0, {u"Gigs", u"Rehearsals"});
     ASSERT_EQ(groups.size(), 2U);
     gigs = groups[0];

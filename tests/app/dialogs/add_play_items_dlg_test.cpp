@@ -91,6 +91,18 @@ TEST_F(AddPlayItemsDlg, OpensAtTheGroupAndPlaylistShownLast) {
   EXPECT_EQ(Playlists().currentText(), QStringLiteral("Second Half"));
 }
 
+TEST_F(AddPlayItemsDlg, TheListsKeepTheDocumentsOrderAndTakeNoTyping) {
+  rig.AddGroup(u"Autumn", {{u"Second Half", {}}, {u"First Half", {}}});
+  rig.Show();
+  rig.store.lastGroupListName = u"Autumn";
+  Open();
+  EXPECT_EQ(NamesIn(Groups()), (QStringList{QStringLiteral("Mariner Sets"), QStringLiteral("Winter"),
+                                            QStringLiteral("Autumn")}));
+  EXPECT_EQ(NamesIn(Playlists()), (QStringList{QStringLiteral("Second Half"), QStringLiteral("First Half")}));
+  EXPECT_FALSE(Groups().isEditable());
+  EXPECT_FALSE(Playlists().isEditable());
+}
+
 TEST_F(AddPlayItemsDlg, OpensAtTheFirstGroupWhenNoneHasTheName) {
   rig.store.lastGroupListName = u"Summer";
   Open();

@@ -8,15 +8,10 @@
 #include <cstdlib>
 #include <span>
 
-#include "document/brevant_doc.h"
 #include "playback/gst/gst_length_probe.h"
 #include "playback/gst/gst_player.h"
 #include "playback/gst/song_files.h"
-#include "support/fake_frame.h"
-#include "support/fake_playlist_view.h"
-#include "support/fake_prompts.h"
-#include "support/fake_tree.h"
-#include "support/message_log.h"
+#include "support/document_rig.h"
 #include "support/pitch.h"
 #include "support/pulse_server.h"
 #include "support/temp_folder.h"
@@ -65,24 +60,15 @@ class TCShow {
   [[nodiscard]] double Position() const { return player.GetPosition().value_or(-1.0); }
 
   TCDiskFiles files{TCNativePaths()};
-  TCAppRecord record;
   TCGstPlayer player;
   TCGstLengthProbe probe{TCNativePaths()};
-  TCFakePlaylistView view;
-  TCFakeTree tree;
-  TCMessageLog messages;
-  TCFakeFrame frame;
-  TCFakePrompts prompts;
-  TCBrevantDoc document{{.record = record,
-                         .files = files,
-                         .player = &player,
-                         .playlistView = view,
-                         .treeView = tree,
-                         .messages = messages,
-                         .frame = frame,
-                         .prompts = prompts,
-                         .folders = {},
-                         .lengthProbe = &probe}};
+  TCDocumentRig rig{files, &player, &probe};
+
+  TCAppRecord& record = rig.record;
+  TCFakePlaylistView& view = rig.view;
+  TCMessageLog& messages = rig.messages;
+  TCFakeFrame& frame = rig.frame;
+  TCBrevantDoc& document = rig.document;
 };
 
 TEST(RealShow, BrokenAndMissingSongsInTheMiddleOfARunCostNoneOfTheOthersItsTime) {
