@@ -36,7 +36,6 @@ bool RestoresWindow(const TCSettings& settings) {
 
 TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
     : files(parts.files),
-      libraries(parts.libraries),
       layout(parts.layoutFile, QSettings::IniFormat),
       recentFiles(layout),
       settingsFile(parts.files, parts.folders.settings),
@@ -56,7 +55,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
                 .repeatFields = &frame.PlayControls(),
                 .properties = &frame.Properties(),
                 .recentFiles = &recentFiles}),
-      router(frame, document, help, recentFiles, libraries),
+      router(frame, document, help, recentFiles, parts.libraries),
       actions(router, frame),
       keyFilter(actions, frame),
       fileDrops(frame),
@@ -129,7 +128,7 @@ void TCBrevantApp::DropRowsAt(QPoint globalPosition) {
   }
 }
 
-void TCBrevantApp::DropFiles(const QList<QByteArray>& nativeNames) {
+void TCBrevantApp::OnDropFiles(const QList<QByteArray>& nativeNames) {
   std::vector<std::u16string> paths;
   std::u16string refused;
   for (const QByteArray& name : nativeNames) {
@@ -148,7 +147,7 @@ void TCBrevantApp::ConnectParts() {
   ConnectTree();
   ConnectProperties();
   connect(&help, &TCHelp::windowMade, this, [this](QWidget& window) { keyFilter.PerformIn(window); });
-  connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::DropFiles);
+  connect(&fileDrops, &TCFileDrops::filesDropped, this, &TCBrevantApp::OnDropFiles);
 
   TCWMPPaneContainer& pane = frame.PlayerPane();
   connect(&pane, &TCWMPPaneContainer::playWanted, this, [this] { router.OnCommand(TCCommandId::Play); });
@@ -174,7 +173,7 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
     OpenFirstDocument();
     RestoreWindow();
     fileDrops.Accept();
-    TCAboutBox::Open(libraries, frame);
+    router.OnAppAbout();
   });
 }
 

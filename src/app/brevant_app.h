@@ -78,7 +78,7 @@ class TCBrevantApp : public QObject, public TCProgramDoor {
   void ConnectTree();
   void ConnectProperties();
   void DropRowsAt(QPoint globalPosition);
-  void DropFiles(const QList<QByteArray>& nativeNames);
+  void OnDropFiles(const QList<QByteArray>& nativeNames);
   void OpenFirstDocument();
   void OpenNamed(const TCStartFile& file);
   [[nodiscard]] bool IsHeldByDialog(const std::string& nativeName);
@@ -86,7 +86,6 @@ class TCBrevantApp : public QObject, public TCProgramDoor {
   void RestoreWindow();
 
   TCFileSystem& files;
-  QStringList libraries;
   QSettings layout;
   TCRecentFiles recentFiles;
   TCSettingsFile settingsFile;

@@ -42,12 +42,12 @@ void TCCloseGuard::KeepLayout() {
 }
 
 bool TCCloseGuard::eventFilter(QObject* /*receiver*/, QEvent* event) {
-  if (event->type() != QEvent::Close || MayClose()) return false;
+  if (event->type() != QEvent::Close || OnClose()) return false;
   event->ignore();
   return true;
 }
 
-bool TCCloseGuard::MayClose() {
+bool TCCloseGuard::OnClose() {
   WriteSettings();
   const std::u16string writtenPath = DocumentPath(record.setLists);
   if (!doc.SaveModified()) return false;

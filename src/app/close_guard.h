@@ -25,7 +25,8 @@ class TCCloseGuard : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  [[nodiscard]] bool MayClose();
+  // False when the user holds on to unsaved changes: the frame stays.
+  [[nodiscard]] bool OnClose();
   void WriteSettings();
   void KeepLayout();
 

@@ -35,6 +35,11 @@ TCMainFrame::TCMainFrame(TCSettings& programSettings, TCPlayer& player, const TC
       playControls(new TCPlayControlsBar(this)),
       bars(*this, *playControls),
       statusLine(new TCStatusLine(this)) {
+  OnCreate(player);
+}
+
+// Every part is there; here each gets its place and its first look.
+void TCMainFrame::OnCreate(TCPlayer& player) {
   setObjectName(QStringLiteral("MainFrame"));
   setContextMenuPolicy(Qt::NoContextMenu);
   setStatusBar(statusLine);

@@ -79,6 +79,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   bool event(QEvent* event) override;
 
  private:
+  void OnCreate(TCPlayer& player);
   void ConnectViews();
   void DressViews();
   void PlaceOnScreen();

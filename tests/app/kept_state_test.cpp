@@ -37,6 +37,20 @@ TEST_F(KeptStateTest, WhatIsNotThereOrHasNoCheckIsNothing) {
   EXPECT_EQ(KeptState(layout, name), QByteArray());
 }
 
+TEST_F(KeptStateTest, AStateWhoseCheckIsNoughtNeedsItAllTheSame) {
+  QByteArray sumless(3, 'x');
+  for (int number = 0; number < 0x10000 && qChecksum(sumless) != 0; ++number) {
+    sumless[0] = static_cast<char>(number & 0xFF);
+    sumless[1] = static_cast<char>(number >> 8);
+  }
+  ASSERT_EQ(qChecksum(sumless), 0);
+  QSettings layout(file, QSettings::IniFormat);
+  layout.setValue(name, sumless);
+  EXPECT_EQ(KeptState(layout, name), QByteArray());
+  KeepState(layout, name, sumless);
+  EXPECT_EQ(KeptState(layout, name), sumless);
+}
+
 TEST_F(KeptStateTest, AStateWithOneBitChangedIsNothing) {
   QSettings layout(file, QSettings::IniFormat);
   KeepState(layout, name, state);

@@ -29,6 +29,16 @@ TEST_F(MainFrame, SetsTheVolumeToFullAndShowsTheBannerBeforeItIsShown) {
   EXPECT_EQ(frame.MessageDisplay().toPlainText().trimmed(), QStringLiteral("...Brevant..."));
 }
 
+TEST_F(MainFrame, TheMessageDisplayHolds1024Lines) {
+  const auto lines = [this] { return frame.MessageDisplay().toPlainText().count(QLatin1Char('\n')); };
+  for (int line = 1; line < 1024; ++line) frame.MessageDisplay().Append(u"said");
+  EXPECT_EQ(lines(), 1024) << "the banner is one of them";
+  EXPECT_TRUE(frame.MessageDisplay().toPlainText().startsWith(QStringLiteral("...Brevant...")));
+  frame.MessageDisplay().Append(u"said");
+  EXPECT_EQ(lines(), 1024);
+  EXPECT_TRUE(frame.MessageDisplay().toPlainText().startsWith(QStringLiteral("said")));
+}
+
 TEST_F(MainFrame, AClosedPaneStillTakesLines) {
   frame.OnCommand(TCCommandId::MessagePane);
   frame.MessageDisplay().Append(u"said behind the scene");
@@ -123,6 +133,31 @@ TEST_F(MainFrame, APaneClosedByItsOwnButtonIsToldOf) {
   EXPECT_FALSE(frame.IsChecked(TCCommandId::PlaylistManagerPane));
   EXPECT_FALSE(frame.IsChecked(TCCommandId::PlayerPane));
   EXPECT_FALSE(frame.IsChecked(TCCommandId::MessagePane));
+}
+
+TEST_F(MainFrame, LiveViewWithoutAnOpenPaneIsToldOfToo) {
+  frame.show();
+  for (QDockWidget* pane : frame.findChildren<QDockWidget*>()) pane->close();
+  const QSignalSpy marks(&frame, &TCMainFrame::marksChanged);
+  frame.OnCommand(TCCommandId::LiveViewMode);
+  EXPECT_GT(marks.count(), 0);
+}
+
+TEST_F(MainFrame, ARightClickBesideTheBarsOpensNoMenuOfTheToolkit) {
+  frame.show();
+  for (QWidget* place : {static_cast<QWidget*>(&frame), static_cast<QWidget*>(&frame.StatusLine())}) {
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(4, 4), place->mapToGlobal(QPoint(4, 4)));
+    QCoreApplication::sendEvent(place, &click);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << place->objectName().toStdString();
+  }
+}
+
+TEST_F(MainFrame, ABarThatIsHiddenByItsOwnEntryIsToldOf) {
+  frame.show();
+  const QSignalSpy marks(&frame, &TCMainFrame::marksChanged);
+  for (QAction* entry : frame.Bars().BarMenu().actions()) entry->trigger();
+  EXPECT_GT(marks.count(), 0);
+  EXPECT_FALSE(frame.IsChecked(TCCommandId::ToolbarVisible));
 }
 
 TEST_F(MainFrame, ThePanesLieSideBySideBelowThePlaylist) {

@@ -68,7 +68,10 @@ TEST_F(RecentFiles, OnlyDocumentsAreEntered) {
 TEST_F(RecentFiles, TheListIsOnTheDiskAsSoonAsItChanges) {
   files.AddToRecentFileList(u"\\a\\one.brv");
   files.AddToRecentFileList(u"C:\\D\u00E4nce, 100%;\\\u6B4C \"=@.brv");
-  QSettings read(File(), QSettings::IniFormat);
+  // Another name: the toolkit knows what is about to be written under the file's own.
+  const QString copy = folder.filePath(QStringLiteral("Copy.ini"));
+  ASSERT_TRUE(QFile::copy(File(), copy));
+  QSettings read(copy, QSettings::IniFormat);
   EXPECT_EQ(read.value(QStringLiteral("Recent File List/File2")).toString(), QStringLiteral("\\a\\one.brv"));
   EXPECT_FALSE(read.contains(QStringLiteral("Recent File List/File3")));
   EXPECT_EQ(TCRecentFiles(read).Paths(), files.Paths());
@@ -82,7 +85,11 @@ TEST_F(RecentFiles, WhatCannotBeInTheListIsLeftOut) {
   Put(5, QStringList{QStringLiteral("x"), QStringLiteral("y.brv")});
   Put(7, QStringLiteral("\\a\\seven.brv"));
   Put(9, QStringLiteral("\\a\\nine.brv"));
-  EXPECT_THAT(TCRecentFiles(layout).Paths(), ElementsAre(u"\\a\\one.brv", u"\\a\\seven.brv"));
+  TCRecentFiles read(layout);
+  EXPECT_THAT(read.Paths(), ElementsAre(u"\\a\\one.brv", u"\\a\\seven.brv"));
+  read.AddToRecentFileList(u"\\a\\new.brv");
+  for (int place = 4; place <= 8; ++place)
+    EXPECT_FALSE(layout.contains(QStringLiteral("Recent File List/File%1").arg(place))) << place;
 }
 
 }  // namespace

@@ -3,10 +3,13 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QFile>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/dialog_answer.h"
@@ -102,6 +105,98 @@ TEST_F(StartAndClose, AStartTakesItsStepsInTheirOrder) {
   CloseAboutBox();
 }
 
+// The program's disk, which tells what is about to be written.
+class TCWatchedFiles final : public TCFileSystem {
+ public:
+  TCWatchedFiles(TCFileSystem& disk, std::function<void(std::u16string_view path)> whenWritten)
+      : files(disk), callback(std::move(whenWritten)) {}
+
+  bool FileExists(std::u16string_view path) override { return files.FileExists(path); }
+  std::optional<std::string> ReadFile(std::u16string_view path, std::size_t maxBytes) override {
+    return files.ReadFile(path, maxBytes);
+  }
+  bool ReplaceFile(std::u16string_view path, std::string_view bytes) override {
+    callback(path);
+    return files.ReplaceFile(path, bytes);
+  }
+  bool CopyFile(std::u16string_view from, std::u16string_view to) override {
+    return files.CopyFile(from, to);
+  }
+  bool MakeFolder(std::u16string_view path) override { return files.MakeFolder(path); }
+  bool DeleteFile(std::u16string_view path) override { return files.DeleteFile(path); }
+
+ private:
+  TCFileSystem& files;
+  std::function<void(std::u16string_view path)> callback;
+};
+
+// Notes what a close does, in order, each time with what of the layout is kept by then.
+class TCCloseLog : public QObject {
+ public:
+  TCCloseLog(const TCMainFrame& mainFrame, QString layoutFile)
+      : frame(mainFrame), layout(std::move(layoutFile)) {
+    qApp->installEventFilter(this);
+  }
+
+  void Add(const std::string& step, const QString& file) {
+    const QSettings kept(file, QSettings::IniFormat);
+    std::string line = step + ":";
+    for (const char* key : {"CommandBars", "NormalLayout", "MainWindowFrameLayout/WindowLeft1"}) {
+      if (kept.contains(QLatin1String(key))) line += std::string(" ") + key;
+    }
+    if (std::ranges::find(steps, line) == steps.end()) steps.push_back(line);
+  }
+  // With what is on the disk, and not only about to be written there.
+  void AddWithDisk(const std::string& step) {
+    const QString copy = layout + QStringLiteral(".%1").arg(++copies);
+    QFile::copy(layout, copy);
+    Add(step, copy);
+  }
+
+  [[nodiscard]] const std::vector<std::string>& Steps() const { return steps; }
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (dynamic_cast<QDockWidget*>(receiver) == nullptr) return false;
+    const std::string seen = frame.updatesEnabled() ? " and painted" : "";
+    // On their way back they are shown and closed once more; nothing of it is painted.
+    if (event->type() == QEvent::Show && steps.empty()) Add("panes shown" + seen, layout);
+    if (event->type() == QEvent::Hide) Add("panes closed" + seen, layout);
+    return false;
+  }
+
+ private:
+  const TCMainFrame& frame;
+  QString layout;
+  int copies = 0;
+  std::vector<std::string> steps;
+};
+
+TEST_F(StartAndClose, ACloseTakesItsStepsInTheirOrder) {
+  TCCloseLog* log = nullptr;
+  TCWatchedFiles disk(files, [&log](std::u16string_view path) {
+    if (log != nullptr && path == kIniPath) log->AddWithDisk("settings");
+  });
+  MakeOn(disk);
+  Run({true, "typed", std::u16string(kShow)});
+  CloseAboutBox();
+  Press(Qt::Key_Home);
+  app->Document().SetModified();
+
+  TCCloseLog steps(Frame(), layoutFolder.filePath(QStringLiteral("Layout.ini")));
+  log = &steps;
+  const TCDialogAnswer<QMessageBox> answer([&steps](QMessageBox& box) {
+    steps.AddWithDisk("question");
+    box.button(QMessageBox::Cancel)->click();
+  });
+  EXPECT_FALSE(Frame().close());
+  EXPECT_EQ(steps.Steps(), (std::vector<std::string>{
+                               "panes shown:", "panes closed: CommandBars NormalLayout",
+                               "settings: CommandBars NormalLayout MainWindowFrameLayout/WindowLeft1",
+                               "question: CommandBars NormalLayout MainWindowFrameLayout/WindowLeft1"}));
+  log = nullptr;
+}
+
 TEST_F(StartAndClose, TheWindowComesBackWhereItWas) {
   Start();
   Frame().setGeometry(20, 60, 700, 650);
@@ -188,7 +283,7 @@ TEST_F(StartAndClose, LiveViewAtCloseKeepsTheFullLayoutWithAllFourPanes) {
   Start();
   const std::string before = Places();
   for (const bool oneIsClosed : {false, true}) {
-    if (oneIsClosed) Pane(TCCommandId::PlayerPane).close();
+    if (oneIsClosed) Frame().OnCommand(TCCommandId::PlayerPane);
     Press(Qt::Key_Home);
     ASSERT_FALSE(AnyPaneSeen());
     Close();

@@ -42,8 +42,9 @@ class TCWholeProgram : public testing::Test {
   }
 
   // Makes the program, which shows nothing yet.
-  void Make() {
-    app.emplace(TCAppParts{files,
+  void Make() { MakeOn(files); }
+  void MakeOn(TCFileSystem& disk) {
+    app.emplace(TCAppParts{disk,
                            player,
                            player,
                            TCNativePaths(),
@@ -54,6 +55,11 @@ class TCWholeProgram : public testing::Test {
 
   void StartWith(const TCStartFile& startFile) {
     Make();
+    Run(startFile);
+  }
+
+  // Shows the program that was made, up to the About box.
+  void Run(const TCStartFile& startFile) {
     app->InitInstance(startFile);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !AboutBoxes().isEmpty(); }));
   }

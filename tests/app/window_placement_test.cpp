@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QMainWindow>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <limits>
@@ -155,6 +156,13 @@ TEST_F(SavedWindowPlacement, BringsAMaximisedWindowBackMaximisedWithItsNormalPla
     QCoreApplication::processEvents();
     EXPECT_EQ(next.geometry(), normal);
   }
+}
+
+TEST_F(SavedWindowPlacement, OfAScreenThatIsGoneIsOneThatCanBeSeen) {
+  const QRect lost(20000, 20000, 400, 300);
+  PlaceWindow(window, {lost, false});
+  EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
+  EXPECT_EQ(window.size(), lost.size());
 }
 
 TEST_F(SavedWindowPlacement, OfAMinimisedWindowIsItsNormalPlace) {

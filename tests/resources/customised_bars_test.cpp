@@ -23,6 +23,8 @@ TEST(CustomisedBars, BeginAsTheBarTableDelivers) {
     EXPECT_EQ(CommandsOf(bars, plan.name), (std::vector<Id>{plan.items.begin(), plan.items.end()}));
   }
   EXPECT_TRUE(bars.changedBars.empty());
+  EXPECT_EQ(bars.ItemsOf(kPlay)[1], CommandItem(Id::PriorSong));
+  EXPECT_EQ(bars.ItemsOf(kPlay)[2], TCBarItem()) << "a separator";
 }
 
 TEST(CustomisedBars, AnItemGoesInFrontOfTheOneAtItsPlaceOrBehindAll) {
@@ -52,6 +54,16 @@ TEST(CustomisedBars, ACommandCanBeOnTwoBarsButATimeFieldOnOne) {
   EXPECT_EQ(std::count(left.begin(), left.end(), Id::RepeatEndField), 1);
 }
 
+TEST(CustomisedBars, ATimeFieldMovesOnItsOwnBarAsAnyCommandDoes) {
+  TCCustomisedBars bars;
+  std::vector<Id> expected = CommandsOf(bars, kPlay);
+  const auto field = std::find(expected.begin(), expected.end(), Id::RepeatBeginField);
+  const auto end = std::find(expected.begin(), expected.end(), Id::SetRepeatEnd);
+  bars.Insert(kPlay, static_cast<std::size_t>(end - expected.begin()), CommandItem(Id::RepeatBeginField));
+  std::rotate(field, field + 1, end);
+  EXPECT_EQ(CommandsOf(bars, kPlay), expected) << "in front of that";
+}
+
 TEST(CustomisedBars, SeparatorsAndMenusOfTheUsersOwnMayStandTwice) {
   TCCustomisedBars bars;
   for (int i = 0; i < 2; ++i) {
@@ -60,6 +72,8 @@ TEST(CustomisedBars, SeparatorsAndMenusOfTheUsersOwnMayStandTwice) {
     bars.Insert(kStandard, 0, MenuItem(TCMenuPlace::Play));
   }
   EXPECT_EQ(bars.ItemsOf(kStandard).size(), 3u + 2 + 2 + 1);
+  bars.Insert(kStandard, 0, MenuItem(TCMenuPlace::Help));
+  EXPECT_EQ(bars.ItemsOf(kStandard).size(), 3u + 2 + 2 + 2) << "another menu";
 }
 
 TEST(CustomisedBars, EveryItemIsKeptAsATextAndReadBack) {
@@ -73,6 +87,12 @@ TEST(CustomisedBars, EveryItemIsKeptAsATextAndReadBack) {
   }
   EXPECT_EQ(ItemText(CommandItem(Id::Play)), u"32772");
   EXPECT_EQ(ItemText(menu), u"new 32772,32773 Intro, & outro");
+}
+
+TEST(CustomisedBars, AMenuOfTheUsersOwnHasEachCommandOnce) {
+  const std::optional<TCBarItem> menu = ItemOfText(u"new 32773,32772,32773 Mine");
+  ASSERT_TRUE(menu.has_value());
+  EXPECT_EQ(menu->entries, (std::vector<Id>{Id::Stop, Id::Play}));
 }
 
 TEST(CustomisedBars, ATextThatIsNoItemIsNone) {

@@ -25,7 +25,6 @@ Qt::ToolBarArea AreaOf(const TCCommandBar& plan) {
 
 TCBarSet::TCBarSet(QMainWindow& mainWindow, TCPlayControlsBar& playControls)
     : window(mainWindow), playBar(playControls), barMenu(new QMenu(&mainWindow)) {
-  window.setIconSize({customised.look.iconSize, customised.look.iconSize});
   window.menuBar()->setAccessibleName(ToQString(TextOf(TCTextId::MainToolbar)));
   OpenMenuOn(*window.menuBar());
   for (const TCCommandBar& plan : CommandBars()) {
@@ -147,8 +146,6 @@ bool TCBarSet::eventFilter(QObject* /*receiver*/, QEvent* event) {
 void TCBarSet::Reset() {
   Customise({});
   for (const TCBar& made : bars) {
-    // One that floats is a window of its own, and would stay one.
-    if (made.bar->isFloating()) made.bar->setWindowFlags(Qt::Widget);
     window.addToolBar(AreaOf(*made.plan), made.bar);
     made.bar->show();
   }
@@ -176,12 +173,14 @@ std::optional<TCBarSet::TCPlace> TCBarSet::PlaceAt(QPoint globalPosition) const 
     int end = 0;
     for (std::size_t i = 0; i < made.actions.size(); ++i) {
       const QWidget* button = made.actions[i] == nullptr ? nullptr : bar.widgetForAction(made.actions[i]);
-      if (button == nullptr || !button->isVisible()) continue;
+      if (button == nullptr) continue;
+      // From here on the bar is too short: behind what is seen is in front of what is not.
+      const bool cutOff = !button->isVisible();
       const QRect box = button->geometry();
       const bool before = upright ? position.y() < box.center().y() : position.x() < box.center().x();
-      if (before) {
+      if (cutOff || before) {
         place.index = i;
-        end = upright ? box.top() : box.left();
+        if (!cutOff) end = upright ? box.top() : box.left();
         break;
       }
       end = upright ? box.bottom() + 1 : box.right() + 1;
@@ -205,7 +204,7 @@ void TCBarSet::FitRows() {
     if (window.toolBarArea(made.bar) != Qt::TopToolBarArea || made.bar->isFloating()) continue;
     window.removeToolBarBreak(made.bar);
     const int width = made.bar->sizeHint().width();
-    if (used > 0 && used + width > window.width()) {
+    if (used + width > window.width()) {
       window.insertToolBarBreak(made.bar);
       used = 0;
     }

@@ -50,7 +50,7 @@ class TCBarSet final : public QObject {
   // Where something that is let go of over a bar would go. Empty when `globalPosition` is over none.
   struct TCPlace {
     TCTextId bar = TCTextId::MainToolbar;
-    std::size_t index = 0;  // in front of this item of the bar, or behind all
+    std::size_t index = 0;  // in front of this item of the bar, or behind all; never out of sight
     QRect gap;              // global; a line between two buttons
   };
   [[nodiscard]] std::optional<TCPlace> PlaceAt(QPoint globalPosition) const;

@@ -1,6 +1,5 @@
 #include "app/bars/commands_page.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -12,20 +11,12 @@
 #include <utility>
 
 #include "app/bars/bar_item_names.h"
+#include "app/bars/control_label.h"
 #include "app/bars/drag_list.h"
-#include "app/commands/command_categories.h"
-#include "resources/menu_text.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
 namespace {
-
-QLabel* MakeLabel(const QString& text, QWidget& control) {
-  auto* label = new QLabel(text);
-  label->setBuddy(&control);
-  control.setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
-  return label;
-}
 
 QString TargetName(const TCCustomisedBars& bars, const TCBarTarget& target) {
   const QString bar = ToQString(TextOf(target.bar));
@@ -58,7 +49,7 @@ std::size_t PlaceOf(const TCBarItem& item, const TCBarItems& items, std::size_t 
 // The Tab key goes through the controls in the order in which they are made here.
 TCCommandsPage::TCCommandsPage(TCBarSet& barSet)
     : bars(barSet),
-      categories(Categories()),
+      offers(BarOffers(bars.Actions())),
       category(new QComboBox(this)),
       offer(new TCDragList(this)),
       add(new QPushButton(QStringLiteral("A&dd"), this)),
@@ -79,7 +70,7 @@ TCCommandsPage::TCCommandsPage(TCBarSet& barSet)
   up->setObjectName(QStringLiteral("MoveUp"));
   down->setObjectName(QStringLiteral("MoveDown"));
   menuName->setObjectName(QStringLiteral("MenuName"));
-  for (const TCCategory& each : categories) category->addItem(each.name);
+  for (const TCBarOffer& each : offers) category->addItem(each.name);
   category->setMaxVisibleItems(category->count());
   offer->setIconSize(kPictureSize);
   placed->setIconSize(kPictureSize);
@@ -87,29 +78,6 @@ TCCommandsPage::TCCommandsPage(TCBarSet& barSet)
   ConnectControls();
   ShowOffer();
   ShowBars();
-}
-
-TCCommandsPage::~TCCommandsPage() {
-  EndDrag();
-}
-
-std::vector<TCCommandsPage::TCCategory> TCCommandsPage::Categories() const {
-  std::vector<TCCategory> made;
-  const TCBarItems fields{CommandItem(TCCommandId::RepeatBeginField),
-                          CommandItem(TCCommandId::RepeatEndField)};
-  const QString play = ToQString(WithoutMnemonic(MenuTitle(TCMenuPlace::Play)));
-  std::vector<TCCommandCategory> commands = CommandCategories(bars.Actions());
-  for (const TCCommandCategory& each : commands) {
-    TCCategory& filled = made.emplace_back(TCCategory{each.name, {}});
-    for (const TCCommandId command : each.commands) filled.items.push_back(CommandItem(command));
-    const bool hasFields = each.name == play || &each == &commands.back();
-    if (hasFields) filled.items.insert(filled.items.end(), fields.begin(), fields.end());
-  }
-  TCCategory builtIn{QStringLiteral("Built-in Menus"), {}};
-  for (const TCMenuPlace menu : MainMenus()) builtIn.items.push_back(MenuItem(menu));
-  made.push_back(std::move(builtIn));
-  made.push_back({QStringLiteral("New Menu"), {NewMenuItem(u"New Menu"), TCBarItem()}});
-  return made;
 }
 
 void TCCommandsPage::LayOut() {
@@ -178,8 +146,9 @@ void TCCommandsPage::ConnectControls() {
     const TCBarItems items = ItemsIn(bars.Customised(), target);
     ShowGap(GapAt(place, items[static_cast<std::size_t>(row)]));
   });
-  connect(offer, &TCDragList::dragEnded, this, &TCCommandsPage::EndDrag);
-  connect(placed, &TCDragList::dragEnded, this, &TCCommandsPage::EndDrag);
+  for (const TCDragList* list : {offer, placed}) {
+    connect(list, &TCDragList::dragEnded, this, [this] { mark.End(); });
+  }
   connect(offer, &TCDragList::dragged, this, [this](int /*row*/, QPoint place) { DropOffered(place); });
   connect(placed, &TCDragList::dragged, this, &TCCommandsPage::DropPlaced);
 }
@@ -187,7 +156,7 @@ void TCCommandsPage::ConnectControls() {
 void TCCommandsPage::ShowOffer() {
   {
     const QSignalBlocker silent(offer);
-    FillList(*offer, categories[static_cast<std::size_t>(category->currentIndex())].items, bars.Actions());
+    FillList(*offer, offers[static_cast<std::size_t>(category->currentIndex())].items, bars.Actions());
     offer->setCurrentRow(0);
   }
   ShowChosen();
@@ -233,7 +202,7 @@ void TCCommandsPage::ShowChosen() {
 }
 
 const TCBarItem* TCCommandsPage::Offered() const {
-  const TCBarItems& items = categories[static_cast<std::size_t>(category->currentIndex())].items;
+  const TCBarItems& items = offers[static_cast<std::size_t>(category->currentIndex())].items;
   const auto row = static_cast<std::size_t>(offer->currentRow());
   return row < items.size() ? &items[row] : nullptr;
 }
@@ -287,29 +256,11 @@ std::optional<TCCommandsPage::TCGap> TCCommandsPage::GapAt(QPoint globalPosition
 }
 
 void TCCommandsPage::ShowGap(const std::optional<TCGap>& gap) {
-  const QCursor cursor(gap ? Qt::DragMoveCursor : Qt::ForbiddenCursor);
-  if (std::exchange(cursorShown, true)) {
-    QApplication::changeOverrideCursor(cursor);
+  if (gap) {
+    mark.Show(*gap->widget, gap->mark);
   } else {
-    QApplication::setOverrideCursor(cursor);
+    mark.Refuse();
   }
-  if (!gap) {
-    delete mark;
-    return;
-  }
-  if (mark != nullptr && mark->parentWidget() != gap->widget) delete mark;
-  if (mark == nullptr) {
-    mark = new QWidget(gap->widget);
-    mark->setAutoFillBackground(true);
-    mark->setBackgroundRole(QPalette::Highlight);
-  }
-  mark->setGeometry(gap->mark);
-  mark->show();
-}
-
-void TCCommandsPage::EndDrag() {
-  delete mark;
-  if (std::exchange(cursorShown, false)) QApplication::restoreOverrideCursor();
 }
 
 void TCCommandsPage::DropOffered(QPoint globalPosition) {

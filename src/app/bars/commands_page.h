@@ -3,13 +3,14 @@
 // the same for the keyboard. Acts at once.
 #pragma once
 
-#include <QPointer>
 #include <QWidget>
 #include <cstddef>
 #include <optional>
 #include <vector>
 
+#include "app/bars/bar_offers.h"
 #include "app/bars/bar_set.h"
+#include "app/bars/drop_mark.h"
 #include "resources/bar_target.h"
 
 class QComboBox;
@@ -27,18 +28,11 @@ class TCCommandsPage final : public QWidget {
  public:
   // `barSet` outlives the page.
   explicit TCCommandsPage(TCBarSet& barSet);
-  ~TCCommandsPage() override;
 
   // Shows the bars as they are now: something else has changed them.
   void ShowBars();
 
  private:
-  struct TCCategory {
-    QString name;
-    TCBarItems items;
-  };
-  [[nodiscard]] std::vector<TCCategory> Categories() const;
-
   void LayOut();
   void ConnectControls();
   void ShowOffer();
@@ -59,12 +53,11 @@ class TCCommandsPage final : public QWidget {
   };
   [[nodiscard]] std::optional<TCGap> GapAt(QPoint globalPosition, const TCBarItem& item) const;
   void ShowGap(const std::optional<TCGap>& gap);
-  void EndDrag();
   void DropOffered(QPoint globalPosition);
   void DropPlaced(int row, QPoint globalPosition);
 
   TCBarSet& bars;
-  std::vector<TCCategory> categories;
+  std::vector<TCBarOffer> offers;
   TCBarTarget target;
   QComboBox* category;
   TCDragList* offer;
@@ -77,8 +70,7 @@ class TCCommandsPage final : public QWidget {
   QLineEdit* menuName;
   QLabel* menuLabel;
   QLabel* description;
-  QPointer<QWidget> mark;    // of the gap, while something is dragged
-  bool cursorShown = false;  // the drag's
+  TCDropMark mark;
 };
 
 }  // namespace brevant

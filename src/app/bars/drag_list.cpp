@@ -11,7 +11,7 @@ TCDragList::TCDragList(QWidget* parent) : QListWidget(parent) {}
 
 int TCDragList::RowGapAt(QPoint globalPosition) const {
   const QPoint position = viewport()->mapFromGlobal(globalPosition);
-  if (!isVisible() || !viewport()->rect().contains(position)) return -1;
+  if (!viewport()->rect().contains(position)) return -1;
   const QModelIndex index = indexAt(position);
   if (!index.isValid()) return count();
   return index.row() + (position.y() > visualRect(index).center().y() ? 1 : 0);

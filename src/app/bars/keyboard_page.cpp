@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/bars/control_label.h"
 #include "app/bars/key_field.h"
 #include "app/commands/command_categories.h"
 #include "resources/menu_text.h"
@@ -27,14 +28,6 @@ QString KeyNames(const std::vector<TCKey>& keys) {
   QStringList names;
   for (const TCKey& key : keys) names.append(ToQString(KeyName(key)));
   return names.join(QStringLiteral(", "));
-}
-
-// What a label says and a screen reader calls the control.
-QLabel* MakeLabel(const QString& text, QWidget& control) {
-  auto* label = new QLabel(text);
-  label->setBuddy(&control);
-  control.setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
-  return label;
 }
 
 QString UseText(const TCKeyUse& use) {
@@ -149,7 +142,6 @@ void TCKeyboardPage::ConnectControls() {
   connect(category, &QComboBox::currentIndexChanged, this, &TCKeyboardPage::ShowCommands);
   connect(search, &QLineEdit::textChanged, this, &TCKeyboardPage::ShowCommands);
   connect(list, &QTreeWidget::currentItemChanged, this, &TCKeyboardPage::ShowCommand);
-  connect(keyList, &QListWidget::currentRowChanged, this, [this](int row) { remove->setEnabled(row >= 0); });
   connect(newKey, &TCKeyField::keyChanged, this, &TCKeyboardPage::ShowUse);
   connect(assign, &QPushButton::clicked, this, &TCKeyboardPage::AssignKey);
   connect(remove, &QPushButton::clicked, this, &TCKeyboardPage::RemoveKey);

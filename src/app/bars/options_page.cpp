@@ -3,10 +3,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <utility>
+
+#include "app/bars/control_label.h"
 
 namespace brevant {
 namespace {
@@ -35,7 +36,6 @@ TCOptionsPage::TCOptionsPage(TCBarSet& barSet)
       keysInToolTips(
           MakeBox("KeysInToolTips", QStringLiteral("Show &keys in tool tips"), &TCBarLook::keysInToolTips)) {
   iconSize->setObjectName(QStringLiteral("IconSize"));
-  iconSize->setAccessibleName(QStringLiteral("Icon size"));
   for (const int pixels : TCBarLook::kIconSizes) iconSize->addItem(SizeName(pixels), pixels);
   connect(iconSize, &QComboBox::currentIndexChanged, this, [this] {
     TCBarLook look = bars.Customised().look;
@@ -43,10 +43,8 @@ TCOptionsPage::TCOptionsPage(TCBarSet& barSet)
     Change(look);
   });
 
-  auto* sizeLabel = new QLabel(QStringLiteral("&Icon size:"));
-  sizeLabel->setBuddy(iconSize);
   auto* sizeRow = new QHBoxLayout;
-  sizeRow->addWidget(sizeLabel);
+  sizeRow->addWidget(MakeLabel(QStringLiteral("&Icon size:"), *iconSize));
   sizeRow->addWidget(iconSize);
   sizeRow->addStretch(1);
   auto* indented = new QHBoxLayout;

@@ -32,7 +32,7 @@ bool TCCommandRouter::Handles(TCCommandId command) const {
 
 void TCCommandRouter::OnCommand(TCCommandId command) {
   if (command == TCCommandId::About) {
-    TCAboutBox::Open(libraries, frame);
+    OnAppAbout();
   } else if (command == TCCommandId::FocusPlaylist) {
     frame.PlaylistView().TakeFocus();
   } else if (command == TCCommandId::RecentFile) {
@@ -40,6 +40,10 @@ void TCCommandRouter::OnCommand(TCCommandId command) {
   } else if (!help.OnCommand(command) && !frame.OnCommand(command)) {
     doc.OnCommand(command);
   }
+}
+
+void TCCommandRouter::OnAppAbout() {
+  TCAboutBox::Open(libraries, frame);
 }
 
 void TCCommandRouter::OpenNewestFile() {

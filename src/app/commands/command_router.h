@@ -22,6 +22,9 @@ class TCCommandRouter final : public TCCommandTarget {
   void OnCommand(TCCommandId command) override;
   [[nodiscard]] bool IsChecked(TCCommandId command) const override;
 
+  // Opens the About box and returns at once.
+  void OnAppAbout();
+
  private:
   void OpenNewestFile();
 

@@ -25,6 +25,11 @@ std::u16string BaseFolder(const std::string& variable, const std::string& home, 
   return FolderPath(usable ? variable : home + "/" + std::string(inHome));
 }
 
+// Of the running executable.
+std::u16string ProgramFolder(const TCFolderHints& hints) {
+  return FolderPath(hints.program);
+}
+
 std::string Native(const QString& path) {
   return QFile::encodeName(path).toStdString();
 }
@@ -38,7 +43,7 @@ TCFolderHints AskSystemForFolders() {
 
 TCProgramFolders FindProgramFolders(TCFileSystem& files, const TCFolderHints& hints) {
   TCProgramFolders folders;
-  folders.program = FolderPath(hints.program);
+  folders.program = ProgramFolder(hints);
   folders.settings = BaseFolder(hints.configHome, hints.home, ".config");
   if (!folders.settings.empty()) folders.settings += kOurFolder;
   if (folders.settings.empty() || !files.MakeFolder(folders.settings)) folders.settings = folders.program;

@@ -93,7 +93,6 @@ TCPropertiesPane::TCPropertiesPane(QWidget* parent) : QTreeWidget(parent) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
   setDragDropMode(NoDragDrop);
-  setTabKeyNavigation(false);
   // No key but Enter: letters, digits and F2 are stage keys.
   setEditTriggers(DoubleClicked | SelectedClicked);
   header()->setStretchLastSection(true);
@@ -128,7 +127,6 @@ void TCPropertiesPane::ShowProperty(TCProperty property, std::u16string_view tex
   QTreeWidgetItem* row = RowOf(property);
   if (row == nullptr) return;
   const QString shown = ToQString(text);
-  if (row->text(kTextColumn) == shown) return;
   row->setText(kTextColumn, shown);
   // The keyboard stands on the caption, and that is what a screen reader reads.
   row->setData(kCaptionColumn, Qt::AccessibleDescriptionRole, shown);

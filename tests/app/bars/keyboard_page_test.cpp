@@ -67,11 +67,40 @@ TEST_F(KeyboardPage, FindsCommandsByTheirNameOrKey) {
   QTest::keyClicks(&search, QStringLiteral("ctrl+k"));
   ASSERT_EQ(KeyCommands().topLevelItemCount(), 1);
   EXPECT_EQ(KeyCommands().topLevelItem(0)->text(0), QStringLiteral("Auto Song Advance"));
+  search.setText(QStringLiteral("  Ctrl+K "));
+  EXPECT_EQ(KeyCommands().topLevelItemCount(), 1) << "blanks around it are no part of it";
+  search.setText(QStringLiteral("F5"));
+  EXPECT_EQ(KeyCommands().topLevelItemCount(), 1);
+  search.setText(QStringLiteral("f"));
+  EXPECT_NE(KeysShownFor(QStringLiteral("Set Playlist Font Size")), QStringLiteral("(not listed)"));
+  EXPECT_EQ(KeysShownFor(QStringLiteral("Play")), QStringLiteral("(not listed)")) << "F is not F5";
   QTest::keyClicks(&search, QStringLiteral("nothing like it"));
   EXPECT_EQ(KeyCommands().topLevelItemCount(), 0);
   EXPECT_FALSE(Find<TCKeyField>("NewKey").isEnabled());
   EXPECT_FALSE(Find<QPushButton>("RemoveKey").isEnabled());
   EXPECT_FALSE(Find<QPushButton>("AssignKey").isEnabled());
+}
+
+TEST_F(KeyboardPage, TheKeyboardIsInTheSearchAndTheFirstKeyIsChosen) {
+  EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("KeySearch"));
+  Choose(QStringLiteral("Play"));
+  EXPECT_EQ(Find<QListWidget>("CommandKeys").currentRow(), 0);
+  EXPECT_TRUE(Find<QPushButton>("RemoveKey").isEnabled());
+  Choose(QStringLiteral("Save As..."));
+  EXPECT_FALSE(Find<QPushButton>("RemoveKey").isEnabled()) << "it has none";
+}
+
+TEST_F(KeyboardPage, TellsWhatTheChosenCommandDoes) {
+  const auto shown = [this](const char* text) {
+    for (const QLabel* label : sheet->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->text() == QLatin1String(text)) return true;
+    }
+    return false;
+  };
+  Choose(QStringLiteral("Volume Step"));
+  EXPECT_TRUE(shown("sets the rate at which the volme increases or decreases"));
+  Choose(QStringLiteral("Save As..."));
+  EXPECT_TRUE(shown("Save the active document with a new name"));
 }
 
 TEST_F(KeyboardPage, AssignsAFreeKeyThatActsAtOnce) {
@@ -129,6 +158,28 @@ TEST_F(KeyboardPage, RemovesTheChosenKey) {
   EXPECT_FALSE(Find<QPushButton>("RemoveKey").isEnabled());
 }
 
+TEST_F(KeyboardPage, BehindARemovedKeyTheNextIsChosen) {
+  Choose(QStringLiteral("Next Song"));
+  PressInField(Qt::Key_PageDown);
+  Click("AssignKey");
+  auto& keys = Find<QListWidget>("CommandKeys");
+  keys.setCurrentRow(1);
+  Click("RemoveKey");
+  EXPECT_EQ(CommandOf(Qt::Key_D), Id::None);
+  ASSERT_EQ(keys.count(), 2);
+  EXPECT_EQ(keys.currentItem()->text(), QStringLiteral("Page Down"));
+}
+
+TEST_F(KeyboardPage, ShowsTheKeysThatAResetBroughtBack) {
+  Choose(QStringLiteral("Stop"));
+  PressInField(Qt::Key_P);
+  Click("AssignKey");
+  ASSERT_EQ(KeysShownFor(QStringLiteral("Stop")), QStringLiteral("S, F6, P"));
+  Click("Reset");
+  EXPECT_EQ(KeysShownFor(QStringLiteral("Stop")), QStringLiteral("S, F6"));
+  EXPECT_EQ(KeysShownFor(QStringLiteral("Play")), QStringLiteral("P, F5"));
+}
+
 TEST_F(KeyboardPage, DefaultKeysBringsTheKeysBackAndLeavesTheBars) {
   TCCustomisedBars wanted;
   wanted.SetItems(TCTextId::CreateToolbar, {});
@@ -147,6 +198,7 @@ TEST_F(KeyboardPage, IsDrivenWithoutTheMouse) {
   search.setFocus();
   QTest::keyClicks(&search, QStringLiteral("next song"));
   QTest::keyClick(&search, Qt::Key_Return);
+  QTest::keyClick(&search, Qt::Key_Enter, Qt::KeypadModifier);
   EXPECT_TRUE(sheet->isVisible()) << "Enter presses no button from afar";
   EXPECT_TRUE(bars.Customised() == TCCustomisedBars());
   Find<TCKeyField>("NewKey").setFocus();
@@ -155,6 +207,10 @@ TEST_F(KeyboardPage, IsDrivenWithoutTheMouse) {
   ASSERT_EQ(QApplication::focusWidget(), &Find<QPushButton>("AssignKey"));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_EQ(CommandOf(Qt::Key_PageDown), Id::NextSong);
+  PressInField(Qt::Key_PageUp);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(CommandOf(Qt::Key_PageUp), Id::NextSong);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
   EXPECT_FALSE(sheet->isVisible());
 }

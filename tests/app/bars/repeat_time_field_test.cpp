@@ -164,6 +164,28 @@ TEST_F(RepeatTimeField, EscapeDropsATimeThatIsNotComplete) {
   EXPECT_EQ(field.text(), QStringLiteral("01:05"));
 }
 
+TEST_F(RepeatTimeField, BackFromAnotherWindowOrAMenuTheTypingGoesOn) {
+  field.SetSeconds(65);
+  for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+    TakeFocus();
+    QTest::keyClicks(&field, QStringLiteral("30"));
+    QFocusEvent back(QEvent::FocusIn, reason);
+    QCoreApplication::sendEvent(&field, &back);
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_EQ(field.text(), QStringLiteral("01:05")) << reason;
+    field.clearFocus();
+  }
+}
+
+TEST_F(RepeatTimeField, ADigitAloneIsAWholeTimeOnceItIsEntered) {
+  field.SetSeconds(65);
+  TakeFocus();
+  QTest::keyClicks(&field, QStringLiteral("7"));
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(field.text(), QStringLiteral("07:05"));
+  EXPECT_EQ(field.Seconds(), 425);
+}
+
 TEST_F(RepeatTimeField, OnlyAFieldThatIsTypedIntoTurnsWithTheWheel) {
   Wheel();
   EXPECT_EQ(field.Seconds(), 0);

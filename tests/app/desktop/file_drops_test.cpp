@@ -77,6 +77,29 @@ TEST_F(FileDrops, ADragOfFilesIsWelcomeAndOneOfTextIsNot) {
   EXPECT_TRUE(files.isAccepted());
 }
 
+TEST_F(FileDrops, ADropBringsTheWindowForward) {
+  window.show();
+  QWidget fileManager;
+  fileManager.show();
+  fileManager.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&fileManager));
+  EXPECT_TRUE(Drop({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+// A file manager that offers to move a file deletes it when it is told that it was moved.
+TEST_F(FileDrops, AFileThatIsDroppedStaysWhereItIs) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))});
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &enter);
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  drop.setDropAction(Qt::MoveAction);
+  QCoreApplication::sendEvent(&window, &drop);
+  EXPECT_TRUE(drop.isAccepted());
+  EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+}
+
 TEST_F(FileDrops, NothingIsDroppedBehindADialog) {
   window.show();
   QDialog dialog(&window);

@@ -106,5 +106,23 @@ TEST_F(ProgramDoor, AMinimisedWindowComesForward) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &Frame(); }));
 }
 
+TEST_F(ProgramDoor, WhatComesForwardIsTheDialogWhereOneIsOpen) {
+  Start(kShow);
+  QWidget another;
+  const auto comesForward = [this, &another](QWidget& window) {
+    another.show();
+    another.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&another));
+    app->ComeForward();
+    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
+  };
+  EXPECT_TRUE(comesForward(Frame()));
+  app->Actions().ActionOf(TCCommandId::About)->trigger();
+  QCoreApplication::sendPostedEvents();
+  ASSERT_EQ(AboutBoxes().size(), 1);
+  EXPECT_TRUE(comesForward(*AboutBoxes().constFirst()));
+  CloseAboutBox();
+}
+
 }  // namespace
 }  // namespace brevant

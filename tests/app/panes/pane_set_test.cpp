@@ -130,12 +130,19 @@ TEST_F(PaneSet, AFirstStartHasTheManagerAtTheLeftAndThreePanesBelow) {
   }
 }
 
+TEST_F(PaneSet, InANarrowWindowThePlaylistKeepsTheMostOfTheWidth) {
+  TCPaneWindow narrow(QSize(900, 700));
+  narrow.Show();
+  EXPECT_EQ(narrow.Pane(Id::PlaylistManagerPane).width(), 300);
+  EXPECT_GT(narrow.playlist.width(), 500);
+}
+
 TEST_F(PaneSet, EachPaneBearsItsNumberAndItsTitle) {
   const std::map<Id, QString> titles{{Id::PlaylistManagerPane, QStringLiteral("Play List Manager")},
                                      {Id::PlayerPane, QStringLiteral("Windows Media Player")},
-                                     {Id::MessagePane, QStringLiteral("Brevant Information & Lyrics")}};
+                                     {Id::MessagePane, QStringLiteral("Brevant Information & Lyrics")},
+                                     {Id::PropertiesPane, QStringLiteral("Properties")}};
   for (const auto& [id, title] : titles) EXPECT_EQ(own.Pane(id).windowTitle(), title);
-  EXPECT_FALSE(own.Pane(Id::PropertiesPane).windowTitle().isEmpty());
   EXPECT_FALSE(TCPaneSet::IsPane(static_cast<Id>(4001)));
   EXPECT_FALSE(TCPaneSet::IsPane(Id::Play));
 }
@@ -349,6 +356,18 @@ TEST_F(PaneSet, AWindowThatIsMaximisedOnItsWayToTheScreenGetsTheLayoutOfItsFinal
     if (live) next.panes.LeaveLiveView();
     EXPECT_EQ(next.Places(), before) << live;
   }
+}
+
+TEST_F(PaneSet, AWindowThatIsMaximisedInLiveViewShowsNoPane) {
+  own.Show();
+  Save(own.panes);
+  TCPaneWindow next(QSize(700, 500));
+  Restore(next.panes);
+  next.Show();
+  next.panes.EnterLiveView();
+  next.window.resize(1600, 1000);
+  QCoreApplication::processEvents();
+  for (const Id id : kAll) EXPECT_FALSE(next.Pane(id).isVisible());
 }
 
 TEST_F(PaneSet, ThePanesLieAsTheUserSaysAsSoonAsOneIsTouched) {

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QDockWidget>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QToolTip>
 
 #include "app/commands/key_filter.h"
 #include "app/whole_program.h"
@@ -142,6 +144,23 @@ TEST_F(PropertiesPane, ARefreshThatChangesNothingLeavesTheEditorAlone) {
   EXPECT_EQ(EditorOf(pane)->text(), QStringLiteral("Half a wo"));
 }
 
+TEST_F(PropertiesPane, ATextThatIsCutOffStandsWholeInItsToolTip) {
+  Show();
+  const auto tipOver = [this](P property) {
+    QToolTip::hideText();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    const QPoint place = pane.visualRect(pane.indexFromItem(pane.RowOf(property), 1)).center();
+    QHelpEvent ask(QEvent::ToolTip, place, pane.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(pane.viewport(), &ask);
+    return QToolTip::text();
+  };
+  pane.ShowProperty(P::SongFileName, u"short.mp3");
+  EXPECT_EQ(tipOver(P::SongFileName), QString());
+  pane.ShowProperty(P::SongFilePath, u"\\" + std::u16string(200, u'm') + u" <b> & more\\");
+  const QString whole = QStringLiteral("\\") + QString(200, u'm') + QStringLiteral(" &lt;b&gt; &amp; more\\");
+  EXPECT_EQ(tipOver(P::SongFilePath), QStringLiteral("<span>%1</span>").arg(whole));
+}
+
 TEST_F(PropertiesPane, AScreenReaderReadsTheTextWithItsCaption) {
   Show();
   EXPECT_EQ(pane.accessibleName(), QStringLiteral("Properties"));
@@ -228,6 +247,8 @@ TEST_F(PropertiesInTheProgram, KeysAreTheTextsWhileTheTitleIsEdited) {
   EXPECT_EQ(editor->text(), QStringLiteral("sp 6"));
   Press(Qt::Key_Return);
   EXPECT_EQ(Shown(P::Title), QStringLiteral("sp 6"));
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(EditorOf(Pane()), nullptr) << "the Enter that ends the typing begins none";
   EXPECT_TRUE(player.Calls().empty());
   EXPECT_FALSE(app->Document().IsModified());
   app->Document().OnCommand(TCCommandId::NextSong);
