@@ -1,0 +1,65 @@
+// Watches whether the event loop of the thread that made it comes round. A thread of its own posts a beat
+// every few milliseconds and waits for the answer; a loop within the loop (a menu, a dialog, a drag) answers
+// as well as the outer one. Whoever answers late is asked by a signal where it stands.
+#pragma once
+
+#include <pthread.h>
+
+#include <QObject>
+#include <condition_variable>
+#include <cstdio>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "rehearsal/loop_beat.h"
+#include "rehearsal/stack_catcher.h"
+#include "rehearsal/thread_times.h"
+
+namespace brevant {
+
+class TCLoopWatch : public QObject {
+ public:
+  // Appends its lines, a JSON object each, to `file`. What stands before the first answer is the program's
+  // start and is noted as such.
+  explicit TCLoopWatch(std::FILE* file);
+  ~TCLoopWatch() override;
+  TCLoopWatch(const TCLoopWatch&) = delete;
+  TCLoopWatch& operator=(const TCLoopWatch&) = delete;
+
+ protected:
+  void customEvent(QEvent* event) override;
+
+ private:
+  struct Answer {
+    TCLoopBeat beat;
+    std::vector<TCCaughtStack> stacks;
+    bool certain = false;  // the beat was on its way as soon as its time was taken
+  };
+
+  void Watch();
+  // False when the watch is over.
+  bool Ask(Answer& answer);
+  bool Rest();
+  void Note(const Answer& answer);
+  void NoteSpread();
+  void Write(const std::string& line);
+
+  std::FILE* file;
+  pthread_t watched;
+  TCThreadTimes times;
+  TCStackCatcher catcher;
+  TCBeatSpread spread;
+  bool started = false;
+
+  std::mutex mutex;
+  std::condition_variable changed;
+  bool answered = false;
+  double answeredAt = 0.0;
+  bool over = false;
+
+  std::thread thread;
+};
+
+}  // namespace brevant
