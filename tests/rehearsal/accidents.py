@@ -39,7 +39,7 @@ def plays_again(run):
     run.journal.press("Return")
     run.judge.expect_song(song.name, look)
     try:
-        wait_for(f"{song.name!r} to be heard", lambda: run.judge.heard(song.pitch), 8)
+        wait_for(f"{song.name!r} to be heard", lambda: run.judge.heard(song), 8)
     except AssertionError as failure:
         if run.window.look().song == song.name:
             run.judge.look()
@@ -124,11 +124,10 @@ def the_disk_is_full(run):
     run.journal.accident("disk full", str(run.disk))
     filler = run.disk / "filler"
     with run.document_unsure():
-        with open(filler, "wb") as file:
+        with open(filler, "wb", buffering=0) as file:
             try:
                 while True:
                     file.write(bytes(65536))
-                    file.flush()
             except OSError as error:
                 if error.errno != errno.ENOSPC:
                     raise
@@ -215,6 +214,8 @@ def files_are_dropped(run):
 
         with screen.drag(tree.middle(place), target):
             wait_for("the window to take the files", taken)
+        # Whoever dies before has the window wait for what it was promised.
+        wait_for("the other program to be told", lambda: says("Dropped"))
     finally:
         process.kill()
         process.wait()

@@ -248,6 +248,11 @@ def makes_a_new_document(run):
 
 
 def looks_at_properties(run):
+    look = run.judge.look()
+    place = run.place_of_row(run.chance.randrange(len(look.rows))) if look.rows else None
+    if place is None:
+        return
+    run.click("a row", *place)
     run.journal.press("q")
     run.stage.wait_for_dialog("Song properties")
     run.stage.click_the_button(run.chance.choice(("OK", "Cancel")), "Song properties")

@@ -8,6 +8,7 @@ import material as songs_of
 
 SETTLED = 5.0  # seconds after which a sound system that came back, or a file, is held to work
 CLOSE_LISTENING = 0.4  # seconds of sound that are looked at
+LOUD = 50  # of 32767
 
 
 class Judge:
@@ -126,19 +127,24 @@ class Judge:
         ears, song = self.run.sound.ears, self.run.material.song(look.song)
         if look.phase in ("Stopped", "Paused", "Cannot play"):
             if look.at - before.at > 1 and not self.patiently(look, lambda: ears.silent(CLOSE_LISTENING)):
-                self.fail("sound out of nothing", f"{songs_of.pitch_at(self.run.material, self.heard)!r} sounds while "
+                self.fail("sound out of nothing", f"{self.sounding()} sounds while "
                           f"{look.song!r} is shown as {look.phase}")
         elif (look.phase == "Playing" and song is not None and look.volume >= 15 and look.elapsed >= 1 and
               not look.nearly_over() and not self.run.repeats):
-            if not self.patiently(look, lambda: self.heard(song.pitch)):
-                heard = songs_of.pitch_at(self.run.material, self.heard)
-                self.fail("wrong sound", f"{look.song!r} is shown as playing, and what sounds is {heard!r} "
-                          f"(loudness {ears.loudness(CLOSE_LISTENING):.0f})")
+            if not self.patiently(look, lambda: self.heard(song)):
+                self.fail("wrong sound", f"{look.song!r} is shown as playing, and what sounds is {self.sounding()}")
             else:
                 self.run.heard_right += 1
 
-    def heard(self, pitch):
-        return self.run.sound.ears.sounds(pitch, share=0.25, seconds=CLOSE_LISTENING)
+    def heard(self, song):
+        """Most of what sounds is this song."""
+        ears = self.run.sound.ears
+        return ears.loudness(CLOSE_LISTENING) >= LOUD and song.share(ears.last(CLOSE_LISTENING)) >= 0.5
+
+    def sounding(self):
+        ears = self.run.sound.ears
+        return (f"{songs_of.song_heard(self.run.material, ears.last(CLOSE_LISTENING))} of loudness "
+                f"{ears.loudness(CLOSE_LISTENING):.0f}")
 
     def patiently(self, look, condition):
         """True as soon as it holds, within three seconds, or when another song or phase is shown meanwhile."""

@@ -4,9 +4,10 @@ playlists. The songs are made once and kept; a run moves them about and puts the
 
 import pathlib
 import random
+import struct
 import subprocess
 
-from rig import songs
+from rig import songs, sound
 
 SONGS, SPARE = 300, 24
 KINDS = ("mp3", "wav", "mid", "wma")
@@ -14,7 +15,7 @@ WORDS = "Hafen Ebbe Öl Lärm Nacht Café Garçon Señor Ферри Ночь Ν�
 PLAIN_WORDS = "Harbour Tide Boats Storm Lantern Ferry Quay".split()  # of the spare songs: names that are typed
 GROUPS = ("Mariner Sets", "Abend > Гости", "Café", "Été 2026", "Zugaben", "Probe")
 EDGE = 14  # hertz between two tones, so that a quarter of a second tells them apart
-FIRST_NOTE = 40
+FIRST_NOTE, NOTES = 48, 36
 
 
 class Song:
@@ -29,17 +30,24 @@ class Song:
         if self.kind == "wav":
             self.seconds = min(self.seconds, 40.0)
         if self.kind == "mid":
-            self.note = FIRST_NOTE + number // len(KINDS) % 60
+            self.note = FIRST_NOTE + number // len(KINDS) % NOTES
             self.pitch = 440 * 2 ** ((self.note - 69) / 12)
         else:
             self.pitch = 220 + EDGE * (number % (SONGS + SPARE))
+
+    def share(self, stretch):
+        """Which part of a stretch of sound is this song's: 1 for it alone."""
+        if self.kind != "mid":
+            return sound.share_of_pitch(stretch, self.pitch)
+        # An organ sounds the octave below and what stands above it as well.
+        return sum(sound.share_of_pitch(stretch, self.pitch * part / 2) for part in range(1, 9))
 
     def make(self):
         if self.path.exists():
             return
         half_made = self.path.with_name("half-made." + self.kind)
         if self.kind == "mid":
-            songs.write_midi(half_made, self.note, self.seconds)
+            half_made.write_bytes(midi_of(self.note, round(self.seconds * 2)))
         else:
             codec = {"mp3": ["-c:a", "libmp3lame", "-b:a", "96k"], "wav": ["-c:a", "pcm_s16le"],
                      "wma": ["-c:a", "wmav2", "-b:a", "96k"]}[self.kind]
@@ -57,6 +65,13 @@ class Song:
         text = f"[ti:Song {self.number}]\r\n" + "".join(lines)
         ending, encoding = ((".lrc", "utf-8"), (".lrc", "cp1252"), (".lrcx", "utf-16-le"))[self.number % 3]
         self.path.with_suffix(ending).write_bytes(text.encode(encoding))
+
+
+def midi_of(note, strokes):
+    """An organ note struck anew every half second, so that whoever jumps into the song hears it, too."""
+    strike = bytes([0x00, 0x90, note, 110, 0x83, 0x50, 0x80, note, 0])  # held for 464 of 480 ticks
+    body = b"\x00\xc0\x10" + (strike + b"\x10\x90" + bytes([note, 0])) * strokes + b"\x00\xff\x2f\x00"
+    return struct.pack(">4sIHHH", b"MThd", 6, 0, 1, 480) + struct.pack(">4sI", b"MTrk", len(body)) + body
 
 
 class Material:
@@ -107,12 +122,10 @@ class Material:
         return self.by_name.get(name)
 
 
-def pitch_at(material, sounds):
-    """The name of the song that `sounds` (pitch) says yes to, for the record of a wrong one."""
-    for song in material.songs + material.spare:
-        if sounds(song.pitch):
-            return song.name
-    return "none of the songs"
+def song_heard(material, stretch):
+    """The name of the song that most of a stretch of sound is, for the record of a wrong one."""
+    best = max(material.songs + material.spare, key=lambda song: song.share(stretch))
+    return f"{best.name} ({best.share(stretch):.2f})"
 
 
 def read_document(content):

@@ -82,7 +82,8 @@ TCCaughtStack TCStackCatcher::Catch(pthread_t thread) {
   }
   const int found = depth.load(std::memory_order_acquire);
   if (found <= kOwnFrames) return {};
-  return {caught.begin() + kOwnFrames, caught.begin() + found};
+  // In parentheses: between braces the two ends would be its two elements.
+  return TCCaughtStack(caught.begin() + kOwnFrames, caught.begin() + found);
 }
 
 std::string JsonOf(const TCCaughtStack& stack) {
