@@ -196,7 +196,6 @@ def opens_again(run, path=None):
     if not path.exists():
         return
     run.journal.press("ctrl+o")
-    answers_the_changes(run)
     run.stage.wait_for_dialog("Open")
     if run.chance.random() < 0.1:
         run.journal.press("Escape")
@@ -207,19 +206,21 @@ def opens_again(run, path=None):
     run.stage.wait_for_text("File name:", str(path))
     run.journal.line("typed", str(path))
     screen.press("Return")
+    answers_the_changes(run)
     run.stage.wait_for_the_keys()
     has_opened(run, path)
 
 
 def answers_the_changes(run):
     """Save changes? Mostly not; the file stays what it was."""
-    for _ in range(8):
-        asking = run.window.look().asking
-        if asking:
+    box = None
+    for _ in range(12):
+        if any(role == "alert" for role, _ in run.window.windows()):
+            box = run.program.find("alert", "Brevant")
+        if box is not None:
             break
         time.sleep(0.05)
-    box = run.program.find("alert", "Brevant")
-    if box is None:
+    else:
         return False
     wait_for("the question to have the keys", lambda: screen.active_window_title() == "Brevant")
     answer = "Save" if run.chance.random() < 0.3 and not run.may_save_fail else "Discard"

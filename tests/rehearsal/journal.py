@@ -9,8 +9,8 @@ from rig import screen
 
 
 class Journal:
-    def __init__(self, folder):
-        self.folder = folder
+    def __init__(self, folder, pixels):
+        self.folder, self.pixels = folder, pixels
         self.file = open(folder / "rehearsal.log", "w", encoding="utf-8", buffering=1)
         self.begun = time.time()
         self.keys, self.starts = 0, 0
@@ -39,4 +39,4 @@ class Journal:
         self.line("FAILURE", f"{kind}: {sentence}")
         print(f"{self.minutes():6.2f}  FAILURE  {kind}: {sentence}", flush=True)
         if picture and self.failures[kind] <= 20:
-            screen.save_picture(self.folder / f"{self.minutes():06.2f}-{kind.replace(' ', '-')}.png")
+            self.pixels.save(self.folder / f"{self.minutes():06.2f}-{kind.replace(' ', '-')}.png")

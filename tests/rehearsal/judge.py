@@ -16,9 +16,11 @@ class Judge:
         self.run = run
         self.before = None  # the last look
         self.claimed_until = 0.0  # a start was asked for: until then another song may begin
+        self.claimed = None  # the song that was asked for, until it is seen
         self.reported = None  # the song whose failure was told already
         self.loading_since = None
         self.asking_since = None
+        self.number, self.number_in, self.old_green = None, None, None  # of the current song, as far as seen
         self.still = None  # (song, elapsed, since) of a song that plays
 
     def claim(self, seconds=4.0):
@@ -33,23 +35,39 @@ class Judge:
         self.news_of_the_watches()
         look = run.window.look()
         before, self.before = self.before, look
+        self.leave_out_old_colours(look)
         if look.asking and not expecting_a_question:
             self.asks_unasked(look)
         if before is not None and look.song is not None:
             self.song_changed(before, look)
             self.loads_for_ever(look)
             self.cannot_play(look)
-            self.stands_still(look)
+            self.stands_still(before, look)
         if before is not None and run.sound.well_for() > SETTLED:
             self.sounds_as_shown(before, look)
         return look
+
+    def leave_out_old_colours(self, look):
+        """The number of the current song stays from one playlist to the next. One that is too short for it has no current
+        song, and may still show the colours of the last time: nothing is expected of that green row."""
+        if look.green is None:
+            return
+        if look.header and look.playlist() != self.number_in:
+            too_short = self.number is not None and self.number >= len(look.rows)
+            self.old_green = look.green if too_short else None
+            self.number_in = look.playlist()
+        if look.green == self.old_green:
+            look.green = None
+        else:
+            self.number, self.old_green = look.green, None
 
     def news_of_the_watches(self):
         run = self.run
         for stall in run.loop.news():
             kind = "stall" if stall["judged"] == "program" else "busy machine"
             sentence = (f"the event loop stood for {stall['waited'] * 1000:.0f} ms: {stall['worked'] * 1000:.0f} at work, "
-                        f"{stall['queued'] * 1000:.0f} in the queue for a processor, after {run.act!r}")
+                        f"{stall['queued'] * 1000:.0f} in the queue for a processor, its helpers {stall['helpers'] * 1000:.0f}, "
+                        f"after {run.act!r}")
             if kind == "stall":
                 stack = run.loop.stack_lines(stall["stacks"][0]) if stall["stacks"] else ["not caught"]
                 stall["after"] = run.act
@@ -83,7 +101,10 @@ class Judge:
             return
         self.run.journal.starts += look.phase in ("Loading", "Playing")
         self.run.journal.line("song", f"{before.song} -> {look.song}")
-        if time.time() < self.claimed_until or self.run.act_may_start:
+        if time.time() < self.claimed_until:
+            return
+        if look.song == self.claimed:
+            self.claimed = None
             return
         gone_by = look.at - before.at
         if not before.auto_play and not look.auto_play:
@@ -111,8 +132,10 @@ class Judge:
         self.reported = (look.song, "cannot")
         self.fail("cannot play", f"{look.song!r} is there and cannot be played: {look.notice!r}")
 
-    def stands_still(self, look):
-        if look.phase != "Playing" or self.run.sound.well_for() < SETTLED or self.run.repeats:
+    def stands_still(self, before, look):
+        # Whoever did not look for seconds cannot tell a song that stood from one that began anew.
+        if (look.phase != "Playing" or self.run.sound.well_for() < SETTLED or self.run.repeats or
+                look.at - before.at > 2.5):
             self.still = None
         elif self.still is None or self.still[:2] != (look.song, look.elapsed):
             self.still = (look.song, look.elapsed, look.at)
@@ -161,6 +184,7 @@ class Judge:
         """Enter was pressed on a row of that name: that song is the one in the player, soon."""
         deadline = time.time() + 4
         self.claim()
+        self.claimed = name
         if look_before.song is None:
             return
         while time.time() < deadline:

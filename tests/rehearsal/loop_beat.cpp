@@ -7,7 +7,8 @@ namespace brevant {
 
 TCStall JudgeBeat(const TCLoopBeat& beat) {
   if (beat.waited <= kStall) return TCStall::None;
-  return beat.waited - beat.queued > kStall ? TCStall::OfTheProgram : TCStall::OfTheMachine;
+  const double kept = beat.waited - beat.queued - beat.helpersQueued;
+  return beat.worked > kStall || kept > kStall ? TCStall::OfTheProgram : TCStall::OfTheMachine;
 }
 
 void TCBeatSpread::Add(double seconds) {

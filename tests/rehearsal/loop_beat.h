@@ -9,15 +9,16 @@ namespace brevant {
 
 // All in seconds, of the user-interface thread, from the posting of the beat to its answer.
 struct TCLoopBeat {
-  double waited = 0.0;  // by the clock on the wall
-  double worked = 0.0;  // on a processor
-  double queued = 0.0;  // ready to run, while the processors were others'
+  double waited = 0.0;         // by the clock on the wall
+  double worked = 0.0;         // on a processor
+  double queued = 0.0;         // ready to run, while the processors were others'
+  double helpersQueued = 0.0;  // the same of the display server and the toolkit's threads, which it waits for
 };
 
 enum class TCStall {
   None,
   OfTheMachine,  // without the time spent in the queue for a processor it would have been none
-  OfTheProgram,
+  OfTheProgram,  // and always, when the thread itself worked for so long
 };
 
 inline constexpr double kStall = 0.1;  // seconds; longer than this is a stall

@@ -6,20 +6,28 @@ namespace brevant {
 namespace {
 
 TEST(LoopBeat, ATenthOfASecondIsNoStall) {
-  EXPECT_EQ(JudgeBeat({0.1, 0.1, 0.0}), TCStall::None);
+  EXPECT_EQ(JudgeBeat({0.1, 0.1, 0.0, 0.0}), TCStall::None);
 }
 
 TEST(LoopBeat, WhatTheThreadWorkedOrWaitedForIsTheProgramsStall) {
-  EXPECT_EQ(JudgeBeat({0.101, 0.101, 0.0}), TCStall::OfTheProgram);
-  EXPECT_EQ(JudgeBeat({0.101, 0.0, 0.0}), TCStall::OfTheProgram);
+  EXPECT_EQ(JudgeBeat({0.101, 0.101, 0.0, 0.0}), TCStall::OfTheProgram);
+  EXPECT_EQ(JudgeBeat({0.101, 0.0, 0.0, 0.0}), TCStall::OfTheProgram);
 }
 
 TEST(LoopBeat, WhatOnlyTheQueueForAProcessorMadeLongIsTheMachines) {
-  EXPECT_EQ(JudgeBeat({0.4, 0.05, 0.35}), TCStall::OfTheMachine);
+  EXPECT_EQ(JudgeBeat({0.4, 0.05, 0.35, 0.0}), TCStall::OfTheMachine);
 }
 
 TEST(LoopBeat, ABusyMachineExcusesNoLongerThanItKeptTheThread) {
-  EXPECT_EQ(JudgeBeat({0.4, 0.15, 0.25}), TCStall::OfTheProgram);
+  EXPECT_EQ(JudgeBeat({0.4, 0.05, 0.25, 0.0}), TCStall::OfTheProgram);
+}
+
+TEST(LoopBeat, WhoWaitsForAHelperThatWaitsForAProcessorWaitsForTheMachine) {
+  EXPECT_EQ(JudgeBeat({0.4, 0.01, 0.1, 0.25}), TCStall::OfTheMachine);
+}
+
+TEST(LoopBeat, NothingExcusesATenthOfASecondOfItsOwnWork) {
+  EXPECT_EQ(JudgeBeat({0.4, 0.11, 0.1, 0.25}), TCStall::OfTheProgram);
 }
 
 TEST(BeatSpread, NothingIsSaidOfNoBeats) {

@@ -47,8 +47,8 @@ const char* NameOf(TCStall stall) {
 
 }  // namespace
 
-TCLoopWatch::TCLoopWatch(std::FILE* logFile)
-    : file(logFile), watched(pthread_self()), thread([this] { Watch(); }) {}
+TCLoopWatch::TCLoopWatch(std::FILE* logFile, pid_t displayServer)
+    : file(logFile), watched(pthread_self()), helpers(displayServer), thread([this] { Watch(); }) {}
 
 TCLoopWatch::~TCLoopWatch() {
   {
@@ -86,7 +86,9 @@ bool TCLoopWatch::Ask(Answer& answer) {
   std::unique_lock lock(mutex);
   answered = false;
   lock.unlock();
-  const TCThreadTimes::TCSums before = times.Read();
+  helpers.Refresh(Seconds(CLOCK_MONOTONIC));
+  const TCQueueTimes::TCSums before = times.Read();
+  const double helpersBefore = helpers.Read();
   const double posted = Seconds(CLOCK_MONOTONIC);
   QCoreApplication::postEvent(this, new QEvent(QEvent::User));
   answer.certain = Seconds(CLOCK_MONOTONIC) - posted < kHeldUp;
@@ -103,8 +105,9 @@ bool TCLoopWatch::Ask(Answer& answer) {
   if (over) return false;
   const double answeredThen = answeredAt;
   lock.unlock();
-  const TCThreadTimes::TCSums after = times.Read();
-  answer.beat = {answeredThen - posted, after.worked - before.worked, after.queued - before.queued};
+  const TCQueueTimes::TCSums after = times.Read();
+  answer.beat = {answeredThen - posted, after.worked - before.worked, after.queued - before.queued,
+                 helpers.Read() - helpersBefore};
   return true;
 }
 
@@ -118,10 +121,11 @@ void TCLoopWatch::Note(const Answer& answer) {
   const TCStall stall = JudgeBeat(beat);
   if (started) spread.Add(beat.waited);
   if (started && stall == TCStall::None) return;
-  std::string line =
-      Line("{\"at\":%.3f,\"kind\":\"%s\",\"judged\":\"%s\",\"waited\":%.4f,\"worked\":%.4f,\"queued\":%.4f",
-           Seconds(CLOCK_REALTIME), started ? "stall" : "start", NameOf(stall), beat.waited, beat.worked,
-           beat.queued);
+  std::string line = Line(
+      "{\"at\":%.3f,\"kind\":\"%s\",\"judged\":\"%s\",\"waited\":%.4f,\"worked\":%.4f,\"queued\":%.4f,"
+      "\"helpers\":%.4f",
+      Seconds(CLOCK_REALTIME), started ? "stall" : "start", NameOf(stall), beat.waited, beat.worked,
+      beat.queued, beat.helpersQueued);
   line += ",\"stacks\":[";
   for (const TCCaughtStack& stack : answer.stacks) {
     line += &stack == answer.stacks.data() ? "" : ",";

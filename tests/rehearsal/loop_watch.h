@@ -14,16 +14,16 @@
 #include <vector>
 
 #include "rehearsal/loop_beat.h"
+#include "rehearsal/queue_times.h"
 #include "rehearsal/stack_catcher.h"
-#include "rehearsal/thread_times.h"
 
 namespace brevant {
 
 class TCLoopWatch : public QObject {
  public:
   // Appends its lines, a JSON object each, to `file`. What stands before the first answer is the program's
-  // start and is noted as such.
-  explicit TCLoopWatch(std::FILE* file);
+  // start and is noted as such. `displayServer` is that process, 0 when it is not known.
+  explicit TCLoopWatch(std::FILE* file, pid_t displayServer = 0);
   ~TCLoopWatch() override;
   TCLoopWatch(const TCLoopWatch&) = delete;
   TCLoopWatch& operator=(const TCLoopWatch&) = delete;
@@ -48,7 +48,8 @@ class TCLoopWatch : public QObject {
 
   std::FILE* file;
   pthread_t watched;
-  TCThreadTimes times;
+  TCQueueTimes times = TCQueueTimes::OfThisThread();
+  TCHelpersQueue helpers;
   TCStackCatcher catcher;
   TCBeatSpread spread;
   bool started = false;

@@ -4,6 +4,7 @@ is measured.
 
 import ctypes
 import ctypes.util
+import subprocess
 
 ALL_PLANES, AS_PIXELS = 0xFFFFFFFF, 2
 
@@ -32,17 +33,26 @@ class Pixels:
         self.width = self.x11.XDisplayWidth(ctypes.c_void_p(self.display), 0)
         self.height = self.x11.XDisplayHeight(ctypes.c_void_p(self.display), 0)
 
+    def content(self, x, y, width, height):
+        """Blue, green, red and a byte of nothing for each pixel; a line has no gap at 32 bits a pixel."""
+        image = self.x11.XGetImage(self.display, self.root, x, y, width, height, ALL_PLANES, AS_PIXELS)
+        if not image:
+            return b""
+        content = ctypes.string_at(image.contents.data, image.contents.bytes_per_line * height)
+        self.x11.XDestroyImage(image)
+        return content
+
+    def save(self, path):
+        """A picture of all of it. Other ways to one hold the display for a quarter of a second."""
+        subprocess.run(["convert", "-size", f"{self.width}x{self.height}", "-depth", "8", "bgra:-", "-alpha", "off", str(path)],
+                       input=self.content(0, 0, self.width, self.height), check=False)
+
     def green(self, area):
         """How many pixels in (x, y, width, height) have the colour of the current song."""
         x, y = max(0, area[0]), max(0, area[1])
         width, height = min(area[0] + area[2], self.width) - x, min(area[1] + area[3], self.height) - y
         if width <= 0 or height <= 0:
             return 0
-        image = self.x11.XGetImage(self.display, self.root, x, y, width, height, ALL_PLANES, AS_PIXELS)
-        if not image:
-            return 0
-        content = ctypes.string_at(image.contents.data, image.contents.bytes_per_line * height)
-        self.x11.XDestroyImage(image)
-        # Blue, green, red and a byte of nothing; bytes_per_line has no gap at 32 bits a pixel.
+        content = self.content(x, y, width, height)
         return sum(1 for blue, green, red in zip(content[0::4], content[1::4], content[2::4])
                    if green == 255 and blue == 0 and red == 0)

@@ -32,7 +32,7 @@ from watching import DiskWatch, LoopWatch, Memory
 from window import Window
 
 OPTIONS_THAT_MATTER = ("ctrl+k", "ctrl+e", "c")  # advance, immediate play, colours
-HINDRANCES = (AssertionError, subprocess.CalledProcessError, *tree.VANISHED)
+HINDRANCES = (AssertionError, OSError, ValueError, subprocess.SubprocessError, *tree.VANISHED)
 
 
 class Gone(Exception):
@@ -43,7 +43,8 @@ class Run:
     def __init__(self, binary, watchdog, drag_source, folder, minutes, seed):
         self.binary, self.drag_source, self.folder = binary, drag_source, folder
         self.minutes, self.seed, self.chance = minutes, seed, random.Random(seed)
-        self.journal = Journal(folder)
+        self.pixels = Pixels()
+        self.journal = Journal(folder, self.pixels)
         self.disk, self.documents, home = folder / "disk", folder / "disk" / "documents", folder / "home"
         shutil.rmtree(home, ignore_errors=True)
         home.mkdir()
@@ -60,7 +61,6 @@ class Run:
         self.journal.begun = time.time()
         screen.offer_letters("us")
         self.sound = SoundSystem(folder / "sound")
-        self.pixels = Pixels()
         log = folder / "watchdog.log"
         self.program = Program(binary, home, folder / "program.log", [self.document], LD_PRELOAD=str(watchdog),
                                BREVANT_WATCHDOG_LOG=str(log))
@@ -73,7 +73,7 @@ class Run:
         self.memory = Memory(self.program.process.pid)
         self.disk_watch = DiskWatch((self.disk,))
         self.judge = Judge(self)
-        self.act, self.act_may_start, self.document_in_danger, self.repeats = "the start", False, False, False
+        self.act, self.document_in_danger, self.repeats = "the start", False, False
         self.turned, self.broken_until, self.sought_at, self.made, self.heard_right = set(), {}, 0.0, 0, 0
 
     # What acts ask of the run.
@@ -223,9 +223,11 @@ class Run:
         self.journal.press("alt+F4")
         deadline = time.time() + 15
         while self.program.running() and time.time() < deadline:
-            if self.program.find("alert", "Brevant"):
-                screen.press("alt+d")
-            time.sleep(0.2)
+            box = self.program.find("alert", "Brevant")
+            discard = tree.find(box, "push button", "Discard") if box else None
+            if discard:
+                self.click("Discard", *tree.middle(discard))
+            time.sleep(0.3)
         if self.program.running():
             self.journal.fail("does not end", "alt+F4 was pressed 15 s ago")
         elif self.program.process.returncode != 0:

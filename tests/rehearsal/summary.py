@@ -50,7 +50,7 @@ def summarise(run):
     for stall in stalls:
         told = stall.get("told", [])
         lines.append(f"  {stall['waited'] * 1000:.0f} ms ({stall['worked'] * 1000:.0f} at work, {stall['queued'] * 1000:.0f} "
-                     f"queued) after {stall.get('after', '')!r}: {told[0] if told else 'not caught'}")
+                     f"queued, helpers {stall['helpers'] * 1000:.0f}) after {stall.get('after', '')!r}: {told[0] if told else 'not caught'}")
     for minute in (1, 10, 30, 60):
         sample = memory.at(minute)
         if sample:

@@ -20,7 +20,8 @@ void BeginTheWatch() {
   const char* const name = std::getenv("BREVANT_WATCHDOG_LOG");
   std::FILE* const file = name == nullptr ? nullptr : std::fopen(name, "ae");
   if (file == nullptr) return;
-  watch = std::make_unique<brevant::TCLoopWatch>(file);
+  const char* const server = std::getenv("BREVANT_STAGE_SERVER");
+  watch = std::make_unique<brevant::TCLoopWatch>(file, server == nullptr ? 0 : std::atoi(server));
   qAddPostRoutine(EndTheWatch);
 }
 
