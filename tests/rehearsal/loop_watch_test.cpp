@@ -40,13 +40,18 @@ class LoopWatch : public ::testing::Test {
     loop.exec();
   }
 
-  [[nodiscard]] std::vector<std::string> Noted(const std::string& kind) const {
+  [[nodiscard]] std::vector<std::string> Noted(const std::string& part) const {
     std::ifstream file(Log());
     std::vector<std::string> lines;
     for (std::string line; std::getline(file, line);) {
-      if (line.find("\"kind\":\"" + kind + "\"") != std::string::npos) lines.push_back(line);
+      if (line.find(part) != std::string::npos) lines.push_back(line);
     }
     return lines;
+  }
+
+  // A busy machine may add stalls that are its own.
+  [[nodiscard]] std::vector<std::string> Stalls() const {
+    return Noted(R"("kind":"stall","judged":"program")");
   }
 
   [[nodiscard]] std::string Log() const { return folder.Native("watch.log"); }
@@ -65,7 +70,7 @@ TEST_F(LoopWatch, ALoopThatWorksTooLongAtOneThingIsNotedWithWhereItStood) {
     while (std::chrono::steady_clock::now() < end) {
     }
   });
-  const std::vector<std::string> stalls = Noted("stall");
+  const std::vector<std::string> stalls = Stalls();
   ASSERT_EQ(stalls.size(), 1U);
   EXPECT_NE(stalls[0].find("rehearsal_test+0x"), std::string::npos) << stalls[0];
   EXPECT_NE(stalls[0].find("QEventLoop::exec("), std::string::npos) << stalls[0];
@@ -73,16 +78,15 @@ TEST_F(LoopWatch, ALoopThatWorksTooLongAtOneThingIsNotedWithWhereItStood) {
 
 TEST_F(LoopWatch, AThreadThatSleepsIsNoLessAStallOfTheProgram) {
   TurnWith([] { std::this_thread::sleep_for(300ms); });
-  const std::vector<std::string> stalls = Noted("stall");
-  ASSERT_EQ(stalls.size(), 1U);
-  EXPECT_NE(stalls[0].find("\"judged\":\"program\""), std::string::npos) << stalls[0];
+  const std::vector<std::string> stalls = Stalls();
+  EXPECT_EQ(stalls.size(), 1U);
 }
 
 TEST_F(LoopWatch, ALoopWithinTheLoopAnswersAsWell) {
   TurnWith([] { Turn(400ms); });
-  EXPECT_TRUE(Noted("stall").empty()) << Noted("stall")[0];
-  EXPECT_EQ(Noted("start").size(), 1U);
-  EXPECT_EQ(Noted("spread").size(), 1U);
+  EXPECT_TRUE(Stalls().empty()) << Stalls()[0];
+  EXPECT_EQ(Noted(R"("kind":"start")").size(), 1U);
+  EXPECT_EQ(Noted(R"("kind":"spread")").size(), 1U);
 }
 
 }  // namespace
