@@ -35,7 +35,6 @@ class TCLoopWatch : public QObject {
   struct Answer {
     TCLoopBeat beat;
     std::vector<TCCaughtStack> stacks;
-    bool certain = false;  // the beat was on its way as soon as its time was taken
   };
 
   void Watch();
@@ -52,6 +51,7 @@ class TCLoopWatch : public QObject {
   TCHelpersQueue helpers;
   TCStackCatcher catcher;
   TCBeatSpread spread;
+  double unwatched = 0.0;  // seconds that this thread came too late for its beats
   bool started = false;
 
   std::mutex mutex;

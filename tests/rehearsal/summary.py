@@ -43,7 +43,7 @@ def summarise(run):
         spread = loop.spread
         lines.append(f"The event loop answered {spread['count']} times: half within {spread['half'] * 1000:.1f} ms, 99 % within "
                      f"{spread['of100'] * 1000:.1f}, 99.9 % within {spread['of1000'] * 1000:.1f}, the longest "
-                     f"{spread['longest'] * 1000:.1f} ms.")
+                     f"{spread['longest'] * 1000:.1f} ms. For {spread['unwatched']:.1f} s in all the watch came late itself.")
     busy = [stall for stall in loop.stalls if stall["judged"] == "machine"]
     stalls = [stall for stall in loop.stalls if stall["judged"] == "program"]
     lines.append(f"Stalls over 100 ms: {len(stalls)} of the program, {len(busy)} of the busy machine alone.")
