@@ -181,10 +181,11 @@ def saves_under_another_name(run):
     screen.type_text(path)
     run.stage.wait_for_text("File name:", path)
     run.journal.line("typed", path)
+    exists = (run.documents / f"{name}.brv").exists()
     screen.press("Return")
-    time.sleep(0.4)
-    if any(title.strip() for title in run.window.look().asking):  # "already exists. Replace it?"
-        run.journal.press("y")
+    if exists:
+        question = run.program.wait_for("alert", "Save As")
+        screen.click(*tree.middle(tree.find(question, "push button", "Yes")))
     run.stage.wait_for_the_keys()
     run.document = run.documents / f"{name}.brv"
     wait_for("the title", lambda: run.window.look().title == f"{name}.brv - Brevant", 8)

@@ -7,6 +7,7 @@ import os
 import pathlib
 import random
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -241,6 +242,8 @@ class Run:
 
 
 def main():
+    # Whoever ends it early gets its figures all the same; in the background a shell would have it ignore this.
+    signal.signal(signal.SIGINT, signal.default_int_handler)
     binary, watchdog, drag_source, folder = (pathlib.Path(argument).resolve() for argument in sys.argv[1:5])
     run = Run(binary, watchdog, drag_source, folder, float(sys.argv[5]), int(sys.argv[6]))
     try:
