@@ -10,10 +10,10 @@ from rig.waiting import wait_for
 class Program:
     """One run. Settings and state lie below `home`, so that a second run finds those of the first."""
 
-    def __init__(self, binary, home, log, arguments=()):
+    def __init__(self, binary, home, log, arguments=(), **more_environment):
         environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=str(home / "config"),
                            XDG_STATE_HOME=str(home / "state"), XDG_CACHE_HOME=str(home / "cache"),
-                           XDG_DATA_HOME=str(home / "data"), LC_ALL="C.UTF-8")
+                           XDG_DATA_HOME=str(home / "data"), LC_ALL="C.UTF-8", **more_environment)
         self.settings_file = home / "config" / "Korvel" / "Brevant" / "Brevant.ini"
         with open(log, "ab") as output:
             self.process = subprocess.Popen([str(binary), *map(str, arguments)], env=environment, cwd=home,
