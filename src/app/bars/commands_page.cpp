@@ -198,7 +198,7 @@ void TCCommandsPage::ShowChosen() {
   const int row = placed->currentRow();
   remove->setEnabled(row >= 0);
   up->setEnabled(row > 0);
-  down->setEnabled(row >= 0 && row + 1 < placed->count());
+  down->setEnabled(row + 1 < placed->count());
 }
 
 const TCBarItem* TCCommandsPage::Offered() const {

@@ -40,6 +40,8 @@ TEST_F(CommandsPageDrag, AnEntryIsDraggedOffItsBarOrToAnother) {
   Drag("BarItems", QStringLiteral("Save"), OnButton(TCTextId::CreateToolbar, Id::CreateGroupList));
   EXPECT_EQ(On(kStandard), std::vector{Id::FileNew});
   EXPECT_EQ(On(TCTextId::CreateToolbar).front(), Id::FileSave);
+  EXPECT_EQ(Find<QComboBox>("BarTarget").currentText(), QStringLiteral("Create")) << "where it is now";
+  EXPECT_EQ(Find<TCDragList>("BarItems").currentRow(), 0);
 }
 
 TEST_F(CommandsPageDrag, AnEntryIsDraggedToAnotherPlaceOfItsBar) {

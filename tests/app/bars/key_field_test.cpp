@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -36,6 +38,19 @@ TEST_F(KeyField, ShowsTheKeyThatIsPressed) {
   QTest::keyClick(field, Qt::Key_PageDown, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(field->text(), QStringLiteral("Ctrl+Shift+Page Down"));
   EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(KeyField, AKeyThatIsStillHeldFromBeforeIsNotMeant) {
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_P, Qt::NoModifier, QStringLiteral("p"), true);
+  QCoreApplication::sendEvent(field, &held);
+  EXPECT_EQ(field->Key(), TCKey());
+  EXPECT_EQ(field->text(), QString());
+}
+
+TEST_F(KeyField, HasNoMenuThatCouldPasteIntoIt) {
+  QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(4, 4), field->mapToGlobal(QPoint(4, 4)));
+  QCoreApplication::sendEvent(field, &click);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(KeyField, TakesTheKeysThatAreSomethingElseElsewhere) {

@@ -184,6 +184,11 @@ TEST_F(RepeatTimeField, ADigitAloneIsAWholeTimeOnceItIsEntered) {
   QTest::keyClick(&field, Qt::Key_Return);
   EXPECT_EQ(field.text(), QStringLiteral("07:05"));
   EXPECT_EQ(field.Seconds(), 425);
+  field.setSelectedSection(QTimeEdit::MinuteSection);
+  QTest::keyClick(&field, Qt::Key_Backspace);
+  EXPECT_NE(field.text(), field.time().toString(QStringLiteral("mm:ss")));
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(field.text(), field.time().toString(QStringLiteral("mm:ss")));
 }
 
 TEST_F(RepeatTimeField, OnlyAFieldThatIsTypedIntoTurnsWithTheWheel) {
