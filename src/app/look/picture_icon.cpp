@@ -6,8 +6,9 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QSvgRenderer>
-#include <utility>
+#include <string>
 
 #include "resources/icons/icon_names.h"
 
@@ -35,7 +36,7 @@ QColor ColourOf(QIcon::Mode mode, QIcon::State state) {
 
 class TCPictureEngine final : public QIconEngine {
  public:
-  explicit TCPictureEngine(QByteArray svgText) : svg(std::move(svgText)) {}
+  explicit TCPictureEngine(std::string_view pictureName) : name(pictureName), svg(ReadPicture(pictureName)) {}
 
   void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
     QByteArray coloured = svg;
@@ -45,11 +46,21 @@ class TCPictureEngine final : public QIconEngine {
     renderer.render(painter, area);
   }
 
+  // Drawn once: a bar asks for all of its pictures whenever a part of it is painted, and panes share theirs.
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap picture(size);
+    const QString key = QStringLiteral("brevant/%1/%2x%3/%4")
+                            .arg(QString::fromStdString(name))
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(ColourOf(mode, state).name());
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture)) return picture;
+    picture = QPixmap(size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     paint(&painter, picture.rect(), mode, state);
+    painter.end();
+    QPixmapCache::insert(key, picture);
     return picture;
   }
 
@@ -57,13 +68,14 @@ class TCPictureEngine final : public QIconEngine {
   [[nodiscard]] bool isNull() override { return svg.isEmpty(); }
 
  private:
+  std::string name;
   QByteArray svg;
 };
 
 }  // namespace
 
 QIcon PictureIcon(std::string_view name) {
-  return name.empty() ? QIcon() : QIcon(new TCPictureEngine(ReadPicture(name)));
+  return name.empty() ? QIcon() : QIcon(new TCPictureEngine(name));
 }
 
 QCursor PictureCursor(std::string_view name) {

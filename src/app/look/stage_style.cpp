@@ -18,6 +18,10 @@ constexpr int kHalfBright = 128;
 constexpr int kUprightGap = 6;
 constexpr int kUprightTrim = 2;
 
+// A pane that floats over the window, as dark as the window is. A line of one would be lost on a screen that
+// shows one and a half pixels for it.
+constexpr int kPaneFrame = 2;
+
 bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < kHalfBright;
 }
@@ -86,6 +90,12 @@ void DrawTabThatIsShown(const QStyleOptionTab& option, QPainter& painter) {
   painter.fillRect(tab.left() + 1, top, tab.width() - 2, kThick, option.palette.color(QPalette::Highlight));
 }
 
+void DrawFrameOfPane(const QStyleOption& option, QPainter& painter) {
+  const QRegion frame =
+      QRegion(option.rect) - option.rect.adjusted(kPaneFrame, kPaneFrame, -kPaneFrame, -kPaneFrame);
+  for (const QRect& side : frame) painter.fillRect(side, option.palette.color(QPalette::Mid));
+}
+
 }  // namespace
 
 TCStageStyle::TCStageStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -127,15 +137,15 @@ void TCStageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
   if (element == PE_PanelButtonTool && option->state.testFlag(State_On)) {
     return DrawButtonThatIsOn(*option, *painter);
   }
+  if (element == PE_FrameDockWidget) return DrawFrameOfPane(*option, *painter);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  // A pane that floats has no frame but this one.
-  const bool edged = element == PE_IndicatorCheckBox || element == PE_FrameDockWidget;
-  if (edged && IsDark(option->palette)) DrawEdge(*option, *painter);
+  if (element == PE_IndicatorCheckBox && IsDark(option->palette)) DrawEdge(*option, *painter);
 }
 
 int TCStageStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   const bool upright = option != nullptr && !option->state.testFlag(State_Horizontal);
   if (metric == PM_ToolBarSeparatorExtent && upright) return kUprightGap;
+  if (metric == PM_DockWidgetFrameWidth) return kPaneFrame;
   return QProxyStyle::pixelMetric(metric, option, widget);
 }
 

@@ -37,6 +37,16 @@ TEST(PictureIcon, FollowsThePaletteOfTheMoment) {
   QGuiApplication::setPalette(before);
 }
 
+TEST(PictureIcon, IsDrawnOnceForItsSizeAndColour) {
+  const auto drawing = [](int size, QIcon::Mode mode = QIcon::Normal) {
+    return PictureIcon("stop").pixmap(QSize(size, size), 1.0, mode).cacheKey();
+  };
+  EXPECT_EQ(drawing(24), drawing(24)) << "for two buttons";
+  EXPECT_NE(drawing(24), drawing(32));
+  EXPECT_NE(drawing(24), drawing(24, QIcon::Disabled));
+  EXPECT_NE(drawing(24), PictureIcon("play").pixmap(QSize(24, 24), 1.0).cacheKey());
+}
+
 // Pixels that are neither ink nor paper: the soft edges of lines. A picture blown up is soft all over.
 double SoftShare(const QImage& image) {
   int soft = 0;

@@ -158,18 +158,24 @@ TEST(StageStyle, TheTabThatIsShownHasALineAlongItsOuterEdge) {
   }
 }
 
-TEST(StageStyle, APaneThatFloatsHasAnEdgeThatIsSeenOnBlack) {
-  const QPalette palette = StagePalette(0xFFFFFF, 0x000000);
-  QImage image(60, 20, QImage::Format_RGB32);
-  image.fill(palette.color(QPalette::Window));
-  QStyleOptionFrame frame;
-  frame.rect = image.rect();
-  frame.palette = palette;
-  frame.lineWidth = 1;
-  QPainter painter(&image);
-  TCStageStyle().drawPrimitive(QStyle::PE_FrameDockWidget, &frame, &painter, nullptr);
-  for (const QPoint edge : {QPoint(0, 10), QPoint(59, 10), QPoint(30, 0), QPoint(30, 19)}) {
-    EXPECT_EQ(image.pixelColor(edge), palette.color(QPalette::Mid));
+TEST(StageStyle, APaneThatFloatsHasAFrameThatIsSeenOnBlackAndOnWhite) {
+  for (const auto& [text, background] : {std::pair(0xFFFFFFU, 0x000000U), std::pair(0x000000U, 0xFFFFFFU)}) {
+    const QPalette palette = StagePalette(text, background);
+    QImage image(60, 20, QImage::Format_RGB32);
+    image.fill(palette.color(QPalette::Window));
+    QStyleOptionFrame frame;
+    frame.rect = image.rect();
+    frame.palette = palette;
+    QPainter painter(&image);
+    const TCStageStyle style;
+    style.drawPrimitive(QStyle::PE_FrameDockWidget, &frame, &painter, nullptr);
+    for (const QPoint edge : {QPoint(0, 10), QPoint(59, 10), QPoint(30, 0), QPoint(30, 19)}) {
+      EXPECT_GT(Contrast(image.pixelColor(edge), palette.color(QPalette::Window)), 1.5);
+    }
+    // What the pane shows begins inside of it.
+    const int width = style.pixelMetric(QStyle::PM_DockWidgetFrameWidth, nullptr, nullptr);
+    EXPECT_EQ(image.pixelColor(width, 10), palette.color(QPalette::Window));
+    EXPECT_NE(image.pixelColor(width - 1, 10), palette.color(QPalette::Window));
   }
 }
 
