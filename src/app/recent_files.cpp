@@ -1,7 +1,5 @@
 #include "app/recent_files.h"
 
-#include <algorithm>
-
 #include "resources/string_table.h"
 #include "text/case_folding.h"
 #include "text/path_parts.h"

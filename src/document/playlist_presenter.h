@@ -6,7 +6,6 @@
 #include <functional>
 #include <string_view>
 
-#include "document/frame_display.h"
 #include "document/playlist_display.h"
 #include "document/tree_display.h"
 #include "model/app_record.h"

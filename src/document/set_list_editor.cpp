@@ -1,10 +1,8 @@
 #include "document/set_list_editor.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "resources/string_table.h"
-#include "text/path_parts.h"
 #include "text/white_space.h"
 
 namespace brevant {

@@ -6,7 +6,6 @@
 #include "model/media_check.h"
 #include "resources/string_table.h"
 #include "text/numbers.h"
-#include "text/path_parts.h"
 #include "text/quoted_words.h"
 
 namespace brevant {

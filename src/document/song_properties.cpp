@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "document/set_list_editor.h"
-#include "model/media_check.h"
 #include "text/path_parts.h"
 
 namespace brevant {

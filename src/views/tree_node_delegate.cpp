@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <algorithm>
 
 #include "views/set_list_tree_model.h"
 

@@ -70,11 +70,6 @@ CWMPHost::CWMPHost(TCPlayer* playerToWork, const TCPlayerMonitor* monitorToRead,
   Refresh();
 }
 
-void CWMPHost::SetIcons(const TCPlayerIcons& icons) {
-  givenIcons = icons;
-  ShowIcons(icons);
-}
-
 void CWMPHost::Refresh() {
   const TCPlayerSnapshot snapshot = monitor != nullptr ? monitor->Snapshot() : TCPlayerSnapshot{};
   if (snapshot.url != shownUrl || !CanSeek(snapshot)) {
@@ -191,7 +186,7 @@ void CWMPHost::Build() {
 }
 
 void CWMPHost::FollowPalette() {
-  ShowIcons(givenIcons.value_or(DrawnPlayerIcons(palette().color(QPalette::ButtonText))));
+  ShowIcons(DrawnPlayerIcons(palette().color(QPalette::ButtonText)));
   const bool dark = palette().color(QPalette::Window).lightness() < 128;
   QPalette noticeColours = noticeLabel.palette();
   noticeColours.setColor(QPalette::WindowText, ToQColor(dark ? kNoticeOnDark : kNoticeOnLight));

@@ -7,7 +7,6 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QWidget>
-#include <optional>
 
 #include "playback/player.h"
 #include "playback/player_monitor.h"
@@ -24,9 +23,6 @@ class CWMPHost final : public QWidget {
  public:
   // Either may be null: the controls are disabled then. Both outlive this.
   CWMPHost(TCPlayer* player, const TCPlayerMonitor* monitor, QWidget* parent = nullptr);
-
-  // Instead of plain shapes in the palette's colour.
-  void SetIcons(const TCPlayerIcons& givenIcons);
 
   // Shows what the monitor says now.
   void Refresh();
@@ -68,7 +64,6 @@ class CWMPHost final : public QWidget {
   TCJumpSlider volumeSlider{TCWheel::Moves};
   QLabel volumeValueLabel;
 
-  std::optional<TCPlayerIcons> givenIcons;
   std::u16string shownUrl;
   TCHeldValue heldPosition{1.0};  // seconds
   TCHeldValue heldVolume{0.5};

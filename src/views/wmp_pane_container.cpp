@@ -12,10 +12,6 @@ TCWMPPaneContainer::TCWMPPaneContainer(TCPlayer* player, const TCPlayerMonitor* 
   connect(&host, &CWMPHost::stopWanted, this, &TCWMPPaneContainer::stopWanted);
 }
 
-void TCWMPPaneContainer::SetIcons(const TCPlayerIcons& icons) {
-  host.SetIcons(icons);
-}
-
 QSize TCWMPPaneContainer::sizeHint() const {
   return host.sizeHint();
 }

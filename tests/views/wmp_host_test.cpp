@@ -265,17 +265,6 @@ TEST_F(TCPlayerHostTest, TheButtonsHavePicturesThatFollowThePalette) {
   EXPECT_EQ(middle(), QColor(Qt::black));
 }
 
-TEST_F(TCPlayerHostTest, GivenPicturesStayWhateverThePalette) {
-  QPixmap pixmap(16, 16);
-  pixmap.fill(Qt::red);
-  host.SetIcons({QIcon(pixmap), QIcon(pixmap), QIcon(pixmap), QIcon(pixmap)});
-  QPalette colours = host.palette();
-  colours.setColor(QPalette::ButtonText, Qt::white);
-  host.setPalette(colours);
-  const auto* play = Control<QToolButton>(host, "Play");
-  EXPECT_EQ(play->icon().pixmap(QSize(16, 16), 1.0).toImage().pixelColor(7, 8), QColor(Qt::red));
-}
-
 TEST_F(TCPlayerHostTest, FollowsARealRunOfThePlayer) {
   CWMPHost pane(&player, &player);
   player.SetDefaultSong({.length = 100.0});

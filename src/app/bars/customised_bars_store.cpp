@@ -2,7 +2,6 @@
 
 #include <QStringList>
 #include <algorithm>
-#include <iterator>
 #include <optional>
 
 #include "views/text_conversion.h"

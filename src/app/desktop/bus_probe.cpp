@@ -9,7 +9,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdlib>
-#include <cstring>
 #include <optional>
 #include <string_view>
 

@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "resources/command_table.h"
+#include "resources/command_id.h"
 
 namespace brevant {
 
