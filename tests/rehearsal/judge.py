@@ -8,7 +8,7 @@ import material as songs_of
 
 SETTLED = 5.0  # seconds after which a sound system that came back, or a file, is held to work
 CLOSE_LISTENING = 0.4  # seconds of sound that are looked at
-LOUD = 50  # of 32767
+LOUD = 12  # of 32767; a song at a volume of 15 is hardly louder than 25
 
 
 class Judge:
