@@ -1,7 +1,6 @@
 #include "resources/key_page.h"
 
 #include <string_view>
-#include <vector>
 
 #include "resources/command_table.h"
 #include "resources/menu_text.h"
@@ -10,16 +9,18 @@ namespace brevant {
 namespace {
 
 constexpr std::string_view kOpening =
-    R"(# Keys
+    R"(# Commands and keys
 
-These keys act whichever part of the window has the focus, with two exceptions. While you type into a field
+All commands, menu by menu, with the keys that Brevant comes with. A command without a key is reached by the menus and
+the [bars](bars.md).
+
+The keys act whichever part of the window has the focus, with two exceptions. While you type into a field
 only the F-keys and the keyboard's own volume keys act. While the playlist manager has the focus, it keeps the
 arrow keys, Shift+Up and Shift+Down for itself, and Enter when a playlist or a song is selected.
 
 Volume, seeking, stepping through songs and playlists, and moves in the playlist manager repeat while the key
 is held. Every other key acts once a press. Some menus hint at other keys than these; the keys on this page are
-the ones that act, until you [give a command others](bars.md#making-bars-and-keys-your-own). A command that your
-menus and bars do not show is not in your version, and its key does nothing.
+the ones that act, until you [give a command others](bars.md#making-bars-and-keys-your-own).
 
 <!-- Written by brevant_key_table from the command table. Do not edit: run it again. -->
 )";
@@ -73,23 +74,35 @@ bool DoesSomething(const TCCommand& command) {
   return command.owners != TCCommandOwner::None && !(command.menuText.empty() && command.statusText.empty());
 }
 
-std::string Section(const std::string& title, const std::vector<const TCCommand*>& commands) {
-  std::string rows;
-  for (const TCCommand* const command : commands) {
-    const std::string keys = KeysOf(*command);
-    if (keys.empty() || !DoesSomething(*command)) continue;
-    rows += "| " + keys + " | " + NameOf(*command) + " | " + Plain(StatusLine(*command)) + " |\n";
-  }
-  if (rows.empty()) return {};
+std::string Cell(const std::string& text) {
+  return text.empty() ? " |" : " " + text + " |";
+}
+
+std::string Row(const TCCommand& command, const std::string& way) {
+  return "|" + Cell(KeysOf(command)) + Cell(way + NameOf(command)) + Cell(Plain(StatusLine(command))) + "\n";
+}
+
+std::string Section(const std::string& title, const std::string& rows) {
   return "\n## " + title + "\n\n| Key | Command | What it does |\n|---|---|---|\n" + rows;
 }
 
-std::vector<const TCCommand*> CommandsWithoutAMenu() {
-  std::vector<const TCCommand*> commands;
+std::string MenuName(TCMenuPlace place) {
+  return Plain(WithoutMnemonic(MenuTitle(place)));
+}
+
+std::string RowsOfMenu(TCMenuPlace place, const std::string& way = {}) {
+  std::string rows;
+  for (const TCCommand* const command : CommandsInMenu(place)) rows += Row(*command, way);
+  return rows;
+}
+
+std::string RowsWithoutAMenu() {
+  std::string rows;
   for (const TCCommand& command : Commands()) {
-    if (command.menu == TCMenuPlace::None) commands.push_back(&command);
+    if (command.menu != TCMenuPlace::None || KeysOf(command).empty() || !DoesSomething(command)) continue;
+    rows += Row(command, {});
   }
-  return commands;
+  return rows;
 }
 
 }  // namespace
@@ -97,9 +110,13 @@ std::vector<const TCCommand*> CommandsWithoutAMenu() {
 std::string KeyPage() {
   std::string page(kOpening);
   for (const TCMenuPlace place : MainMenus()) {
-    page += Section(Plain(WithoutMnemonic(MenuTitle(place))), CommandsInMenu(place));
+    std::string rows = RowsOfMenu(place);
+    if (place == TCMenuPlace::View) {
+      rows += RowsOfMenu(TCMenuPlace::ViewToolbars, MenuName(TCMenuPlace::ViewToolbars) + " > ");
+    }
+    page += Section(MenuName(place), rows);
   }
-  page += Section("Without a menu entry", CommandsWithoutAMenu());
+  page += Section("Without a menu entry", RowsWithoutAMenu());
   page += kClosing;
   return page;
 }

@@ -52,7 +52,7 @@ TEST(DesktopFiles, GoByTheNameThatTheProgramHasOnTheBus) {
   const std::string name = "org.korvel.Brevant";
   EXPECT_NE(ReadFile(kFiles / (name + ".desktop")).find("\nDBusActivatable=true\n"), std::string::npos);
   EXPECT_EQ(Between(ReadFile(kFiles / (name + ".service.in")), "\nName=", "\n"), name);
-  const std::string program = ReadFile(fs::path(BREVANT_SOURCES) / "app" / "running_program.cpp");
+  const std::string program = ReadFile(fs::path(BREVANT_SOURCES) / "app" / "desktop" / "running_program.cpp");
   EXPECT_NE(program.find("QStringLiteral(\"" + name + "\")"), std::string::npos);
   EXPECT_NE(program.find("QStringLiteral(\"/org/korvel/Brevant\")"), std::string::npos);
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "resources/command_table.h"
+#include "resources/menu_text.h"
 
 namespace brevant {
 namespace {
@@ -25,13 +26,24 @@ TEST(KeyPage, IsTheOneInTheGuide) {
 TEST(KeyPage, GivesEachMenuItsKeysWithNameAndExplanation) {
   EXPECT_TRUE(Tells("## Play"));
   EXPECT_TRUE(Tells("| S, F6 | Stop | Stop S, F6, 6 |"));
-  EXPECT_TRUE(Tells("| Ctrl+R | Rename |  |"));
+  EXPECT_TRUE(Tells("| Ctrl+R | Rename | |"));
 }
 
 TEST(KeyPage, GivesAKeyOnlyToTheCommandThatHasIt) {
   EXPECT_TRUE(Tells("| P, F5 | Play | Play Song ENTER, P, F5 |"));
-  EXPECT_TRUE(Tells("| Enter |  | Load the song into the player |"));
-  EXPECT_EQ(KeyPage().find("Load Last File On Start"), std::string::npos);
+  EXPECT_TRUE(Tells("| Enter | | Load the song into the player |"));
+  EXPECT_TRUE(Tells("| | Load Last File On Start | Load last loaded file on start |"));
+}
+
+TEST(KeyPage, TellsEveryCommandOfEveryMenu) {
+  for (const TCCommand& command : Commands()) {
+    if (command.menu == TCMenuPlace::None) continue;
+    const std::u16string name = WithoutMnemonic(MenuTextWithoutHint(command.menuText));
+    std::string told(name.begin(), name.end());
+    while (told.ends_with(' ')) told.pop_back();
+    if (command.menu == TCMenuPlace::ViewToolbars) told = "Toolbars > " + told;
+    EXPECT_NE(KeyPage().find("| " + told + " |"), std::string::npos) << told;
+  }
 }
 
 TEST(KeyPage, PutsTheKeyboardsVolumeKeysWithTheOthers) {

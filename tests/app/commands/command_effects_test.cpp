@@ -9,6 +9,8 @@
 #include <QWhatsThis>
 #include <algorithm>
 #include <array>
+#include <ostream>
+#include <string>
 
 #include "app/dialog_answer.h"
 #include "app/whole_program.h"
@@ -149,6 +151,12 @@ using Program = CommandEffects;
 struct TCEffect {
   Id command;
   void (*expect)(Program& program);  // with the document open and nothing playing
+
+  // The list of tests shows which command a row is for.
+  friend void PrintTo(const TCEffect& effect, std::ostream* out) {
+    const std::u16string_view text = StatusLine(*CommandById(effect.command));
+    *out << static_cast<int>(effect.command) << ' ' << std::string(text.begin(), text.end());
+  }
 };
 
 const std::array kEffects = {
