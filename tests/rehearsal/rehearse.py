@@ -75,6 +75,7 @@ class Run:
         self.disk_watch = DiskWatch((self.disk,))
         self.judge = Judge(self)
         self.act, self.document_in_danger, self.repeats = "the start", False, False
+        self.stepped_from = None  # the header when a key for another playlist was pressed last
         self.turned, self.broken_until, self.sought_at, self.made, self.heard_right = set(), {}, 0.0, 0, 0
 
     # What acts ask of the run.
@@ -153,6 +154,10 @@ class Run:
     def rows_are_one_playlist(self, look):
         """No other playlist bears its name, as far as the document tells."""
         return look.playlist().startswith("Set ")
+
+    def may_be_in_an_empty_playlist(self, look):
+        """The rows of the last one stay on the screen there, and nothing can be started by Enter."""
+        return self.made > 0 and look.header == self.stepped_from
 
     def title_of_a_prompt(self):
         title = wait_for("a prompt", lambda: next(iter(self.window.look().asking), None))
