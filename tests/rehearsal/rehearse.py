@@ -248,7 +248,8 @@ class Run:
 
 def main():
     # Whoever ends it early gets its figures all the same; in the background a shell would have it ignore this.
-    signal.signal(signal.SIGINT, signal.default_int_handler)
+    for early in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(early, signal.default_int_handler)
     binary, watchdog, drag_source, folder = (pathlib.Path(argument).resolve() for argument in sys.argv[1:5])
     run = Run(binary, watchdog, drag_source, folder, float(sys.argv[5]), int(sys.argv[6]))
     try:
