@@ -11,6 +11,7 @@ from rig.waiting import wait_for
 import acts
 import editing
 import material as songs_of
+from judge import AUDIBLE
 
 OTHER_PROGRAM = (1200, 40)
 
@@ -29,7 +30,7 @@ def plays_again(run):
     for _ in range(4):
         look = run.judge.look()
         song = run.material.song(look.green_song() or "")
-        if song is not None and song.path.exists() and look.song is not None and look.volume >= 15 and run.immediate_play:
+        if song is not None and song.path.exists() and look.song is not None and look.volume >= AUDIBLE and run.immediate_play:
             break
         acts.sets_the_options_right(run)
         run.do(acts.steps_a_song)

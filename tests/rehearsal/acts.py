@@ -41,6 +41,7 @@ def steps_a_song(run):
 
 
 def steps_a_playlist(run):
+    run.stepped_from = run.window.look().header
     run.journal.press(*[run.chance.choice(("Right", "r", "Left", "l", "Right"))] * run.chance.choice((1, 1, 2, 4)))
 
 
@@ -52,7 +53,7 @@ def seeks(run):
 def turns_the_volume(run):
     look = run.judge.look()
     # Not so low for long that nothing can be told from what is heard.
-    key = "F9" if look.volume < 40 else run.chance.choice(("F8", "F9"))
+    key = "F9" if look.volume < 60 else run.chance.choice(("F8", "F9"))
     run.journal.press(*[key] * run.chance.choice((1, 2, 4)))
 
 
@@ -134,7 +135,8 @@ def holds_a_key(run):
     else:
         screen.hold(letter, lambda: time.sleep(seconds))
     if key == "F8":
-        run.journal.press(*["F9"] * 12)
+        with screen.held("F9"):
+            time.sleep(4)
 
 
 def turns_an_option(run):

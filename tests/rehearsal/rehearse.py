@@ -75,6 +75,7 @@ class Run:
         self.disk_watch = DiskWatch((self.disk,))
         self.judge = Judge(self)
         self.act, self.document_in_danger, self.repeats = "the start", False, False
+        self.stepped_from = None  # the header when a key for another playlist was pressed last
         self.turned, self.broken_until, self.sought_at, self.made, self.heard_right = set(), {}, 0.0, 0, 0
 
     # What acts ask of the run.
@@ -153,6 +154,10 @@ class Run:
     def rows_are_one_playlist(self, look):
         """No other playlist bears its name, as far as the document tells."""
         return look.playlist().startswith("Set ")
+
+    def may_be_in_an_empty_playlist(self, look):
+        """The rows of the last one stay on the screen there, and nothing can be started by Enter."""
+        return self.made > 0 and look.header == self.stepped_from
 
     def title_of_a_prompt(self):
         title = wait_for("a prompt", lambda: next(iter(self.window.look().asking), None))
@@ -243,7 +248,8 @@ class Run:
 
 def main():
     # Whoever ends it early gets its figures all the same; in the background a shell would have it ignore this.
-    signal.signal(signal.SIGINT, signal.default_int_handler)
+    for early in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(early, signal.default_int_handler)
     binary, watchdog, drag_source, folder = (pathlib.Path(argument).resolve() for argument in sys.argv[1:5])
     run = Run(binary, watchdog, drag_source, folder, float(sys.argv[5]), int(sys.argv[6]))
     try:

@@ -21,6 +21,8 @@ TCGuideBrowser::TCGuideBrowser(QWidget* parent) : QTextBrowser(parent) {
   // Told of every page, of one that was gone back to as well, before its place is found again.
   connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
     DressPage();
+    if (pageComesIn) QTextCursor(document()).endEditBlock();
+    pageComesIn = false;
     if (url.hasFragment()) scrollToAnchor(url.fragment());
   });
 }
@@ -72,6 +74,16 @@ void TCGuideBrowser::changeEvent(QEvent* event) {
 void TCGuideBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType /*type*/) {
   // Links come without a type, and the toolkit would look it up in the desktop's table of file types.
   if (url.scheme() == QLatin1String("qrc")) QTextBrowser::doSetSource(url, QTextDocument::MarkdownResource);
+}
+
+// The toolkit puts a page into the document that is on the screen bit by bit, and would lay out what is there
+// of it after each: a page of tables would keep the stage waiting for half a second.
+QVariant TCGuideBrowser::loadResource(int type, const QUrl& name) {
+  if (type == QTextDocument::MarkdownResource && !pageComesIn) {
+    pageComesIn = true;
+    QTextCursor(document()).beginEditBlock();
+  }
+  return QTextBrowser::loadResource(type, name);
 }
 
 void TCGuideBrowser::DressPage() {

@@ -32,9 +32,12 @@ class TCGuideBrowser final : public QTextBrowser {
   [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
   void changeEvent(QEvent* event) override;
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+  QVariant loadResource(int type, const QUrl& name) override;
 
  private:
   void DressPage();
+
+  bool pageComesIn = false;  // one edit of the document, from the reading of a page to its dress
 };
 
 }  // namespace brevant

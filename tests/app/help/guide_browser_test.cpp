@@ -66,6 +66,23 @@ TEST(GuidePicture, HasAsManyPixelsAsTheScreenShowsOfIt) {
   EXPECT_EQ(plain.height(), plain.width() * 1000 / 1600);
 }
 
+// Each change of a document that is shown has it laid out anew.
+TEST_F(GuideBrowser, APageComesInAsOneChangeHoweverManyBlocksItHas) {
+  browser.Open(QStringLiteral("panes.md"));
+  QSignalSpy changes(browser.document(), &QTextDocument::contentsChange);
+  browser.Open(QStringLiteral("keys.md"));
+  ASSERT_GT(browser.document()->blockCount(), 100);
+  EXPECT_LE(changes.count(), 2);  // the old page goes, the new one comes
+  changes.clear();
+  browser.backward();
+  EXPECT_LE(changes.count(), 2);
+  changes.clear();
+  browser.Open(QStringLiteral("no such page.md"));
+  browser.Open(QStringLiteral("options.md"));
+  EXPECT_LE(changes.count(), 4);
+  EXPECT_EQ(browser.Title(), QStringLiteral("Options"));
+}
+
 TEST_F(GuideBrowser, OpensAPageAtAHeading) {
   browser.Open(QStringLiteral("panes.md#the-player"));
   EXPECT_GT(Place(), 0);
