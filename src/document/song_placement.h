@@ -47,7 +47,7 @@ class TCSongPlacement {
   TCEditParts parts;
   TCSetListEditor& editor;
   std::u16string copyText;
-  std::u16string pendingText;
+  std::u16string pendingText;  // what was pasted; the click places the files alone
   std::vector<std::u16string> pendingFiles;
   bool pending = false;
 };
