@@ -59,7 +59,13 @@ bool TCGuideBrowser::Find(const QString& text, TCDirection direction, TCFrom fro
   return true;
 }
 
+// The toolkit puts a page into the document that is on the screen bit by bit, and would lay out what is there
+// of it after each: a page of tables would keep the stage waiting for half a second.
 QVariant TCGuideBrowser::loadResource(int type, const QUrl& name) {
+  if (type == QTextDocument::MarkdownResource && !pageComesIn) {
+    pageComesIn = true;
+    QTextCursor(document()).beginEditBlock();
+  }
   const QVariant found = QTextBrowser::loadResource(type, name);
   if (type != QTextDocument::ImageResource) return found;
   const QImage whole = QImage::fromData(found.toByteArray());
@@ -74,16 +80,6 @@ void TCGuideBrowser::changeEvent(QEvent* event) {
 void TCGuideBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType /*type*/) {
   // Links come without a type, and the toolkit would look it up in the desktop's table of file types.
   if (url.scheme() == QLatin1String("qrc")) QTextBrowser::doSetSource(url, QTextDocument::MarkdownResource);
-}
-
-// The toolkit puts a page into the document that is on the screen bit by bit, and would lay out what is there
-// of it after each: a page of tables would keep the stage waiting for half a second.
-QVariant TCGuideBrowser::loadResource(int type, const QUrl& name) {
-  if (type == QTextDocument::MarkdownResource && !pageComesIn) {
-    pageComesIn = true;
-    QTextCursor(document()).beginEditBlock();
-  }
-  return QTextBrowser::loadResource(type, name);
 }
 
 void TCGuideBrowser::DressPage() {

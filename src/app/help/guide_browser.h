@@ -32,7 +32,6 @@ class TCGuideBrowser final : public QTextBrowser {
   [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
   void changeEvent(QEvent* event) override;
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
-  QVariant loadResource(int type, const QUrl& name) override;
 
  private:
   void DressPage();
