@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "resources/command_table.h"
+
 namespace brevant {
 namespace {
 
