@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 #include "app/help/guide_pages_of.h"
+#include "resources/command_table.h"
 
 namespace brevant {
 namespace {
