@@ -29,7 +29,7 @@ def makes_a_group(run):
 
 
 def makes_a_playlist(run):
-    run.journal.press("F2")
+    run.journal.press("F2", "Down")  # a playlist comes behind a selected entry
     run.journal.press("ctrl+l")
     answers_a_name(run, SET_PROMPT)
     run.journal.press("F3")

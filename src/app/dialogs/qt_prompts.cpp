@@ -51,7 +51,11 @@ int TCQtPrompts::Run(QDialog& dialog) {
   if (!MayAsk()) return QDialog::Rejected;
   const QScopedValueRollback<QDialog*> now(open, &dialog);
   dialog.setWindowModality(Qt::WindowModal);
-  return dialog.exec();
+  const int answer = dialog.exec();
+  // Where a question closes together with the dialog that asked it, a busy window manager gives the keys to
+  // the dialog that is gone, which leaves them with nobody.
+  dialog.parentWidget()->activateWindow();
+  return answer;
 }
 
 std::optional<std::u16string> TCQtPrompts::EnterText(const TCTextPrompt& prompt) {

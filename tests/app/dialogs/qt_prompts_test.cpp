@@ -120,6 +120,18 @@ TEST_F(QtPrompts, AnEmptyTextIsAnAnswerTooAndACancelledPromptIsNone) {
   EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"How many", u"", u"5"}), std::nullopt);
 }
 
+TEST_F(QtPrompts, TheKeysComeBackToTheWindowThatAskedWhoeverHasThemBehindTheDialog) {
+  frame.show();
+  QWidget another;
+  another.show();
+  const TCDialogAnswer<QFileDialog> answer([&another](QFileDialog& dialog) {
+    QObject::connect(&dialog, &QDialog::finished, &another, [&another] { another.activateWindow(); });
+    dialog.reject();
+  });
+  EXPECT_EQ(prompts.ChooseDocumentToOpen(), std::nullopt);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return frame.isActiveWindow(); }, 2000));
+}
+
 TEST_F(QtPrompts, NoQuestionOpensOverAnother) {
   const TCDialogAnswer<QDialog> answer([this](QDialog& dialog) {
     EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"Another", u"", u""}), std::nullopt);
