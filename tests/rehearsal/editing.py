@@ -252,7 +252,7 @@ def makes_a_new_document(run):
 def looks_at_properties(run):
     look = run.judge.look()
     place = run.place_of_row(run.chance.randrange(len(look.rows))) if look.rows else None
-    if place is None:
+    if place is None or run.may_be_in_an_empty_playlist(look):
         return
     run.click("a row", *place)
     run.journal.press("q")
