@@ -78,6 +78,10 @@ void TCMainFrame::ConnectViews() {
 
 void TCMainFrame::DressViews() {
   view->SetRowPicture(PictureIcon(kRowIcon));
+  playerPane->SetIcons({.play = PictureIcon(IconName(TCCommandId::Play)),
+                        .pause = PictureIcon(IconName(TCCommandId::PauseContinue)),
+                        .stop = PictureIcon(IconName(TCCommandId::Stop)),
+                        .volume = PictureIcon(kVolumeIcon)});
   TCSetListTreeModel::TCPictures pictures;
   std::ranges::transform(kTreeIcons, pictures.begin(), PictureIcon);
   tree->SetPictures(pictures);

@@ -1,7 +1,6 @@
-// The pictures on the player pane's controls.
+// The pictures on the player pane's controls. They draw themselves in the colours of the moment.
 #pragma once
 
-#include <QColor>
 #include <QIcon>
 
 namespace brevant {
@@ -12,8 +11,5 @@ struct TCPlayerIcons {
   QIcon stop;
   QIcon volume;
 };
-
-// Plain shapes in one colour, so that they can be seen on any background.
-[[nodiscard]] TCPlayerIcons DrawnPlayerIcons(const QColor& colour);
 
 }  // namespace brevant

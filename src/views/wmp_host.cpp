@@ -20,8 +20,8 @@ namespace {
 constexpr int kPollPeriod = 100;        // milliseconds
 constexpr double kTenths = 10.0;        // the seek slider's steps in a second
 constexpr double kLongestSong = 1.0e6;  // seconds; a broken header may claim anything
-constexpr int kButtonIcon = 20;
-constexpr int kVolumeIcon = 16;
+constexpr int kButtonIconSide = 20;
+constexpr int kVolumeIconSide = 16;
 
 constexpr TCRgb kNoticeOnDark = 0xFFBF00;
 constexpr TCRgb kNoticeOnLight = 0x9A3B00;
@@ -147,7 +147,7 @@ void CWMPHost::Build() {
     button.setWhatsThis(says);
     button.setAutoRaise(true);
     button.setFocusPolicy(Qt::NoFocus);
-    button.setIconSize({kButtonIcon, kButtonIcon});
+    button.setIconSize({kButtonIconSide, kButtonIconSide});
   };
   describe(playButton, QStringLiteral("Play"), QStringLiteral("Play"),
            QStringLiteral("Plays the green song from its beginning."));
@@ -186,18 +186,20 @@ void CWMPHost::Build() {
 }
 
 void CWMPHost::FollowPalette() {
-  ShowIcons(DrawnPlayerIcons(palette().color(QPalette::ButtonText)));
+  // A label keeps what was drawn; the buttons draw anew by themselves.
+  volumeLabel.setPixmap(volumeIcon.pixmap(QSize(kVolumeIconSide, kVolumeIconSide), devicePixelRatioF()));
   const bool dark = palette().color(QPalette::Window).lightness() < 128;
   QPalette noticeColours = noticeLabel.palette();
   noticeColours.setColor(QPalette::WindowText, ToQColor(dark ? kNoticeOnDark : kNoticeOnLight));
   noticeLabel.setPalette(noticeColours);
 }
 
-void CWMPHost::ShowIcons(const TCPlayerIcons& icons) {
-  playButton.setIcon(icons.play);
-  pauseButton.setIcon(icons.pause);
-  stopButton.setIcon(icons.stop);
-  volumeLabel.setPixmap(icons.volume.pixmap(QSize(kVolumeIcon, kVolumeIcon), devicePixelRatioF()));
+void CWMPHost::SetIcons(const TCPlayerIcons& playerIcons) {
+  playButton.setIcon(playerIcons.play);
+  pauseButton.setIcon(playerIcons.pause);
+  stopButton.setIcon(playerIcons.stop);
+  volumeIcon = playerIcons.volume;
+  FollowPalette();
 }
 
 void CWMPHost::ShowSong(const TCPlayerSnapshot& snapshot) {

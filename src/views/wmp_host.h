@@ -24,6 +24,8 @@ class CWMPHost final : public QWidget {
   // Either may be null: the controls are disabled then. Both outlive this.
   CWMPHost(TCPlayer* player, const TCPlayerMonitor* monitor, QWidget* parent = nullptr);
 
+  void SetIcons(const TCPlayerIcons& playerIcons);
+
   // Shows what the monitor says now.
   void Refresh();
 
@@ -41,7 +43,6 @@ class CWMPHost final : public QWidget {
  private:
   void Build();
   void FollowPalette();
-  void ShowIcons(const TCPlayerIcons& icons);
   void ShowSong(const TCPlayerSnapshot& snapshot);
   void ShowTimes(const TCPlayerSnapshot& snapshot);
   void ShowVolume(const TCPlayerSnapshot& snapshot);
@@ -64,6 +65,7 @@ class CWMPHost final : public QWidget {
   TCJumpSlider volumeSlider{TCWheel::Moves};
   QLabel volumeValueLabel;
 
+  QIcon volumeIcon;
   std::u16string shownUrl;
   TCHeldValue heldPosition{1.0};  // seconds
   TCHeldValue heldVolume{0.5};

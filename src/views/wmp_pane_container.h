@@ -5,6 +5,7 @@
 
 #include "playback/player.h"
 #include "playback/player_monitor.h"
+#include "views/player_icons.h"
 #include "views/wmp_host.h"
 
 namespace brevant {
@@ -15,6 +16,8 @@ class TCWMPPaneContainer final : public QWidget {
  public:
   // Either may be null: the controls are disabled then. Both outlive the pane.
   TCWMPPaneContainer(TCPlayer* player, const TCPlayerMonitor* monitor, QWidget* parent = nullptr);
+
+  void SetIcons(const TCPlayerIcons& icons) { host.SetIcons(icons); }
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;

@@ -3,14 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
+#include <QToolButton>
 #include <limits>
 
+#include "app/look/picture_icon.h"
 #include "app/look/stage_palette.h"
+#include "resources/icons/icon_names.h"
 #include "support/fake_player.h"
 
 namespace brevant {
@@ -267,6 +271,47 @@ TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
     EXPECT_EQ(frame.Tree().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.Properties().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.Tree().palette().color(QPalette::Text), ToColour(settings.textColour));
+  }
+}
+
+// The colour that a picture is drawn in: that of its most solid pixel.
+QColor InkOf(const QImage& picture) {
+  QColor ink;
+  ink.setAlpha(0);
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.pixelColor(x, y).alpha() > ink.alpha()) ink = picture.pixelColor(x, y);
+    }
+  }
+  return ink;
+}
+
+TEST_F(MainFrame, ThePlayersPicturesAreThoseOfItsCommandsInTheColourOfTheMoment) {
+  frame.show();
+  const QSize size(20, 20);
+  const auto pictureOf = [&](const char* name) {
+    for (const auto* button : frame.PlayerPane().findChildren<QToolButton*>()) {
+      if (button->accessibleName() == QLatin1String(name)) return button->icon().pixmap(size).toImage();
+    }
+    return QImage();
+  };
+  const auto commandsPicture = [&](TCCommandId command) {
+    return PictureIcon(IconName(command)).pixmap(size).toImage();
+  };
+  const auto volumeInk = [&] {
+    for (const auto* label : frame.PlayerPane().findChildren<QLabel*>()) {
+      if (!label->pixmap().isNull()) return InkOf(label->pixmap().toImage());
+    }
+    return QColor();
+  };
+  for (const bool whiteOnBlack : {true, false}) {
+    settings.SetWhiteOnBlack(whiteOnBlack);
+    frame.ShowOptions();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(pictureOf("Play"), commandsPicture(TCCommandId::Play));
+    EXPECT_EQ(pictureOf("Pause"), commandsPicture(TCCommandId::PauseContinue));
+    EXPECT_EQ(pictureOf("Stop"), commandsPicture(TCCommandId::Stop));
+    EXPECT_EQ(volumeInk(), InkOf(commandsPicture(TCCommandId::Stop)));
   }
 }
 

@@ -253,16 +253,24 @@ TEST_F(TCPlayerHostTest, WithoutAPlayerOrItsMonitorTheControlsAreOffAndNothingFa
   }
 }
 
-TEST_F(TCPlayerHostTest, TheButtonsHavePicturesThatFollowThePalette) {
-  auto* play = Control<QToolButton>(host, "Play");
-  const auto middle = [&] { return play->icon().pixmap(QSize(16, 16), 1.0).toImage().pixelColor(7, 8); };
-  QPalette colours = host.palette();
-  colours.setColor(QPalette::ButtonText, Qt::white);
-  host.setPalette(colours);
-  EXPECT_EQ(middle(), QColor(Qt::white));
-  colours.setColor(QPalette::ButtonText, Qt::black);
-  host.setPalette(colours);
-  EXPECT_EQ(middle(), QColor(Qt::black));
+TEST_F(TCPlayerHostTest, EveryControlHasThePictureThatIsGivenForIt) {
+  const auto filled = [](Qt::GlobalColor colour) {
+    QPixmap picture(16, 16);
+    picture.fill(colour);
+    return QIcon(picture);
+  };
+  host.SetIcons({filled(Qt::red), filled(Qt::green), filled(Qt::blue), filled(Qt::yellow)});
+  const auto colourOf = [](const QIcon& icon) { return icon.pixmap(16, 16).toImage().pixelColor(8, 8); };
+  EXPECT_EQ(colourOf(Control<QToolButton>(host, "Play")->icon()), QColor(Qt::red));
+  EXPECT_EQ(colourOf(Control<QToolButton>(host, "Pause")->icon()), QColor(Qt::green));
+  EXPECT_EQ(colourOf(Control<QToolButton>(host, "Stop")->icon()), QColor(Qt::blue));
+  int pictures = 0;
+  for (const QLabel* label : host.findChildren<QLabel*>()) {
+    if (label->pixmap().isNull()) continue;
+    ++pictures;
+    EXPECT_EQ(label->pixmap().toImage().pixelColor(8, 8), QColor(Qt::yellow));
+  }
+  EXPECT_EQ(pictures, 1);
 }
 
 TEST_F(TCPlayerHostTest, FollowsARealRunOfThePlayer) {

@@ -27,6 +27,9 @@ inline constexpr std::string_view kBarMoreIcon = "bar_more";
 inline constexpr std::string_view kPaneFloatIcon = "pane_float";
 inline constexpr std::string_view kPaneCloseIcon = "pane_close";
 
+// Beside the volume in the player pane, 24 x 24. Its buttons have the pictures of their commands.
+inline constexpr std::string_view kVolumeIcon = "volume";
+
 // The tree's pictures, 23 x 19, by image number: group, playlist and song, each plain and then selected.
 inline constexpr std::string_view kTreeIcons[] = {"tree_group",    "tree_group_selected",
                                                   "tree_playlist", "tree_playlist_selected",
