@@ -47,9 +47,15 @@ def plays_again(run):
             run.judge.fail("the show does not go on", str(failure))
 
 
+def songs_that_are_there(run, look):
+    """Of the playlist that is shown; each once, though it may stand there twice."""
+    songs = dict.fromkeys(run.material.song(name) for name in look.rows)
+    return [song for song in songs if song is not None and song.path.exists()]
+
+
 def songs_disappear(run):
     look = run.judge.look()
-    taken = [song for song in map(run.material.song, look.rows) if song is not None and song.path.exists()]
+    taken = songs_that_are_there(run, look)
     taken = run.chance.sample(taken, min(len(taken), run.chance.choice((1, 3, 99))))
     run.journal.accident("songs removed", f"{len(taken)} of the playlist that is shown")
     for song in taken:
@@ -64,7 +70,7 @@ def songs_disappear(run):
 
 def permissions_go(run):
     look = run.judge.look()
-    taken = [song for song in map(run.material.song, look.rows) if song is not None and song.path.exists()]
+    taken = songs_that_are_there(run, look)
     run.journal.accident("permissions gone", f"of {len(taken)} songs and of the document")
     folder = run.chance.random() < 0.4
     with run.document_unsure():

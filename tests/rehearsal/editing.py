@@ -193,12 +193,13 @@ def saves_under_another_name(run):
 
 def opens_again(run, path=None):
     """From the disk. The rows are those of a playlist of the file afterwards, and the title is its name."""
+    changes_its_mind = path is None and run.chance.random() < 0.1
     path = path or run.chance.choice(sorted(run.documents.glob("*.brv")) or [run.document])
     if not path.exists():
         return
     run.journal.press("ctrl+o")
     run.stage.wait_for_dialog("Open")
-    if run.chance.random() < 0.1:
+    if changes_its_mind:
         run.journal.press("Escape")
         run.stage.wait_for_the_keys()
         return
