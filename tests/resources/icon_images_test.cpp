@@ -15,9 +15,9 @@ namespace brevant {
 namespace {
 
 std::vector<std::string_view> AllNames() {
-  std::vector<std::string_view> names = {kRowIcon,       kBarMoreIcon,   kPaneFloatIcon,
-                                         kPaneCloseIcon, kPressedCursor, kRowCursor,
-                                         kDragCursor,    kBusyCursor,    kProgramIcon};
+  std::vector<std::string_view> names = {kRowIcon,    kBarMoreIcon,   kPaneFloatIcon, kPaneCloseIcon,
+                                         kVolumeIcon, kPressedCursor, kRowCursor,     kDragCursor,
+                                         kBusyCursor, kProgramIcon};
   names.insert(names.end(), std::begin(kTreeIcons), std::end(kTreeIcons));
   for (const TCCommand& command : Commands()) {
     if (!IconName(command.id).empty()) names.push_back(IconName(command.id));

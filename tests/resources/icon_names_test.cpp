@@ -26,10 +26,11 @@ std::string ReadFile(const fs::path& path) {
 }
 
 std::set<std::string> NamesInUse() {
-  std::set<std::string> names = {
-      std::string(kRowIcon),       std::string(kBarMoreIcon),   std::string(kPaneFloatIcon),
-      std::string(kPaneCloseIcon), std::string(kPressedCursor), std::string(kRowCursor),
-      std::string(kDragCursor),    std::string(kBusyCursor),    std::string(kProgramIcon)};
+  std::set<std::string> names = {std::string(kRowIcon),       std::string(kBarMoreIcon),
+                                 std::string(kPaneFloatIcon), std::string(kPaneCloseIcon),
+                                 std::string(kVolumeIcon),    std::string(kPressedCursor),
+                                 std::string(kRowCursor),     std::string(kDragCursor),
+                                 std::string(kBusyCursor),    std::string(kProgramIcon)};
   for (const std::string_view name : kTreeIcons) names.emplace(name);
   for (const TCCommand& command : Commands()) {
     const std::string_view name = IconName(command.id);
