@@ -17,6 +17,7 @@ class Judge:
         self.run = run
         self.before = None  # the last look
         self.claimed_until = 0.0  # a start was asked for: until then another song may begin
+        self.claimed_at = 0.0
         self.claimed = None  # the song that was asked for, until it is seen
         self.reported = None  # the song whose failure was told already
         self.loading_since = None
@@ -25,7 +26,8 @@ class Judge:
         self.still = None  # (song, elapsed, since) of a song that plays
 
     def claim(self, seconds=4.0):
-        self.claimed_until = time.time() + seconds
+        self.claimed_at = time.time()
+        self.claimed_until = self.claimed_at + seconds
 
     def fail(self, kind, sentence, picture=True):
         self.run.journal.fail(kind, f"{sentence} -- {self.before}", picture)
@@ -104,7 +106,8 @@ class Judge:
         self.run.journal.line("song", f"{before.song} -> {look.song}")
         if time.time() < self.claimed_until:
             return
-        if look.song == self.claimed:
+        # The song that was asked for may have begun, and a short one ended, between the two looks.
+        if look.song == self.claimed or self.claimed_at >= before.at:
             self.claimed = None
             return
         gone_by = look.at - before.at
