@@ -147,7 +147,12 @@ class Run:
         return sorted(name for name in set(names) if names.count(name) == 1)
 
     def select_in_tree(self, name):
-        self.click(f"{name!r} in the tree", *self.manager.label(name))
+        """False when the tree is just being scrolled, to a song that starts for one."""
+        place = self.manager.label(name)
+        time.sleep(0.3)
+        if self.manager.label(name) != place:
+            return False
+        self.click(f"{name!r} in the tree", *place)
         self.manager.wait_for_selected(name)
         return True
 
