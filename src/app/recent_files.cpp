@@ -20,6 +20,7 @@ bool IsDocument(std::u16string_view path) {
 }  // namespace
 
 TCRecentFiles::TCRecentFiles(QSettings& layoutStore) : layout(layoutStore) {
+  writer.setMaxThreadCount(1);
   // Oldest first: each goes before those that are there.
   for (std::size_t place = kRecentFiles; place > 0; --place) {
     const std::u16string path = FromQString(layout.value(KeyOf(place - 1)).toString());
@@ -43,14 +44,18 @@ void TCRecentFiles::Enter(std::u16string_view path) {
 }
 
 void TCRecentFiles::Write() {
-  for (std::size_t place = 0; place < kRecentFiles; ++place) {
-    if (place < paths.size()) {
-      layout.setValue(KeyOf(place), ToQString(paths[place]));
-    } else {
-      layout.remove(KeyOf(place));
+  // What one object knows of the file, the others of this program know at once, on every thread.
+  writer.start([file = layout.fileName(), list = paths] {
+    QSettings written(file, QSettings::IniFormat);
+    for (std::size_t place = 0; place < kRecentFiles; ++place) {
+      if (place < list.size()) {
+        written.setValue(KeyOf(place), ToQString(list[place]));
+      } else {
+        written.remove(KeyOf(place));
+      }
     }
-  }
-  layout.sync();
+    written.sync();
+  });
 }
 
 }  // namespace brevant

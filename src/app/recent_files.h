@@ -1,10 +1,12 @@
 // The documents used last, newest first, kept in the layout file's section "Recent File List" as "File1" to
-// "File8". Written as soon as it changes, so that a killed program has lost none. TCRecentFileMenu shows it.
+// "File8". Written as soon as it changes, so that a killed program has lost none, and on a thread of its own:
+// a loaded disk takes longer than the window may stand still. TCRecentFileMenu shows it.
 // User-interface thread only.
 #pragma once
 
 #include <QObject>
 #include <QSettings>
+#include <QThreadPool>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,9 @@ class TCRecentFiles final : public QObject, public TCRecentFileList {
   // Model paths. None is there twice, also not in other upper and lower case.
   [[nodiscard]] const std::vector<std::u16string>& Paths() const { return paths; }
 
+  // Returns when the list as it is now is on the disk.
+  void WaitUntilWritten() { writer.waitForDone(); }
+
   // TCRecentFileList
   void AddToRecentFileList(std::u16string_view path) override;
 
@@ -37,6 +42,7 @@ class TCRecentFiles final : public QObject, public TCRecentFileList {
 
   QSettings& layout;
   std::vector<std::u16string> paths;
+  QThreadPool writer;  // of one thread, so that the newest list is written last; its end waits for it
 };
 
 }  // namespace brevant

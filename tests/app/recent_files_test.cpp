@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QLockFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -68,6 +69,7 @@ TEST_F(RecentFiles, OnlyDocumentsAreEntered) {
 TEST_F(RecentFiles, TheListIsOnTheDiskAsSoonAsItChanges) {
   files.AddToRecentFileList(u"\\a\\one.brv");
   files.AddToRecentFileList(u"C:\\D\u00E4nce, 100%;\\\u6B4C \"=@.brv");
+  files.WaitUntilWritten();
   // Another name: the toolkit knows what is about to be written under the file's own.
   const QString copy = folder.filePath(QStringLiteral("Copy.ini"));
   ASSERT_TRUE(QFile::copy(File(), copy));
@@ -75,6 +77,18 @@ TEST_F(RecentFiles, TheListIsOnTheDiskAsSoonAsItChanges) {
   EXPECT_EQ(read.value(QStringLiteral("Recent File List/File2")).toString(), QStringLiteral("\\a\\one.brv"));
   EXPECT_FALSE(read.contains(QStringLiteral("Recent File List/File3")));
   EXPECT_EQ(TCRecentFiles(read).Paths(), files.Paths());
+}
+
+TEST_F(RecentFiles, NobodyWaitsForTheDisk) {
+  layout.sync();
+  QLockFile held(File() + QStringLiteral(".lock"));  // as somebody who is writing the file has it
+  ASSERT_TRUE(held.tryLock());
+  files.AddToRecentFileList(u"\\a\\one.brv");
+  files.AddToRecentFileList(u"\\a\\two.brv");
+  EXPECT_FALSE(QFile::exists(File()));
+  held.unlock();
+  files.WaitUntilWritten();
+  EXPECT_THAT(TCRecentFiles(layout).Paths(), ElementsAre(u"\\a\\two.brv", u"\\a\\one.brv"));
 }
 
 TEST_F(RecentFiles, WhatCannotBeInTheListIsLeftOut) {
@@ -88,6 +102,7 @@ TEST_F(RecentFiles, WhatCannotBeInTheListIsLeftOut) {
   TCRecentFiles read(layout);
   EXPECT_THAT(read.Paths(), ElementsAre(u"\\a\\one.brv", u"\\a\\seven.brv"));
   read.AddToRecentFileList(u"\\a\\new.brv");
+  read.WaitUntilWritten();
   for (int place = 4; place <= 8; ++place)
     EXPECT_FALSE(layout.contains(QStringLiteral("Recent File List/File%1").arg(place))) << place;
 }
