@@ -110,7 +110,8 @@ int Measure(const std::u16string& path) {
     floor.Add(floorSpent);
     open.Add(openSpent);
     ratio.Add({openSpent.wall / floorSpent.wall, openSpent.processor / floorSpent.processor});
-    save.Add(Spent([&] { (void)opened.file.SaveSetListDocument(path + u".saved.brv"); }));
+    save.Add(Spent(
+        [&] { (void)SaveSetListDocument(opened.files, path + u".saved.brv", opened.file.FlatLines()); }));
     opened.files.DeleteFile(path + u".saved.brv");
   }
   std::printf("medians of %d              clock  processor\n", kRepetitions);

@@ -20,6 +20,7 @@ TCCloseGuard::TCCloseGuard(TCMainFrame& mainFrame, QSettings& layoutStore, const
 void TCCloseGuard::EndSession() {
   WriteSettings();
   doc.KeepUnsavedChanges();
+  doc.FinishSaves();
 }
 
 void TCCloseGuard::WriteSettings() {
@@ -53,6 +54,7 @@ bool TCCloseGuard::OnClose() {
   if (!doc.SaveModified()) return false;
   // Saved under another name while it closed: the next start is to open that one.
   if (DocumentPath(record.setLists) != writtenPath) settingsFile.SaveSettings(record);
+  doc.FinishSaves();
   return true;
 }
 

@@ -5,7 +5,6 @@
 #include "document/add_play_items.h"
 #include "document/option_commands.h"
 #include "document/option_prompts.h"
-#include "document/recovery_copy.h"
 #include "document/song_properties.h"
 #include "text/case_folding.h"
 #include "text/numbers.h"
@@ -16,6 +15,7 @@ namespace brevant {
 TCBrevantDoc::TCBrevantDoc(TCDocumentParts documentParts)
     : parts(std::move(documentParts)),
       documentFile(parts.files, parts.record.setLists, parts.messages),
+      saver(parts.files, parts.folders.recovery),
       properties(parts.record, parts.folders, parts.playlistView, parts.properties),
       presenter(parts.record, parts.playlistView, parts.treeView, [this] { RefreshProperties(); }),
       tree(parts.record.setLists, parts.treeView),
@@ -45,6 +45,7 @@ bool TCBrevantDoc::OnNewDocument() {
 bool TCBrevantDoc::OnOpenDocument(std::u16string_view path) {
   pathName = path;
   modified = false;
+  saver.WaitFor(pathName);
   ClearViewsAndStore();
   if (documentFile.OpenSetListDocument(pathName)) {
     tree.BuildAll();
@@ -57,19 +58,14 @@ bool TCBrevantDoc::OnOpenDocument(std::u16string_view path) {
 }
 
 bool TCBrevantDoc::OnSaveDocument(std::u16string_view path) {
-  if (!documentFile.SaveSetListDocument(path)) KeepRecoveryCopy(path);
+  saver.Save(path, documentFile.PrepareSave(path));
   modified = false;
   ShowTitle();
   return true;
 }
 
-void TCBrevantDoc::KeepRecoveryCopy(std::u16string_view path) {
-  const TextLines lines = documentFile.FlatLines();
-  if (!lines.empty()) WriteRecoveryCopy(parts.files, parts.folders.recovery, FileNamePart(path), lines);
-}
-
 void TCBrevantDoc::KeepUnsavedChanges() {
-  if (modified) KeepRecoveryCopy(pathName);
+  if (modified) saver.KeepRecoveryCopy(pathName, documentFile.FlatLines());
 }
 
 void TCBrevantDoc::ClearViewsAndStore() {
@@ -86,7 +82,8 @@ void TCBrevantDoc::ShowBanner() {
 }
 
 void TCBrevantDoc::ShowTitle() {
-  parts.frame.ShowTitle(FileNamePart(pathName), modified ? TCModifiedMark::Modified : TCModifiedMark::Clean);
+  const bool onDisk = !modified && !IsSaving();
+  parts.frame.ShowTitle(FileNamePart(pathName), onDisk ? TCModifiedMark::Clean : TCModifiedMark::Modified);
   RefreshProperties();
 }
 
@@ -160,6 +157,7 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
 
 void TCBrevantDoc::OnPlayTimerTick() {
   songCheck.TakeLateAnswers();
+  if (saver.TakeEndedSaves()) ShowTitle();
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
   if (measuring) ShowTimeRun();

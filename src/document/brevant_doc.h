@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "document/document_saver.h"
 #include "document/entry_mover.h"
 #include "document/frame_display.h"
 #include "document/playlist_presenter.h"
@@ -49,7 +50,8 @@ class TCBrevantDoc {
   explicit TCBrevantDoc(TCDocumentParts documentParts);
 
   // Each returns true in every case: a file that cannot be read opens as an empty document of that name, and
-  // a failed save is silent (its lines go to the recovery folder).
+  // a failed save is silent (its lines go to the recovery folder). An open takes as long as the disk does; a
+  // save on a slow one goes on by itself, and the title says "modified" until it is done.
   bool OnNewDocument();
   bool OnOpenDocument(std::u16string_view path);
   bool OnSaveDocument(std::u16string_view path);
@@ -63,9 +65,14 @@ class TCBrevantDoc {
   // The session ends and nobody can be asked: unsaved changes go to the recovery folder.
   void KeepUnsavedChanges();
 
+  // The program ends: waits for saves that are under way, see TCDocumentSaver.
+  void FinishSaves() { saver.Finish(); }
+
   // The path as opened or saved; empty for a new document.
   [[nodiscard]] const std::u16string& GetPathName() const { return pathName; }
   [[nodiscard]] bool IsModified() const { return modified; }
+  // What was saved is not on its disk yet.
+  [[nodiscard]] bool IsSaving() const { return saver.IsSaving(pathName); }
   void SetModified();
 
   // Runs a command that is the document's. False when it is not.
@@ -125,7 +132,6 @@ class TCBrevantDoc {
   void ShowBanner();
   // Name and modified mark, in the title and in the properties.
   void ShowTitle();
-  void KeepRecoveryCopy(std::u16string_view path);
   void ToggleOption(TCCommandId command);
   void ChangeOption(TCCommandId command);
   void ShowTimeRun();
@@ -146,6 +152,7 @@ class TCBrevantDoc {
 
   TCDocumentParts parts;
   TCDocumentFile documentFile;
+  TCDocumentSaver saver;
   TCPropertiesPresenter properties;
   TCPlaylistPresenter presenter;
   TCTreePresenter tree;

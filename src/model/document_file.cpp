@@ -95,6 +95,13 @@ void ReadSongFiles(TCFileSystem& files, TCSetListStore& store) {
   }
 }
 
+[[nodiscard]] bool KeepForeignFile(TCFileSystem& files, std::u16string_view path) {
+  if (!files.FileExists(path)) return true;
+  const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
+  if (bytes && IsWholeDocument(*bytes)) return true;
+  return files.CopyFile(path, std::u16string(path) + u'~');
+}
+
 }  // namespace
 
 TCDocumentFile::TCDocumentFile(TCFileSystem& fileSystem, TCSetListStore& setLists,
@@ -169,20 +176,14 @@ TextLines TCDocumentFile::FlatLines() const {
   return lines;
 }
 
-bool TCDocumentFile::SaveSetListDocument(std::u16string_view path) {
+TextLines TCDocumentFile::PrepareSave(std::u16string_view path) {
   SetDocumentPath(path);
   store.documentExtension = ToLower(store.documentExtension);
-  if (store.groups.empty()) return false;
-  const TextLines lines = FlatLines();
-  if (lines.empty()) return false;
-  return KeepForeignFile(path) && WriteTextLines(files, path, lines);
+  return FlatLines();
 }
 
-bool TCDocumentFile::KeepForeignFile(std::u16string_view path) {
-  if (!files.FileExists(path)) return true;
-  const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
-  if (bytes && IsWholeDocument(*bytes)) return true;
-  return files.CopyFile(path, std::u16string(path) + u'~');
+bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines) {
+  return !lines.empty() && KeepForeignFile(files, path) && WriteTextLines(files, path, lines);
 }
 
 bool IsWholeDocument(std::string_view bytes) {

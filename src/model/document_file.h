@@ -25,22 +25,24 @@ class TCDocumentFile {
   // `bytes` are the whole file. Always true: every line is a song.
   bool LoadFlatDocument(std::string_view bytes);
 
-  // Writes the flat form. False when that failed, and also when there is no song to write: the file is then
-  // left as it was. A file that this program could not have read whole is kept beside it as "NAME.brv~"
-  // first.
-  bool SaveSetListDocument(std::u16string_view path);
+  // Makes `path` the document's; what is returned is for SaveSetListDocument.
+  [[nodiscard]] TextLines PrepareSave(std::u16string_view path);
 
   // The lines that a save writes, in the order group, playlist, song.
   [[nodiscard]] TextLines FlatLines() const;
 
  private:
   void SetDocumentPath(std::u16string_view path);
-  [[nodiscard]] bool KeepForeignFile(std::u16string_view path);
 
   TCFileSystem& files;
   TCSetListStore& store;
   TCMessageDisplay& messages;
 };
+
+// Writes the flat form; knows nothing of the set lists, so any thread may do it with a file system of its
+// own. False when that failed, and also when there is no line, which is no song, to write: the file is then
+// left as it was. A file that this program could not have read whole is kept beside it as "NAME.brv~" first.
+[[nodiscard]] bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines);
 
 // True when a document written from what was read says all that `bytes` say: UTF-16, every line ended,
 // nothing but songs. The folder form says more: which group list files, also those that were missing.

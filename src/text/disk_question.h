@@ -28,8 +28,8 @@ template <typename Question>
 }
 
 // Waits for the answer for as long as `patience`; 0 does not wait.
-template <typename Answer>
-[[nodiscard]] bool HasCome(const std::future<Answer>& answer, std::chrono::milliseconds patience) {
+template <typename Future>
+[[nodiscard]] bool HasCome(const Future& answer, std::chrono::milliseconds patience) {
   return answer.wait_for(patience) == std::future_status::ready;
 }
 

@@ -82,6 +82,32 @@ TEST_F(BrevantDocTest, ADocumentWithoutSongsLeavesNoRecoveryCopy) {
   EXPECT_THAT(files.writes, IsEmpty());
 }
 
+TEST_F(BrevantDocTest, ASaveOnADiskThatHangsIsShownAsDoneWhenItIs) {
+  document.OnOpenDocument(kShow);
+  record.setLists.groups[0].playlists[0].items.pop_back();
+  document.SetModified();
+  files.hangs = true;
+  document.OnCommand(TCCommandId::FileSave);
+  EXPECT_FALSE(document.IsModified()) << "nobody is asked to save it once more";
+  EXPECT_EQ(frame.mark, TCModifiedMark::Modified);
+  document.OnPlayTimerTick();
+  EXPECT_EQ(frame.mark, TCModifiedMark::Modified);
+  files.Wake();
+  document.OnPlayTimerTick();
+  EXPECT_EQ(frame.mark, TCModifiedMark::Clean);
+  document.OnOpenDocument(kShow);
+  EXPECT_EQ(view.rows.size(), 1u);
+}
+
+TEST_F(BrevantDocTest, AnotherDocumentIsCleanWhileTheFirstIsStillBeingSaved) {
+  document.OnOpenDocument(kShow);
+  files.hangs = true;
+  document.OnCommand(TCCommandId::FileSave);
+  document.OnNewDocument();
+  EXPECT_EQ(frame.mark, TCModifiedMark::Clean);
+  files.Wake();
+}
+
 TEST_F(BrevantDocTest, OpeningTheOpenFileReadsItFromDiskAgain) {
   document.OpenDocumentFile(kShow);
   files.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\c.mp3\" 01:00\r\n");

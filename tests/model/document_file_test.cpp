@@ -22,6 +22,7 @@ class DocumentFileTest : public testing::Test {
     store.ClearSetLists();
     return document.OpenSetListDocument(kPath);
   }
+  bool Save(std::u16string_view path) { return SaveSetListDocument(files, path, document.PrepareSave(path)); }
 
   TCPlayList& PlaylistOf(std::size_t group, std::size_t playlist) {
     return store.groups[group].playlists[playlist];
@@ -197,7 +198,7 @@ TEST_F(DocumentFileTest, WhatIsSavedIsReadAgainAsItWas) {
       u"\"A\" \"P1\" \"C:\\x.mp3\" 03:00\r\n\"A\" \"P2\" \"y.mp3\" 02:00\r\n\"B\" \"P1\" \"D:\\z.mid\" "
       u"00:00\r\n";
   ASSERT_TRUE(Open(text));
-  ASSERT_TRUE(document.SaveSetListDocument(u"D:\\Docs\\copy.BRV"));
+  ASSERT_TRUE(Save(u"D:\\Docs\\copy.BRV"));
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\copy.BRV"), files.BytesOf(kPath));
   EXPECT_EQ(store.documentFileName, u"copy.BRV");
   EXPECT_EQ(store.documentExtension, u"brv");
@@ -218,7 +219,7 @@ TEST_F(DocumentFileTest, SongsThatAreSavedStandThereAgainAfterTheNextOpen) {
   PlaylistOf(1, 0).items.emplace_back().SetPath(u"\\late.mid");
   PlaylistOf(1, 0).items[0].time = u"01:02:03";
   const TextLines written = document.FlatLines();
-  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  ASSERT_TRUE(Save(kPath));
   EXPECT_EQ(written[0].substr(0, written[0].find(u"\" \"")), written[2].substr(0, written[2].find(u"\" \"")));
 
   store.ClearSetLists();
@@ -234,7 +235,7 @@ TEST_F(DocumentFileTest, SongsThatAreSavedStandThereAgainAfterTheNextOpen) {
 TEST_F(DocumentFileTest, APlaylistWithoutSongsHasNoLine) {
   ASSERT_TRUE(Open(u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n"));
   store.groups[0].playlists.emplace_back().name = u"Empty";
-  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  ASSERT_TRUE(Save(kPath));
   EXPECT_EQ(LinesOf(kPath).size(), 1u);
 }
 
@@ -243,7 +244,7 @@ TEST_F(DocumentFileTest, GroupsWithoutASongLeaveTheFileAsItWas) {
   const auto before = files.BytesOf(kPath);
   store.groups.resize(1);
   store.groups[0].playlists.resize(1);
-  EXPECT_FALSE(document.SaveSetListDocument(kPath));
+  EXPECT_FALSE(Save(kPath));
   EXPECT_EQ(files.BytesOf(kPath), before);
   store.ClearSetLists();
   ASSERT_TRUE(document.OpenSetListDocument(kPath));
@@ -252,7 +253,7 @@ TEST_F(DocumentFileTest, GroupsWithoutASongLeaveTheFileAsItWas) {
 
 TEST_F(DocumentFileTest, AStoreWithoutGroupsLeavesTheFileUntouchedButSetsThePath) {
   files.PutUtf16(kPath, u"kept");
-  EXPECT_FALSE(document.SaveSetListDocument(kPath));
+  EXPECT_FALSE(Save(kPath));
   EXPECT_TRUE(files.writes.empty());
   EXPECT_EQ(store.documentFileName, u"show.brv");
 }
@@ -260,7 +261,7 @@ TEST_F(DocumentFileTest, AStoreWithoutGroupsLeavesTheFileUntouchedButSetsThePath
 TEST_F(DocumentFileTest, AFailedWriteIsAnsweredWithFalse) {
   ASSERT_TRUE(Open(u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n"));
   files.failWrites = true;
-  EXPECT_FALSE(document.SaveSetListDocument(kPath));
+  EXPECT_FALSE(Save(kPath));
 }
 
 TEST_F(DocumentFileTest, AFileThatWasNotReadWholeIsKeptBesideTheNewOne) {
@@ -274,7 +275,7 @@ TEST_F(DocumentFileTest, AFileThatWasNotReadWholeIsKeptBesideTheNewOne) {
     files.Put(kPath, bytes);
     store.ClearSetLists();
     ASSERT_TRUE(document.OpenSetListDocument(kPath));
-    ASSERT_TRUE(document.SaveSetListDocument(kPath));
+    ASSERT_TRUE(Save(kPath));
     EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), bytes);
     EXPECT_NE(files.BytesOf(kPath), bytes);
     files.Remove(u"D:\\Docs\\show.brv~");
@@ -286,7 +287,7 @@ TEST_F(DocumentFileTest, SongsThatWereTakenForGroupListsAreKeptBesideTheNewFile)
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
   ASSERT_TRUE(Open(u"\"X\" \"Y\" \"C:\\brvgl\\a.mp3\" 01:00\r\n1.brvgl\r\n"));
   const auto before = files.BytesOf(kPath);
-  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  ASSERT_TRUE(Save(kPath));
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
 }
 
@@ -294,7 +295,7 @@ TEST_F(DocumentFileTest, AWholeDocumentLeavesNoCopyBehind) {
   for (const std::u16string_view text :
        {u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n", u"\uFEFF\"A\" \"P1\" \"x.mp3\" 03:00\r\n"}) {
     ASSERT_TRUE(Open(text));
-    ASSERT_TRUE(document.SaveSetListDocument(kPath));
+    ASSERT_TRUE(Save(kPath));
     EXPECT_FALSE(files.BytesOf(u"D:\\Docs\\show.brv~").has_value());
   }
 }
@@ -304,7 +305,7 @@ TEST_F(DocumentFileTest, TheListOfGroupFilesIsKeptBesideTheSongsThatReplaceIt) {
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
   ASSERT_TRUE(Open(u"Gone.brvgl\r\nThere.brvgl\r\n"));
   const auto before = files.BytesOf(kPath);
-  ASSERT_TRUE(document.SaveSetListDocument(kPath));
+  ASSERT_TRUE(Save(kPath));
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
 }
 
@@ -312,7 +313,7 @@ TEST_F(DocumentFileTest, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
   files.Put(kPath, "other text");
   ASSERT_TRUE(document.OpenSetListDocument(kPath));
   files.failCopies = true;
-  EXPECT_FALSE(document.SaveSetListDocument(kPath));
+  EXPECT_FALSE(Save(kPath));
   EXPECT_EQ(files.BytesOf(kPath), "other text");
 }
 

@@ -118,6 +118,7 @@ class TCRandomUser {
     std::function<void(bool treeHasIt)> giveFocus;
     std::function<void()> selectNoNode;
     std::function<void(double seconds)> wait;  // lets the music play
+    std::function<void()> wakeTheDisk;         // an open waits for a save that hangs
   };
 
   TCRandomUser(TCDice& randomDice, TCAppRecord& appRecord, TCBrevantDoc& doc, TCTreeDisplay& treeDisplay,
@@ -205,6 +206,7 @@ class TCRandomUser {
         TCChoice{Id::FileSave, kEnds}};
     if (dice.Roll(100) == 0) {
       lastAct = static_cast<int>(Id::FileOpen);
+      hands.wakeTheDisk();
       document.OnOpenDocument(document.GetPathName());
       return kEnds;
     }

@@ -100,7 +100,7 @@ class RandomEditsOnWidgets : public testing::TestWithParam<std::uint32_t> {
       {[this](const std::vector<std::int32_t>& rows) { SelectRows(rows); },
        [this] { return view->model()->rowCount(); },
        [this](bool treeHasIt) { (treeHasIt ? static_cast<QWidget*>(tree) : view)->setFocus(); },
-       [this] { tree->setCurrentIndex({}); }, [this](double seconds) { player.Advance(seconds); }}};
+       [this] { tree->setCurrentIndex({}); }, [this](double seconds) { player.Advance(seconds); }, [] {}}};
   TCEditWatch watch{record,
                     document,
                     *tree,
