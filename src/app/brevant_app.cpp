@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/bars/customised_bars_store.h"
 #include "app/commands/command_menus.h"
 #include "app/commands/tree_keys.h"
 #include "app/dialogs/about_box.h"
@@ -63,7 +64,10 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       playlistMenu(MakeContextMenu(TCContextMenu::Playlist, actions, frame)),
       treeMenu(MakeContextMenu(TCContextMenu::Tree, actions, frame)) {
   const bool restores = RestoresWindow(record.settings);
-  if (restores) frame.RestorePlacement(layout);
+  if (restores) {
+    frame.RestorePlacement(layout);
+    frame.Bars().Customise(LoadCustomisedBars(layout));  // before they are filled, or they would be twice
+  }
   FillMenuBar(*frame.menuBar(), actions);
   frame.Bars().Fill(actions);  // into the rows that the window's width asks for
   if (restores) frame.RestoreLayout(layout);

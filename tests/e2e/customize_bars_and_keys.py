@@ -121,6 +121,7 @@ class Customizing:
         self.leave()
         self.start()
         self.bar.wait_for_buttons(*OWN)
+        assert self.bar.out_of_sight() == [], f"a screen reader still finds {self.bar.out_of_sight()}"
         self.wait_for_height(LARGE_ICONS_WITH_TEXTS)
         self.performs_with_what_is_its_own()
 
@@ -167,10 +168,7 @@ def perform(rig):
         (one.brings_the_delivered_ones_back, "brings the delivered ones back"),
         (one.finds_the_delivered_ones_at_the_next_start, "finds the delivered ones at the next start"),
     )
-    for action, sentence in steps:
-        rig.step(sentence)
-        action()
-        rig.picture(sentence.replace(" ", "-"))
+    rig.take(steps)
 
 
 if __name__ == "__main__":

@@ -72,6 +72,12 @@ class Bar:
         self.stage = stage
         self.name = name
 
+    def out_of_sight(self):
+        """The texts of the buttons that are there and not shown: none on a bar that has room for all."""
+        return [element.name for element in tree.elements(self.stage.program.wait_for("tool bar", self.name))
+                if element.getRoleName() == "push button" and element.name and
+                not element.getState().contains(pyatspi.STATE_SHOWING)]
+
     def buttons(self):
         """(left edge, element, text) of each button that is shown, from left to right."""
         found = [(tree.area(element)[0], element, element.name)
