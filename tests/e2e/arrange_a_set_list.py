@@ -235,10 +235,7 @@ def perform(rig):
         (keyboard.is_asked_about_a_change, "is asked about a change when it closes"),
         (keyboard.finds_everything_again, "starts again and finds everything"),
     )
-    for action, sentence in steps:
-        rig.step(sentence)
-        action()
-        rig.picture(sentence.replace(" ", "-"))
+    rig.take(steps)
 
 
 if __name__ == "__main__":

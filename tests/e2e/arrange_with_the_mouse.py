@@ -264,10 +264,7 @@ def perform(rig):
         (mouse.looks_at_it_in_both_colours, "looks at it in both colours"),
         (mouse.leaves_without_saving, "leaves without saving"),
     )
-    for action, sentence in steps:
-        rig.step(sentence)
-        action()
-        rig.picture(sentence.replace(" ", "-"))
+    rig.take(steps)
 
 
 if __name__ == "__main__":

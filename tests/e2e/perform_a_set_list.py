@@ -197,10 +197,7 @@ def perform(rig):
         (lambda: goes_to_the_next_playlist(stage), "goes to the next playlist and back"),
         (lambda: closes_and_writes_its_settings(stage, program, evening), "closes"),
     )
-    for action, sentence in steps:
-        rig.step(sentence)
-        action()
-        rig.picture(sentence.split(",")[0].replace(" ", "-"))
+    rig.take(steps)
 
     rig.step("starts again and finds the last document")
     again = rig.start()

@@ -228,10 +228,7 @@ def perform(evening_flow):
         (lambda: measures_all_songs(stage), "measures all songs"),
         (lambda: closes_and_keeps_the_times(stage, rehearsal), "closes and keeps the times"),
     )
-    for action, sentence in steps:
-        evening_flow.step(sentence)
-        action()
-        evening_flow.picture(sentence.split(",")[0].replace(" ", "-"))
+    evening_flow.take(steps)
 
 
 if __name__ == "__main__":

@@ -149,11 +149,7 @@ def perform(rig):
         (evening.leaves_in_live_view, "leaves in live view"),
         (evening.finds_everything_again, "finds everything again at the next start"),
     )
-    for action, sentence in steps:
-        rig.step(sentence)
-        action()
-        if evening.stage.program.running():
-            rig.picture(sentence.split(",")[0].replace(" ", "-"))
+    rig.take(steps)
 
 
 if __name__ == "__main__":

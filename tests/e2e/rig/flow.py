@@ -51,6 +51,14 @@ class Flow:
         """Says what is done next, so that a failure's place can be read in the log."""
         print(sentence, flush=True)
 
+    def take(self, steps):
+        """Takes one step after the other, each (action, sentence); a picture of what it led to bears the sentence's first
+        words."""
+        for action, sentence in steps:
+            self.step(sentence)
+            action()
+            self.picture(sentence.split(",")[0].replace(" ", "-"))
+
     def picture(self, name):
         self.pictures += 1
         screen.save_picture(self.folder / f"{self.pictures:02d}-{name}.png")
