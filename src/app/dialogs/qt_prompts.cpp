@@ -22,6 +22,10 @@
 namespace brevant {
 namespace {
 
+QString QuestionTitle() {
+  return ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle));
+}
+
 // The toolkit gives every column but the name the width of its title, and cuts a date in its middle.
 void ShowColumnsWhole(const QFileDialog& dialog) {
   const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
@@ -75,13 +79,10 @@ bool TCQtPrompts::EditSongProperties(TCSongPropertiesForm& form) {
 }
 
 bool TCQtPrompts::ConfirmRemove(std::u16string_view question) {
-  QMessageBox box(Parent());
+  QMessageBox box(QMessageBox::Question, QuestionTitle(), ToQString(question),
+                  QMessageBox::Yes | QMessageBox::No, Parent());
   box.setObjectName(QStringLiteral("ConfirmRemove"));
-  box.setWindowTitle(ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle)));
-  box.setIcon(QMessageBox::Question);
   box.setTextFormat(Qt::PlainText);
-  box.setText(ToQString(question));
-  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   // Enter is the key that plays: pressed out of habit, it must not take a song off the list, let alone a
   // group with all its playlists. There is no undo.
   box.setDefaultButton(QMessageBox::No);
@@ -90,14 +91,12 @@ bool TCQtPrompts::ConfirmRemove(std::u16string_view question) {
 }
 
 TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
-  QMessageBox box(Parent());
+  const QString question = name.empty() ? QStringLiteral("Save the new document?")
+                                        : QStringLiteral("Save changes to %1?").arg(ToQString(name));
+  QMessageBox box(QMessageBox::Question, QuestionTitle(), question,
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, Parent());
   box.setObjectName(QStringLiteral("SaveChanges"));
-  box.setWindowTitle(ToQString(DocumentTemplateText(TCDocumentTemplateField::WindowTitle)));
-  box.setIcon(QMessageBox::Question);
   box.setTextFormat(Qt::PlainText);
-  box.setText(name.empty() ? QStringLiteral("Save the new document?")
-                           : QStringLiteral("Save changes to %1?").arg(ToQString(name)));
-  box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
   box.setDefaultButton(QMessageBox::Save);
   box.setEscapeButton(QMessageBox::Cancel);
   switch (Run(box)) {
