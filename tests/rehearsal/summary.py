@@ -1,7 +1,10 @@
 """The figures of a run, and whether it failed."""
 
 WARM = 10  # minutes after which memory stays level; a sixth of a shorter run
-GROWTH, SLACK = 1.10, 8.0  # and some MB, for what one playlist has more than another
+# And some MB: the toolkit keeps pictures of what it has drawn until they are 10 MB, which takes it half an hour, and for
+# each element this driver has asked about what a screen reader would ask for next. A heap profile of 44 minutes has
+# grown by 12.3 MB, of which 7.3 were the first and 3.9 the second.
+GROWTH, SLACK = 1.10, 18.0
 
 
 def leak(memory, minutes):
