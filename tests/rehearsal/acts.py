@@ -41,8 +41,11 @@ def steps_a_song(run):
 
 
 def steps_a_playlist(run):
-    run.stepped_from = run.window.look().header
-    run.journal.press(*[run.chance.choice(("Right", "r", "Left", "l", "Right"))] * run.chance.choice((1, 1, 2, 4)))
+    keys = [run.chance.choice(("Right", "r", "Left", "l", "Right"))] * run.chance.choice((1, 1, 2, 4))
+    if keys[1:]:
+        run.journal.press(*keys[1:])
+    run.stepped_from = run.window.look().header  # where the last step may leave the rows
+    run.journal.press(keys[0])
 
 
 def seeks(run):

@@ -154,6 +154,7 @@ def saves(run):
     look = run.judge.look()
     before = songs_of.kept_in(run.document)
     run.journal.press("ctrl+s")
+    time.sleep(0.2)  # a save that takes longer shows its star by then
     wait_for("the modified mark to go", lambda: "*" not in run.window.look().title, 8)
     after = songs_of.kept_in(run.document)
     rows = None if after is None else songs_of.read_document(after)
