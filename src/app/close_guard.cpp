@@ -20,7 +20,6 @@ TCCloseGuard::TCCloseGuard(TCMainFrame& mainFrame, QSettings& layoutStore, const
 void TCCloseGuard::EndSession() {
   WriteSettings();
   doc.KeepUnsavedChanges();
-  doc.FinishSaves();
 }
 
 void TCCloseGuard::WriteSettings() {
@@ -54,7 +53,6 @@ bool TCCloseGuard::OnClose() {
   if (!doc.SaveModified()) return false;
   // Saved under another name while it closed: the next start is to open that one.
   if (DocumentPath(record.setLists) != writtenPath) settingsFile.SaveSettings(record);
-  doc.FinishSaves();
   return true;
 }
 

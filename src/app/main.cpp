@@ -36,8 +36,9 @@ TCStartFile StartFileOf(const TCCommandLine& line) {
   return {true, *line.file, ModelPathOf(*line.file, WorkingFolder())};
 }
 
-// What a second start leaves with.
-int HandOver(const TCRunningProgram& first, const TCCommandLine& line, const QVariantMap& platformData) {
+// What a second start leaves with; empty when the first one has ended instead, and this one is to go on.
+std::optional<int> HandOver(TCRunningProgram& first, const TCCommandLine& line,
+                            const QVariantMap& platformData) {
   std::optional<std::string> file;
   if (line.file) file = AbsoluteNameOf(*line.file, WorkingFolder());
   switch (first.HandOver(file, platformData)) {
@@ -46,6 +47,8 @@ int HandOver(const TCRunningProgram& first, const TCCommandLine& line, const QVa
     case TCRunningProgram::TCHandOver::DialogOpen:
       std::fputs("brevant: the running program has a dialog open, and opened nothing\n", stderr);
       return 1;
+    case TCRunningProgram::TCHandOver::Gone:
+      return {};
     case TCRunningProgram::TCHandOver::NoAnswer:
       break;
   }
@@ -94,12 +97,15 @@ int main(int argc, char** argv) {
   const QString layoutFile = QFile::decodeName(paths.ToNative(folders.settings + u"Layout.ini").c_str());
   TCBrevantApp program({files, player, player, paths, folders, layoutFile, LibraryNames(), &lengthProbe});
   if (running.Standing() == TCRunningProgram::TCStanding::Second) {
-    return HandOver(running, commandLine, platformData);
+    if (const auto status = HandOver(running, commandLine, platformData)) return *status;
   }
   running.Serve(program);
   TCTerminationSignals terminationSignals;
   QObject::connect(&terminationSignals, &TCTerminationSignals::endWanted, &program,
                    &TCBrevantApp::EndSession);
   program.InitInstance(StartFileOf(commandLine));
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  player.Stop();
+  program.Document().FinishSaves();
+  return status;
 }

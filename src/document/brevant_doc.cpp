@@ -157,7 +157,7 @@ void TCBrevantDoc::ChangeOption(TCCommandId command) {
 
 void TCBrevantDoc::OnPlayTimerTick() {
   songCheck.TakeLateAnswers();
-  if (saver.TakeEndedSaves()) ShowTitle();
+  if (saver.DropEndedSaves()) ShowTitle();
   const bool measuring = transport.TimeRun().Pending();
   const bool timesChanged = transport.OnPlayTimerTick();
   if (measuring) ShowTimeRun();

@@ -51,7 +51,7 @@ class TCBrevantDoc {
 
   // Each returns true in every case: a file that cannot be read opens as an empty document of that name, and
   // a failed save is silent (its lines go to the recovery folder). An open takes as long as the disk does; a
-  // save on a slow one goes on by itself, and the title says "modified" until it is done.
+  // save on a slow one goes on by itself, and the title says "modified" until it is over.
   bool OnNewDocument();
   bool OnOpenDocument(std::u16string_view path);
   bool OnSaveDocument(std::u16string_view path);

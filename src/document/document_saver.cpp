@@ -1,5 +1,6 @@
 #include "document/document_saver.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -23,55 +24,71 @@ TCDocumentSaver::TCDocumentSaver(TCFileSystem& fileSystem, std::u16string_view r
 
 void TCDocumentSaver::Save(std::u16string_view path, TextLines lines) {
   if (lines.empty()) return;
-  TCSave save{std::u16string(path), std::make_shared<const TextLines>(std::move(lines)), {}};
-  save.saved = AskDisk(files, [path = save.path, lines = save.lines, recovery = recoveryFolder,
-                               before = LastSaveOf(path)](TCFileSystem& disk) {
-    if (before.valid()) before.wait();
-    if (SaveSetListDocument(disk, path, *lines)) return true;
-    WriteRecoveryCopy(disk, recovery, FileNamePart(path), *lines);
-    return false;
-  });
-  if (!HasCome(save.saved, kDiskPatience)) underWay.push_back(std::move(save));
+  std::shared_future<bool> before;
+  if (const TCSave* last = LastSaveOf(path)) before = last->onDisk;
+  TCSave save{std::u16string(path), std::make_shared<const TextLines>(std::move(lines)), {}, {}};
+  save.onDisk = AskDisk(
+      files, [path = save.path, lines = save.lines, recovery = recoveryFolder, before](TCFileSystem& disk) {
+        if (before.valid()) before.wait();
+        if (SaveSetListDocument(disk, path, *lines)) return true;
+        WriteRecoveryCopy(disk, recovery, FileNamePart(path), *lines);
+        return false;
+      });
+  if (!HasCome(save.onDisk, kDiskPatience)) underWay.push_back(std::move(save));
 }
 
 void TCDocumentSaver::KeepRecoveryCopy(std::u16string_view path, const TextLines& lines) {
   if (!lines.empty()) WriteRecoveryCopy(files, recoveryFolder, FileNamePart(path), lines);
 }
 
-std::shared_future<bool> TCDocumentSaver::LastSaveOf(std::u16string_view path) const {
-  std::shared_future<bool> last;
-  for (const TCSave& save : underWay) {
-    if (IsSameFile(save.path, path)) last = save.saved;
-  }
-  return last;
+const TCDocumentSaver::TCSave* TCDocumentSaver::LastSaveOf(std::u16string_view path) const {
+  const auto last = std::find_if(underWay.rbegin(), underWay.rend(),
+                                 [path](const TCSave& save) { return IsSameFile(save.path, path); });
+  return last == underWay.rend() ? nullptr : &*last;
 }
 
 bool TCDocumentSaver::IsSaving(std::u16string_view path) const {
-  const std::shared_future<bool> last = LastSaveOf(path);
-  return last.valid() && !HasCome(last, std::chrono::milliseconds(0));
+  const TCSave* last = LastSaveOf(path);
+  return last != nullptr && !HasCome(last->onDisk, std::chrono::milliseconds(0));
 }
 
-bool TCDocumentSaver::TakeEndedSaves() {
-  return std::erase_if(underWay, [](const TCSave& save) {
-           return HasCome(save.saved, std::chrono::milliseconds(0));
+bool TCDocumentSaver::DropEndedSaves() {
+  return std::erase_if(underWay, [this](const TCSave& save) {
+           if (!HasCome(save.onDisk, std::chrono::milliseconds(0))) return false;
+           // One that failed has left a copy of its own, and both stay.
+           if (!save.copy.empty() && save.onDisk.get()) files.DeleteFile(save.copy);
+           return true;
          }) > 0;
 }
 
+void TCDocumentSaver::CopyWhatHangs() {
+  for (TCSave& save : underWay) {
+    if (&save != LastSaveOf(save.path) || !save.copy.empty() || HasCome(save.onDisk, kDiskPatience)) continue;
+    save.copy = WriteRecoveryCopy(files, recoveryFolder, FileNamePart(save.path), *save.lines);
+  }
+}
+
 void TCDocumentSaver::WaitFor(std::u16string_view path) {
-  if (const std::shared_future<bool> last = LastSaveOf(path); last.valid()) last.wait();
+  const TCSave* last = LastSaveOf(path);
+  if (last == nullptr) return;
+  CopyWhatHangs();
+  last->onDisk.wait();
+  DropEndedSaves();
 }
 
 void TCDocumentSaver::Finish(std::chrono::milliseconds patience) {
+  CopyWhatHangs();
   const auto deadline = std::chrono::steady_clock::now() + patience;
   for (const TCSave& save : underWay) {
-    if (HasCome(save.saved, kDiskPatience)) continue;
-    const std::u16string copy =
-        WriteRecoveryCopy(files, recoveryFolder, FileNamePart(save.path), *save.lines);
-    const bool ended = save.saved.wait_until(deadline) == std::future_status::ready;
-    // One that failed has left a copy of its own, which may be the very same file.
-    if (ended && save.saved.get() && !copy.empty()) files.DeleteFile(copy);
+    if (&save != LastSaveOf(save.path)) continue;
+    if (save.copy.empty()) {
+      save.onDisk.wait();
+    } else {
+      save.onDisk.wait_until(deadline);
+    }
   }
-  TakeEndedSaves();
+  DropEndedSaves();
+  underWay.clear();
 }
 
 }  // namespace brevant

@@ -30,25 +30,30 @@ class TCDocumentSaver {
   [[nodiscard]] bool IsSaving(std::u16string_view path) const;
 
   // True when a save has ended since the last call that had not ended within its moment.
-  bool TakeEndedSaves();
+  bool DropEndedSaves();
 
   // Returns when no save of the file is under way: who reads it then, reads what was saved last. A disk that
-  // hangs holds it up for as long.
+  // hangs holds it up for as long; what was saved is in the recovery folder meanwhile.
   void WaitFor(std::u16string_view path);
 
-  // For the end of the program. Waits for all saves together, a slow stick may take seconds. What is not on
-  // its disk after `patience` is in the recovery folder.
+  // For the end of the program; no save counts as under way afterwards. What does not come at once goes to
+  // the recovery folder first. Then it waits for all saves, together no longer than `patience`: a slow stick
+  // may take seconds. Only for lines that the recovery folder did not take it waits as long as their disk
+  // does.
   void Finish(std::chrono::milliseconds patience = std::chrono::seconds(5));
 
  private:
   struct TCSave {
     std::u16string path;
     std::shared_ptr<const TextLines> lines;
-    std::shared_future<bool> saved;  // false: it went to the recovery folder
+    std::shared_future<bool> onDisk;  // false when it has failed, and went to the recovery folder
+    std::u16string copy;              // in the recovery folder, for as long as nobody knows how it ends
   };
 
-  // The last save of the file that is under way; of no state when there is none.
-  [[nodiscard]] std::shared_future<bool> LastSaveOf(std::u16string_view path) const;
+  // The last save of the file that is under way; null when there is none.
+  [[nodiscard]] const TCSave* LastSaveOf(std::u16string_view path) const;
+  // Before a wait that may be long. Of the saves of one file only the last one counts.
+  void CopyWhatHangs();
 
   TCFileSystem& files;
   const std::u16string recoveryFolder;

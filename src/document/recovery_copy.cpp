@@ -1,5 +1,7 @@
 #include "document/recovery_copy.h"
 
+#include <mutex>
+
 #include "text/numbers.h"
 #include "text/path_parts.h"
 
@@ -25,6 +27,8 @@ std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder
                                  std::u16string_view fileName, const TextLines& lines) {
   if (fileName.empty()) fileName = u"Brevant.brv";
   if (!files.MakeFolder(folder)) return {};
+  static std::mutex oneAtATime;  // or two would find the same name free
+  const std::lock_guard lock(oneAtATime);
   int failures = 0;
   for (int copy = 1; copy <= kMostCopies && failures < kMostFailures; ++copy) {
     std::u16string path = CopyPath(folder, fileName, copy);

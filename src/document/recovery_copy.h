@@ -12,7 +12,7 @@ namespace brevant {
 
 // `folder` ends with a backslash and is made when it is missing; `fileName` is the document's, "Brevant.brv"
 // when empty. The copy is "show.brv", or "show (2).brv" and so on when that is taken. Its path, or empty when
-// this failed too.
+// this failed too. Any thread, with a file system of its own.
 std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder,
                                  std::u16string_view fileName, const TextLines& lines);
 

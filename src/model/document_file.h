@@ -1,6 +1,6 @@
 // Document files (.brv). Two forms are read: the flat form, one line a song, which is also what is written,
 // and the folder form, one group list file a line. Fills and reads the set-list store; user-interface thread
-// only.
+// only, but for the two functions at the end.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// The real disk behind TCFileSystem. Used on the user-interface thread only.
+// The real disk behind TCFileSystem. One thread at a time; every question of Ask has one of its own.
 #pragma once
 
 #include <chrono>

@@ -752,25 +752,6 @@ TEST_F(BrevantApp, TheEndOfTheSessionAsksNothingAndKeepsUnsavedChanges) {
   EXPECT_EQ(files.BytesOf(u"\\state\\show.brv"), before);
 }
 
-// The disk never answers here, so each takes as long as an end of the program waits for a slow one.
-TEST_F(BrevantApp, WhatIsNotOnTheDiskWhenTheWindowClosesIsInTheRecoveryFolder) {
-  Start(kShow);
-  const std::optional<std::string> saved = files.BytesOf(kShow);
-  files.hangs = true;
-  app->Document().OnSaveDocument(kShow);
-  EXPECT_TRUE(Frame().close());
-  EXPECT_EQ(files.BytesOf(u"\\state\\show.brv"), saved);
-}
-
-TEST_F(BrevantApp, WhatIsNotOnTheDiskWhenTheSessionEndsIsInTheRecoveryFolder) {
-  Start(kShow);
-  const std::optional<std::string> saved = files.BytesOf(kShow);
-  files.hangs = true;
-  app->Document().OnSaveDocument(kShow);
-  EXPECT_TRUE(EndSession(*app));
-  EXPECT_EQ(files.BytesOf(u"\\state\\show.brv"), saved);
-}
-
 TEST_F(BrevantApp, TheEndOfTheSessionKeepsNothingWhenNothingIsUnsaved) {
   Start(kShow);
   EXPECT_TRUE(EndSession(*app));

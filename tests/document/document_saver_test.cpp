@@ -4,9 +4,13 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <thread>
 
+#include "support/document_rig.h"
 #include "support/hanging_disk.h"
 #include "support/memory_files.h"
 #include "support/temp_folder.h"
@@ -40,7 +44,7 @@ TEST_F(DocumentSaverTest, ADiskThatAnswersHasTheDocumentAtOnce) {
   saver.Save(kShow, ASong(u"a.mp3"));
   EXPECT_EQ(files.BytesOf(kShow), BytesOf(ASong(u"a.mp3")));
   EXPECT_FALSE(saver.IsSaving(kShow));
-  EXPECT_FALSE(saver.TakeEndedSaves());
+  EXPECT_FALSE(saver.DropEndedSaves());
   EXPECT_EQ(files.FileCount(), 1u);
 }
 
@@ -57,12 +61,12 @@ TEST_F(DocumentSaverTest, OnADiskThatHangsTheSaveGoesOnByItself) {
   saver.Save(kShow, ASong(u"a.mp3"));
   EXPECT_TRUE(saver.IsSaving(u"e:\\SHOW.brv")) << "one file, whatever its case";
   EXPECT_FALSE(saver.IsSaving(u"E:\\Other.brv"));
-  EXPECT_FALSE(saver.TakeEndedSaves());
+  EXPECT_FALSE(saver.DropEndedSaves());
   files.Wake();
   EXPECT_EQ(files.BytesOf(kShow), BytesOf(ASong(u"a.mp3")));
   EXPECT_FALSE(saver.IsSaving(kShow));
-  EXPECT_TRUE(saver.TakeEndedSaves());
-  EXPECT_FALSE(saver.TakeEndedSaves()) << "told once";
+  EXPECT_TRUE(saver.DropEndedSaves());
+  EXPECT_FALSE(saver.DropEndedSaves()) << "told once";
 }
 
 TEST_F(DocumentSaverTest, WhatFailsGoesToTheRecoveryFolderHoweverLate) {
@@ -72,7 +76,7 @@ TEST_F(DocumentSaverTest, WhatFailsGoesToTheRecoveryFolderHoweverLate) {
   files.hangs = true;
   saver.Save(kShow, ASong(u"b.mp3"));
   files.Wake();
-  EXPECT_TRUE(saver.TakeEndedSaves());
+  EXPECT_TRUE(saver.DropEndedSaves());
   EXPECT_EQ(files.BytesOf(u"\\recovery\\Show (2).brv"), BytesOf(ASong(u"b.mp3")));
 }
 
@@ -81,6 +85,19 @@ TEST_F(DocumentSaverTest, AtTheEndOfTheProgramASaveThatHangsIsInTheRecoveryFolde
   saver.Save(kShow, ASong(u"a.mp3"));
   saver.Finish(milliseconds(0));
   EXPECT_EQ(files.BytesOf(kRecovered), BytesOf(ASong(u"a.mp3")));
+}
+
+TEST_F(DocumentSaverTest, AtTheEndOfTheProgramEveryFileIsCopiedOnceAsItWasSavedLast) {
+  files.hangs = true;
+  saver.Save(kShow, ASong(u"a.mp3"));
+  saver.Save(u"E:\\Other.brv", ASong(u"b.mp3"));
+  saver.Save(kShow, ASong(u"c.mp3"));
+  saver.Finish(milliseconds(0));
+  EXPECT_EQ(files.BytesOf(kRecovered), BytesOf(ASong(u"c.mp3")));
+  EXPECT_EQ(files.BytesOf(u"\\recovery\\Other.brv"), BytesOf(ASong(u"b.mp3")));
+  EXPECT_EQ(files.FileCount(), 2u);
+  saver.Finish(milliseconds(0));
+  EXPECT_EQ(files.FileCount(), 2u) << "once";
 }
 
 TEST_F(DocumentSaverTest, AtTheEndOfTheProgramWhatIsOnTheDiskIsNotCopied) {
@@ -105,8 +122,23 @@ class SaveOnAHangingDisk : public testing::Test {
 
   void SaveHangs(std::u16string_view song) {
     saver.Save(show, ASong(song));
-    while (disk->Waiting() == 0) std::this_thread::yield();
+    WaitUntil([this] { return disk->Waiting() > 0; });
   }
+
+  // For another thread, while this one waits for the save: once the copy is there, it is done.
+  void OnceItIsCopied(const std::function<void()>& meanwhile = [] {}) {
+    WaitUntil([this] { return std::filesystem::exists(folder.Native("recovery/Show.brv")); });
+    meanwhile();
+    disk.reset();
+  }
+
+  static void WaitUntil(const std::function<bool()>& holds) {
+    const auto deadline = std::chrono::steady_clock::now() + seconds(30);
+    while (!holds() && std::chrono::steady_clock::now() < deadline) std::this_thread::yield();
+    EXPECT_TRUE(holds());
+  }
+
+  std::optional<std::string> Read(const char* name) { return files.ReadFile(folder.Model(name), 1000); }
 
   TCTempFolder folder;
   std::u16string show = folder.Model("Show.brv");
@@ -121,38 +153,73 @@ TEST_F(SaveOnAHangingDisk, TheSavesOfOneFileTakeEffectInTheirOrder) {
   EXPECT_EQ(disk->Waiting(), 1) << "the second does not ask for the file before the first is through";
   disk.reset();
   saver.WaitFor(show);
-  EXPECT_EQ(files.ReadFile(show, 1000), BytesOf(ASong(u"second.mp3")));
+  EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"second.mp3")));
 }
 
 TEST_F(SaveOnAHangingDisk, AnotherFileWaitsForNobody) {
   SaveHangs(u"first.mp3");
   saver.Save(folder.Model("Other.brv"), ASong(u"second.mp3"));
+  WaitUntil([this] { return !saver.IsSaving(folder.Model("Other.brv")); });
   EXPECT_TRUE(saver.IsSaving(show));
-  saver.WaitFor(folder.Model("Other.brv"));
-  EXPECT_EQ(files.ReadFile(folder.Model("Other.brv"), 1000), BytesOf(ASong(u"second.mp3")));
+  EXPECT_EQ(Read("Other.brv"), BytesOf(ASong(u"second.mp3")));
 }
 
-TEST_F(SaveOnAHangingDisk, WhoWaitsForAFileReadsWhatWasSavedLast) {
+TEST_F(SaveOnAHangingDisk, WhoWaitsForAFileReadsWhatWasSavedLastAndItIsCopiedMeanwhile) {
   SaveHangs(u"first.mp3");
+  std::thread meanwhile([this] { OnceItIsCopied(); });
+  saver.WaitFor(show);
+  EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"first.mp3")));
+  EXPECT_FALSE(Read("recovery/Show.brv").has_value());
+  meanwhile.join();
+}
+
+TEST_F(SaveOnAHangingDisk, OpeningTheDocumentWaitsForItsSave) {
+  TCDocumentRig rig(files, nullptr, nullptr, folder.Model("recovery/"));
+  rig.record.setLists.groups.emplace_back().playlists.emplace_back().items.emplace_back().SetPath(u"new.mp3");
+  rig.document.OnSaveDocument(show);
+  WaitUntil([this] { return disk->Waiting() > 0; });
   std::thread later([this] {
-    std::this_thread::sleep_for(milliseconds(50));
+    std::this_thread::sleep_for(milliseconds(300));
     disk.reset();
   });
-  saver.WaitFor(show);
-  EXPECT_EQ(files.ReadFile(show, 1000), BytesOf(ASong(u"first.mp3")));
+  rig.document.OnOpenDocument(show);
+  ASSERT_EQ(rig.view.rows.size(), 1u) << "what stood there before had no song";
+  EXPECT_EQ(rig.view.rows[0].texts.name, u"new.mp3");
   later.join();
 }
 
 TEST_F(SaveOnAHangingDisk, ASaveThatComesThroughWhileTheProgramEndsLeavesNoCopy) {
   SaveHangs(u"first.mp3");
-  std::thread onceItIsCopied([this] {
-    while (!std::filesystem::exists(folder.Native("recovery/Show.brv"))) std::this_thread::yield();
-    disk.reset();
+  std::thread meanwhile([this] { OnceItIsCopied(); });
+  saver.Finish(seconds(60));
+  EXPECT_FALSE(Read("recovery/Show.brv").has_value());
+  EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"first.mp3")));
+  meanwhile.join();
+}
+
+TEST_F(SaveOnAHangingDisk, ASaveThatFailsWhileTheProgramEndsIsInTheRecoveryFolder) {
+  SaveHangs(u"first.mp3");
+  std::thread meanwhile([this] {
+    OnceItIsCopied([this] {
+      std::filesystem::remove(folder.Native("Show.brv"));
+      std::filesystem::create_directory(folder.Native("Show.brv"));
+    });
   });
   saver.Finish(seconds(60));
-  EXPECT_FALSE(std::filesystem::exists(folder.Native("recovery/Show.brv")));
-  EXPECT_EQ(files.ReadFile(show, 1000), BytesOf(ASong(u"first.mp3")));
-  onceItIsCopied.join();
+  EXPECT_EQ(Read("recovery/Show.brv"), BytesOf(ASong(u"first.mp3")));
+  meanwhile.join();
+}
+
+TEST_F(SaveOnAHangingDisk, WhatCannotBeCopiedIsWaitedForAsLongAsItTakes) {
+  folder.Write("recovery");  // a file, where the folder would be
+  SaveHangs(u"first.mp3");
+  std::thread later([this] {
+    std::this_thread::sleep_for(milliseconds(300));
+    disk.reset();
+  });
+  saver.Finish(milliseconds(0));
+  EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"first.mp3")));
+  later.join();
 }
 
 }  // namespace

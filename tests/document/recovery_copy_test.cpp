@@ -2,7 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <iterator>
+#include <thread>
+
 #include "support/memory_files.h"
+#include "support/temp_folder.h"
+#include "text/disk_files.h"
 
 namespace brevant {
 namespace {
@@ -28,6 +34,20 @@ TEST(RecoveryCopyTest, AnEarlierCopyIsNeverReplaced) {
 TEST(RecoveryCopyTest, ADocumentWithoutANameGetsOne) {
   TCMemoryFiles files;
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"", {u"one"}), u"\\home\\me\\recovery\\Brevant.brv");
+}
+
+TEST(RecoveryCopyTest, OfTwoThreadsNeitherReplacesTheOthersCopy) {
+  const TCTempFolder folder;
+  const auto keep = [&folder] {
+    TCDiskFiles files{TCNativePaths()};
+    for (int copy = 0; copy < 20; ++copy)
+      WriteRecoveryCopy(files, folder.Model("kept/"), u"show.brv", {u"one"});
+  };
+  std::thread other(keep);
+  keep();
+  other.join();
+  const std::filesystem::directory_iterator copies(folder.Native("kept"));
+  EXPECT_EQ(std::distance(begin(copies), end(copies)), 40);
 }
 
 TEST(RecoveryCopyTest, ANameThatCannotBeWrittenIsPassedOver) {

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "document/brevant_doc.h"
@@ -26,8 +27,9 @@ class TCRecentFileLog final : public TCRecentFileList {
 class TCDocumentRig {
  public:
   // All of it outlives the rig. Without a player there is none; without a probe song times are measured with
-  // the player.
-  TCDocumentRig(TCFileSystem& files, TCPlayer* player, TCLengthProbe* lengthProbe = nullptr)
+  // the player. On a real disk the recovery folder has to be a folder of the test's.
+  TCDocumentRig(TCFileSystem& files, TCPlayer* player, TCLengthProbe* lengthProbe = nullptr,
+                std::u16string recovery = u"\\state\\recovery\\")
       : document({.record = record,
                   .files = files,
                   .player = player,
@@ -36,7 +38,7 @@ class TCDocumentRig {
                   .messages = messages,
                   .frame = frame,
                   .prompts = prompts,
-                  .folders = {u"\\opt\\", u"\\conf\\", u"\\state\\recovery\\"},
+                  .folders = {u"\\opt\\", u"\\conf\\", std::move(recovery)},
                   .lengthProbe = lengthProbe,
                   .repeatFields = &repeatFields,
                   .properties = &pane,

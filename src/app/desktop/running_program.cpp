@@ -36,25 +36,29 @@ auto LendActivationToken(const QVariantMap& platformData) {
 
 TCRunningProgram::TCRunningProgram(const QString& busAddress)
     : connectionName(NewConnectionName()),
-      asked(std::async(std::launch::async, [this, busAddress] { return TakeName(busAddress); })) {}
+      asked(std::async(std::launch::async, [this, busAddress] { return Register(busAddress); })) {}
 
 TCRunningProgram::~TCRunningProgram() {
   if (asked.valid()) asked.wait();
   QDBusConnection::disconnectFromBus(connectionName);
 }
 
-TCRunningProgram::TCStanding TCRunningProgram::TakeName(const QString& busAddress) {
+TCRunningProgram::TCStanding TCRunningProgram::Register(const QString& busAddress) {
   QDBusConnection bus = busAddress.isEmpty()
                             ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName)
                             : QDBusConnection::connectToBus(busAddress, connectionName);
   if (!bus.isConnected()) return TCStanding::Alone;
   // Before the name: whoever finds it may call at once.
   bus.registerObject(kObjectPath, this, QDBusConnection::ExportScriptableSlots);
+  return TakeName();
+}
+
+TCRunningProgram::TCStanding TCRunningProgram::TakeName() const {
   QDBusMessage request = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
   request << kBusName << kDoNotQueue;
-  const QDBusMessage reply = bus.call(request, QDBus::Block, kBusPatience);
+  const QDBusMessage reply = QDBusConnection(connectionName).call(request, QDBus::Block, kBusPatience);
   if (reply.type() != QDBusMessage::ReplyMessage) return TCStanding::Alone;
   switch (reply.arguments().value(0).toUInt()) {
     case kPrimaryOwner:
@@ -73,7 +77,7 @@ TCRunningProgram::TCStanding TCRunningProgram::Standing() {
 
 TCRunningProgram::TCHandOver TCRunningProgram::HandOver(const std::optional<std::string>& nativeName,
                                                         const QVariantMap& platformData,
-                                                        std::chrono::milliseconds patience) const {
+                                                        std::chrono::milliseconds patience) {
   QDBusMessage wish = QDBusMessage::createMethodCall(
       kBusName, kObjectPath, kInterface, nativeName ? QStringLiteral("Open") : QStringLiteral("Activate"));
   if (nativeName) wish << QStringList(FileAddress(*nativeName));
@@ -81,7 +85,9 @@ TCRunningProgram::TCHandOver TCRunningProgram::HandOver(const std::optional<std:
   const QDBusMessage reply =
       QDBusConnection(connectionName).call(wish, QDBus::Block, static_cast<int>(patience.count()));
   if (reply.type() == QDBusMessage::ReplyMessage) return TCHandOver::Done;
-  return reply.errorName() == kDialogOpen ? TCHandOver::DialogOpen : TCHandOver::NoAnswer;
+  if (reply.errorName() == kDialogOpen) return TCHandOver::DialogOpen;
+  standing = TakeName();
+  return standing == TCStanding::First ? TCHandOver::Gone : TCHandOver::NoAnswer;
 }
 
 QVariantMap TCRunningProgram::PlatformData() {

@@ -40,12 +40,18 @@ class TCRunningProgram : public QObject, protected QDBusContext {
   // From now on the door is knocked at. It outlives this.
   void Serve(TCProgramDoor& programDoor) { door = &programDoor; }
 
-  enum class TCHandOver { Done, DialogOpen, NoAnswer };
+  enum class TCHandOver {
+    Done,
+    DialogOpen,  // and nothing was opened
+    NoAnswer,
+    Gone,  // it ended instead, and this one is the first now
+  };
   // Second only: has the first one open a file, by its absolute native name, or come forward without one.
-  // `platformData` as PlatformData() read it. Waits for the answer, `patience` at most.
+  // `platformData` as PlatformData() read it. Waits for the answer, `patience` at most: longer than a program
+  // that ends takes to get its document onto a slow stick.
   [[nodiscard]] TCHandOver HandOver(const std::optional<std::string>& nativeName,
                                     const QVariantMap& platformData,
-                                    std::chrono::milliseconds patience = std::chrono::seconds(5)) const;
+                                    std::chrono::milliseconds patience = std::chrono::seconds(10));
 
   // The desktop's leave to take the keys, from the environment. To be read before the toolkit stands: that
   // takes it out.
@@ -58,7 +64,8 @@ class TCRunningProgram : public QObject, protected QDBusContext {
                                    const QVariantMap& platformData);
 
  private:
-  [[nodiscard]] TCStanding TakeName(const QString& busAddress);
+  [[nodiscard]] TCStanding Register(const QString& busAddress);
+  [[nodiscard]] TCStanding TakeName() const;
 
   // Each has its own, so that several can stand in one process.
   const QString connectionName;

@@ -36,7 +36,7 @@ class RunningProgram : public testing::Test {
   [[nodiscard]] QString Address() const { return QString::fromStdString(bus.Address()); }
 
   // The second waits for an answer that this thread has to give.
-  Outcome HandOver(const TCRunningProgram& second, const std::optional<std::string>& name,
+  Outcome HandOver(TCRunningProgram& second, const std::optional<std::string>& name,
                    const QVariantMap& platformData = {}) {
     auto outcome = std::async(std::launch::async, [&] { return second.HandOver(name, platformData); });
     while (outcome.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) QTest::qWait(1);
@@ -91,6 +91,20 @@ TEST_F(RunningProgram, AFirstThatDoesNotAnswerIsNotWaitedForForEver) {
   ASSERT_EQ(second.Standing(), Standing::Second);
   // This thread is the first one's, and it waits here.
   EXPECT_EQ(second.HandOver("/a.brv", {}, std::chrono::milliseconds(50)), Outcome::NoAnswer);
+}
+
+TEST_F(RunningProgram, AFirstThatEndsInsteadOfAnsweringHandsItsPlaceOver) {
+  std::optional<TCRunningProgram> first(Address());
+  ASSERT_EQ(first->Standing(), Standing::First);
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  auto outcome = std::async(std::launch::async, [&] { return second.HandOver("/shows/Show.brv", {}); });
+  EXPECT_EQ(outcome.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
+  first.reset();
+  EXPECT_EQ(outcome.get(), Outcome::Gone);
+  EXPECT_EQ(second.Standing(), Standing::First);
+  TCRunningProgram third(Address());
+  EXPECT_EQ(third.Standing(), Standing::Second);
 }
 
 TEST_F(RunningProgram, TheNameIsFreeWhenTheFirstHasGone) {

@@ -27,8 +27,8 @@ class Flow:
         self.listener = Listener()
         self.pictures = 0
 
-    def start(self, *arguments):
-        self.programs.append(Program(self.binary, self.home, self.folder / "program.log", arguments))
+    def start(self, *arguments, **more_environment):
+        self.programs.append(Program(self.binary, self.home, self.folder / "program.log", arguments, **more_environment))
         return self.programs[-1]
 
     @contextlib.contextmanager
