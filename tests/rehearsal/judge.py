@@ -19,7 +19,7 @@ class Judge:
         self.claimed_until = 0.0  # a start was asked for: until then another song may begin
         self.claimed_at = 0.0
         self.claimed = None  # the song that was asked for, until it is seen
-        self.reported = None  # the song whose failure was told already
+        self.silent = None  # the song that cannot be played
         self.loading_since = None
         self.asking_since = None
         self.number, self.number_in, self.old_green = None, None, None  # of the current song, as far as seen
@@ -128,12 +128,17 @@ class Judge:
             self.loading_since = None
 
     def cannot_play(self, look):
+        if look.phase != "Cannot play":
+            self.silent = None
+        if look.phase != "Cannot play" or self.silent == look.song:
+            return
+        # Only where it begins: a song that was gone then stays so in the player when its file is back.
+        self.silent = look.song
         song = self.run.material.song(look.song)
         # A song that has been renamed since it was started is looked for where it no longer is named.
-        if (look.phase != "Cannot play" or song is None or self.reported == (look.song, "cannot") or
-                self.run.broken_lately(song) or not song.path.exists() or self.run.sound.well_for() < SETTLED):
+        if (song is None or self.run.broken_lately(song) or not song.path.exists() or
+                self.run.sound.well_for() < SETTLED):
             return
-        self.reported = (look.song, "cannot")
         self.fail("cannot play", f"{look.song!r} is there and cannot be played: {look.notice!r}")
 
     def stands_still(self, before, look):
