@@ -15,7 +15,7 @@ WORDS = "Hafen Ebbe Öl Lärm Nacht Café Garçon Señor Ферри Ночь Ν�
 PLAIN_WORDS = "Harbour Tide Boats Storm Lantern Ferry Quay".split()  # of the spare songs: names that are typed
 GROUPS = ("Mariner Sets", "Abend > Гости", "Café", "Été 2026", "Zugaben", "Probe")
 EDGE = 14  # hertz between two tones, so that a quarter of a second tells them apart
-FIRST_NOTE, NOTES = 48, 36
+FIRST_NOTE, NOTES = 33, 36  # an organ's higher notes tremble too much to be told by their pitch
 
 
 class Song:
@@ -43,7 +43,7 @@ class Song:
         return sum(sound.share_of_pitch(stretch, self.pitch * part / 2) for part in range(1, 9))
 
     def make(self):
-        if self.path.exists():
+        if self.path.exists() and self.kind != "mid":  # those take no time
             return
         half_made = self.path.with_name("half-made." + self.kind)
         if self.kind == "mid":
