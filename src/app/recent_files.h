@@ -1,6 +1,6 @@
 // The documents used last, newest first, kept in the layout file's section "Recent File List" as "File1" to
-// "File8". Written as soon as it changes, so that a killed program has lost next to none, and on a thread of its own:
-// a loaded disk takes longer than the window may stand still. TCRecentFileMenu shows it.
+// "File8". Written as soon as it changes, so that a killed program has lost next to none, and on a thread of
+// its own: a loaded disk takes longer than the window may stand still. TCRecentFileMenu shows it.
 // User-interface thread only.
 #pragma once
 
