@@ -130,7 +130,7 @@ void CheckSaved(TCMemoryFiles& files, const TCSetListStore& opened, const TextLi
     }
   }
   const std::optional<std::string> bytes = files.BytesOf(kPath);
-  MustHold(document.SaveSetListDocument(kPath) && files.BytesOf(kPath) == bytes,
+  MustHold(SaveSetListDocument(files, kPath, document.PrepareSave(kPath)) && files.BytesOf(kPath) == bytes,
            "a second save changes nothing");
 }
 
@@ -153,7 +153,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   MustHold(store.groups.empty() == lines.empty(), "lines make groups");
   const bool whole = IsWholeDocument(parts[0]);
 
-  if (!document.SaveSetListDocument(kPath)) {
+  if (!SaveSetListDocument(files, kPath, document.PrepareSave(kPath))) {
     MustHold(KeptOf(store).empty(), "a save fails only where there is no song");
     MustHold(files.BytesOf(kPath) == parts[0], "a failed save leaves the file as it was");
     return 0;
