@@ -61,7 +61,7 @@ class Stick:
         screen.press("Up", "Up")
         self.moves_the_first_song_down()
         screen.press("ctrl+s", "alt+F4")
-        wait_for("the window to go", lambda: not screen.active_window_title().endswith("Brevant"), 1.5)
+        wait_for("the window to go", lambda: not screen.active_window_title().endswith("Brevant"), 3)
         assert self.program.running(), "the program did not wait for the stick"
         first = self.program
         self.start()

@@ -3,6 +3,7 @@
 #include <QDBusMessage>
 #include <QScopeGuard>
 #include <atomic>
+#include <thread>
 
 namespace brevant {
 namespace {
@@ -16,6 +17,7 @@ constexpr unsigned kDoNotQueue = 4;
 constexpr unsigned kPrimaryOwner = 1;
 constexpr unsigned kExists = 3;
 constexpr int kBusPatience = 1000;  // milliseconds
+constexpr std::chrono::milliseconds kBeforeAskingAgain(20);
 constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
 
 QString NewConnectionName() {
@@ -82,12 +84,18 @@ TCRunningProgram::TCHandOver TCRunningProgram::HandOver(const std::optional<std:
       kBusName, kObjectPath, kInterface, nativeName ? QStringLiteral("Open") : QStringLiteral("Activate"));
   if (nativeName) wish << QStringList(FileAddress(*nativeName));
   wish << platformData;
+  const auto deadline = std::chrono::steady_clock::now() + patience;
   const QDBusMessage reply =
       QDBusConnection(connectionName).call(wish, QDBus::Block, static_cast<int>(patience.count()));
   if (reply.type() == QDBusMessage::ReplyMessage) return TCHandOver::Done;
   if (reply.errorName() == kDialogOpen) return TCHandOver::DialogOpen;
-  standing = TakeName();
-  return standing == TCStanding::First ? TCHandOver::Gone : TCHandOver::NoAnswer;
+  // A program that ends may refuse the call a moment before its name is free.
+  while (true) {
+    standing = TakeName();
+    if (standing == TCStanding::First) return TCHandOver::Gone;
+    if (std::chrono::steady_clock::now() >= deadline) return TCHandOver::NoAnswer;
+    std::this_thread::sleep_for(kBeforeAskingAgain);
+  }
 }
 
 QVariantMap TCRunningProgram::PlatformData() {
