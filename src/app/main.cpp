@@ -2,6 +2,7 @@
 #include <QFile>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <span>
 
 #include "app/brevant_app.h"
