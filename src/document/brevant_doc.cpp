@@ -47,7 +47,9 @@ bool TCBrevantDoc::OnOpenDocument(std::u16string_view path) {
   modified = false;
   saver.WaitFor(pathName);
   ClearViewsAndStore();
-  if (documentFile.OpenSetListDocument(pathName)) {
+  const bool wasRead = documentFile.OpenSetListDocument(pathName);
+  saver.SetUnreadFile(wasRead ? std::u16string_view() : pathName);
+  if (wasRead) {
     tree.BuildAll();
     parts.record.setLists.RecalcAllTotalTimes();
     presenter.ShowPlaylist(parts.record.setLists.currentGroup, parts.record.setLists.currentPlaylist);

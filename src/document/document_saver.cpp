@@ -1,7 +1,7 @@
 #include "document/document_saver.h"
 
 #include <algorithm>
-#include <chrono>
+#include <thread>
 #include <utility>
 
 #include "document/recovery_copy.h"
@@ -13,28 +13,58 @@
 namespace brevant {
 namespace {
 
-bool IsSameFile(std::u16string_view path, std::u16string_view other) {
-  return ToLower(path) == ToLower(other);
-}
+constexpr std::chrono::milliseconds kNow(0);
+constexpr std::chrono::milliseconds kBeforeLookingAgain(10);
 
 }  // namespace
 
+bool TCDocumentSaver::TCSave::CameThrough() const {
+  return HasCome(onDisk, kNow) && onDisk.get();
+}
+
+bool TCDocumentSaver::TCSave::IsCopied() const {
+  return HasCome(copy, kNow) && !copy.get().empty();
+}
+
+bool TCDocumentSaver::TCSave::HasEnded() const {
+  return HasCome(onDisk, kNow) && HasCome(copy, kNow);
+}
+
 TCDocumentSaver::TCDocumentSaver(TCFileSystem& fileSystem, std::u16string_view recovery)
-    : files(fileSystem), recoveryFolder(recovery) {}
+    : files(fileSystem), recoveryFolder(recovery) {
+  SetUnreadFile({});
+}
+
+void TCDocumentSaver::SetUnreadFile(std::u16string_view path) {
+  unread = std::make_shared<TCUnreadFile>();
+  unread->path = path;
+}
 
 void TCDocumentSaver::Save(std::u16string_view path, TextLines lines) {
   if (lines.empty()) return;
+  const auto kept = std::make_shared<const TextLines>(std::move(lines));
+  TCSave save{std::u16string(path), WriteBehindOthers(path, kept), {}};
+  if (HasCome(save.onDisk, kDiskPatience) && save.onDisk.get()) return;
+  save.copy = AskDisk(files, [folder = recoveryFolder, name = FileNamePart(path), kept](TCFileSystem& disk) {
+    return WriteRecoveryCopy(disk, folder, name, *kept);
+  });
+  underWay.push_back(std::move(save));
+}
+
+std::shared_future<bool> TCDocumentSaver::WriteBehindOthers(std::u16string_view path,
+                                                            std::shared_ptr<const TextLines> lines) {
   std::shared_future<bool> before;
   if (const TCSave* last = LastSaveOf(path)) before = last->onDisk;
-  TCSave save{std::u16string(path), std::make_shared<const TextLines>(std::move(lines)), {}, {}};
-  save.onDisk = AskDisk(
-      files, [path = save.path, lines = save.lines, recovery = recoveryFolder, before](TCFileSystem& disk) {
-        if (before.valid()) before.wait();
-        if (SaveSetListDocument(disk, path, *lines)) return true;
-        WriteRecoveryCopy(disk, recovery, FileNamePart(path), *lines);
-        return false;
-      });
-  if (!HasCome(save.onDisk, kDiskPatience)) underWay.push_back(std::move(save));
+  const auto write = [file = std::u16string(path), lines = std::move(lines), before,
+                      old = unread](TCFileSystem& disk) {
+    if (before.valid()) before.wait();
+    const bool isUnread = EqualIgnoringCase(file, old->path) && !old->replaced;
+    const bool saved = SaveSetListDocument(disk, file, *lines,
+                                           isUnread ? TCKeepOldFile::Always : TCKeepOldFile::IfForeign);
+    if (saved && isUnread) old->replaced = true;
+    return saved;
+  };
+  return AskDisk(files, write);
 }
 
 void TCDocumentSaver::KeepRecoveryCopy(std::u16string_view path, const TextLines& lines) {
@@ -42,52 +72,46 @@ void TCDocumentSaver::KeepRecoveryCopy(std::u16string_view path, const TextLines
 }
 
 const TCDocumentSaver::TCSave* TCDocumentSaver::LastSaveOf(std::u16string_view path) const {
-  const auto last = std::find_if(underWay.rbegin(), underWay.rend(),
-                                 [path](const TCSave& save) { return IsSameFile(save.path, path); });
+  const auto last = std::find_if(underWay.rbegin(), underWay.rend(), [path](const TCSave& save) {
+    return EqualIgnoringCase(save.path, path);
+  });
   return last == underWay.rend() ? nullptr : &*last;
 }
 
 bool TCDocumentSaver::IsSaving(std::u16string_view path) const {
   const TCSave* last = LastSaveOf(path);
-  return last != nullptr && !HasCome(last->onDisk, std::chrono::milliseconds(0));
+  return last != nullptr && !HasCome(last->onDisk, kNow);
 }
 
 bool TCDocumentSaver::DropEndedSaves() {
   return std::erase_if(underWay, [this](const TCSave& save) {
-           if (!HasCome(save.onDisk, std::chrono::milliseconds(0))) return false;
-           // One that failed has left a copy of its own, and both stay.
-           if (!save.copy.empty() && save.onDisk.get()) files.DeleteFile(save.copy);
+           if (!save.HasEnded()) return false;
+           if (save.CameThrough() && save.IsCopied()) files.DeleteFile(save.copy.get());
            return true;
          }) > 0;
-}
-
-void TCDocumentSaver::CopyWhatHangs() {
-  for (TCSave& save : underWay) {
-    if (&save != LastSaveOf(save.path) || !save.copy.empty() || HasCome(save.onDisk, kDiskPatience)) continue;
-    save.copy = WriteRecoveryCopy(files, recoveryFolder, FileNamePart(save.path), *save.lines);
-  }
 }
 
 void TCDocumentSaver::WaitFor(std::u16string_view path) {
   const TCSave* last = LastSaveOf(path);
   if (last == nullptr) return;
-  CopyWhatHangs();
   last->onDisk.wait();
   DropEndedSaves();
 }
 
 void TCDocumentSaver::Finish(std::chrono::milliseconds patience) {
-  CopyWhatHangs();
   const auto deadline = std::chrono::steady_clock::now() + patience;
   for (const TCSave& save : underWay) {
-    if (&save != LastSaveOf(save.path)) continue;
-    if (save.copy.empty()) {
-      save.onDisk.wait();
-    } else {
-      save.onDisk.wait_until(deadline);
+    save.onDisk.wait_until(deadline);
+    save.copy.wait_until(deadline);
+    while (!save.CameThrough() && !save.IsCopied() && !save.HasEnded()) {
+      std::this_thread::sleep_for(kBeforeLookingAgain);
     }
   }
   DropEndedSaves();
+  // Of several saves of one file that hang only the last one counts.
+  for (const TCSave& save : underWay) {
+    if (&save != LastSaveOf(save.path) && save.IsCopied()) files.DeleteFile(save.copy.get());
+  }
   underWay.clear();
 }
 

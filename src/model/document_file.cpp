@@ -95,10 +95,15 @@ void ReadSongFiles(TCFileSystem& files, TCSetListStore& store) {
   }
 }
 
-[[nodiscard]] bool KeepForeignFile(TCFileSystem& files, std::u16string_view path) {
-  if (!files.FileExists(path)) return true;
+[[nodiscard]] bool IsForeignFile(TCFileSystem& files, std::u16string_view path) {
   const std::optional<std::string> bytes = files.ReadFile(path, kMaxTextFileBytes);
-  if (bytes && IsWholeDocument(*bytes)) return true;
+  return !bytes || !IsWholeDocument(*bytes);
+}
+
+// False when it is to be kept and cannot be.
+[[nodiscard]] bool KeepOldFile(TCFileSystem& files, std::u16string_view path, TCKeepOldFile keep) {
+  if (!files.FileExists(path)) return true;
+  if (keep == TCKeepOldFile::IfForeign && !IsForeignFile(files, path)) return true;
   return files.CopyFile(path, std::u16string(path) + u'~');
 }
 
@@ -182,8 +187,9 @@ TextLines TCDocumentFile::PrepareSave(std::u16string_view path) {
   return FlatLines();
 }
 
-bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines) {
-  return !lines.empty() && KeepForeignFile(files, path) && WriteTextLines(files, path, lines);
+bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines,
+                         TCKeepOldFile keep) {
+  return !lines.empty() && KeepOldFile(files, path, keep) && WriteTextLines(files, path, lines);
 }
 
 bool IsWholeDocument(std::string_view bytes) {

@@ -39,10 +39,17 @@ class TCDocumentFile {
   TCMessageDisplay& messages;
 };
 
+// When a save keeps what stood there before as "NAME.brv~".
+enum class TCKeepOldFile {
+  IfForeign,  // when this program could not have read it whole
+  Always,
+};
+
 // Writes the flat form; knows nothing of the set lists, so any thread may do it with a file system of its
-// own. False when that failed, and also when there is no line, which is no song, to write: the file is then
-// left as it was. A file that this program could not have read whole is kept beside it as "NAME.brv~" first.
-[[nodiscard]] bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines);
+// own. False when that failed, and also when there is no line, which is no song, to write, or when what is to
+// be kept cannot be: the file is then left as it was.
+[[nodiscard]] bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines,
+                                       TCKeepOldFile keep = TCKeepOldFile::IfForeign);
 
 // True when a document written from what was read says all that `bytes` say: UTF-16, every line ended,
 // nothing but songs. The folder form says more: which group list files, also those that were missing.

@@ -41,6 +41,22 @@ TEST_F(BrevantDocTest, AnUnreadableDocumentOpensEmptyUnderItsNameAndSaysNothing)
   EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
 }
 
+TEST_F(BrevantDocTest, ASaveOverADocumentThatCouldNotBeReadKeepsIt) {
+  const std::string old = *files.BytesOf(kShow);
+  files.MakeUnreadable(kShow);
+  document.OnOpenDocument(kShow);
+  files.MakeReadable(kShow);
+  record.setLists.groups.emplace_back().playlists.emplace_back().items.emplace_back().SetPath(u"new.mp3");
+  document.OnSaveDocument(kShow);
+  EXPECT_NE(files.BytesOf(kShow), old);
+  EXPECT_EQ(files.BytesOf(std::u16string(kShow) + u'~'), old);
+  document.OnOpenDocument(kShow);
+  const std::string saved = *files.BytesOf(kShow);
+  document.OnSaveDocument(kShow);
+  EXPECT_EQ(files.BytesOf(std::u16string(kShow) + u'~'), old) << "what was read is not kept";
+  EXPECT_EQ(files.BytesOf(kShow), saved);
+}
+
 TEST_F(BrevantDocTest, ANewDocumentIsEmptyAndHasNoName) {
   document.OnOpenDocument(kShow);
   document.SetModified();

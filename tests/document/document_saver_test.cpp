@@ -80,32 +80,41 @@ TEST_F(DocumentSaverTest, WhatFailsGoesToTheRecoveryFolderHoweverLate) {
   EXPECT_EQ(files.BytesOf(u"\\recovery\\Show (2).brv"), BytesOf(ASong(u"b.mp3")));
 }
 
-TEST_F(DocumentSaverTest, AtTheEndOfTheProgramASaveThatHangsIsInTheRecoveryFolder) {
-  files.hangs = true;
-  saver.Save(kShow, ASong(u"a.mp3"));
-  saver.Finish(milliseconds(0));
-  EXPECT_EQ(files.BytesOf(kRecovered), BytesOf(ASong(u"a.mp3")));
-}
-
-TEST_F(DocumentSaverTest, AtTheEndOfTheProgramEveryFileIsCopiedOnceAsItWasSavedLast) {
-  files.hangs = true;
-  saver.Save(kShow, ASong(u"a.mp3"));
-  saver.Save(u"E:\\Other.brv", ASong(u"b.mp3"));
-  saver.Save(kShow, ASong(u"c.mp3"));
-  saver.Finish(milliseconds(0));
-  EXPECT_EQ(files.BytesOf(kRecovered), BytesOf(ASong(u"c.mp3")));
-  EXPECT_EQ(files.BytesOf(u"\\recovery\\Other.brv"), BytesOf(ASong(u"b.mp3")));
-  EXPECT_EQ(files.FileCount(), 2u);
-  saver.Finish(milliseconds(0));
-  EXPECT_EQ(files.FileCount(), 2u) << "once";
-}
-
 TEST_F(DocumentSaverTest, AtTheEndOfTheProgramWhatIsOnTheDiskIsNotCopied) {
   files.hangs = true;
   saver.Save(kShow, ASong(u"a.mp3"));
   files.Wake();
   saver.Finish();
   EXPECT_EQ(files.FileCount(), 1u);
+}
+
+TEST_F(DocumentSaverTest, WhatFailsOnBothDisksHoldsNobodyUp) {
+  files.failWrites = true;
+  saver.Save(kShow, ASong(u"a.mp3"));
+  saver.Finish();
+  EXPECT_EQ(files.FileCount(), 0u);
+}
+
+TEST_F(DocumentSaverTest, AFileThatCouldNotBeReadIsKeptByTheFirstSaveThatComesThrough) {
+  const std::string old = BytesOf(ASong(u"old.mp3"));
+  files.Put(kShow, old);
+  saver.SetUnreadFile(kShow);
+  files.MakeUnwritable(kShow);
+  saver.Save(kShow, ASong(u"a.mp3"));
+  EXPECT_EQ(files.BytesOf(kShow), old) << "failed";
+  files.MakeWritable(kShow);
+  saver.Save(u"e:\\show.brv", ASong(u"b.mp3"));
+  saver.Save(kShow, ASong(u"c.mp3"));
+  EXPECT_EQ(files.BytesOf(u"E:\\Show.brv~"), old);
+  EXPECT_EQ(files.BytesOf(kShow), BytesOf(ASong(u"c.mp3")));
+}
+
+TEST_F(DocumentSaverTest, AFileThatWasReadIsReplaced) {
+  files.Put(kShow, BytesOf(ASong(u"old.mp3")));
+  saver.SetUnreadFile(kShow);
+  saver.SetUnreadFile({});
+  saver.Save(kShow, ASong(u"a.mp3"));
+  EXPECT_FALSE(files.BytesOf(u"E:\\Show.brv~").has_value());
 }
 
 // With threads, on a disk that hangs as a real one does: whoever opens the document waits.
@@ -125,17 +134,25 @@ class SaveOnAHangingDisk : public testing::Test {
     WaitUntil([this] { return disk->Waiting() > 0; });
   }
 
+  void WaitUntilItIsCopied() {
+    WaitUntil([this] { return std::filesystem::exists(folder.Native("recovery/Show.brv")); });
+  }
+
   // For another thread, while this one waits for the save: once the copy is there, it is done.
   void OnceItIsCopied(const std::function<void()>& meanwhile = [] {}) {
-    WaitUntil([this] { return std::filesystem::exists(folder.Native("recovery/Show.brv")); });
+    WaitUntilItIsCopied();
     meanwhile();
     disk.reset();
   }
 
   static void WaitUntil(const std::function<bool()>& holds) {
     const auto deadline = std::chrono::steady_clock::now() + seconds(30);
-    while (!holds() && std::chrono::steady_clock::now() < deadline) std::this_thread::yield();
-    EXPECT_TRUE(holds());
+    bool held = holds();
+    while (!held && std::chrono::steady_clock::now() < deadline) {
+      std::this_thread::yield();
+      held = holds();
+    }
+    EXPECT_TRUE(held);
   }
 
   std::optional<std::string> Read(const char* name) { return files.ReadFile(folder.Model(name), 1000); }
@@ -164,13 +181,39 @@ TEST_F(SaveOnAHangingDisk, AnotherFileWaitsForNobody) {
   EXPECT_EQ(Read("Other.brv"), BytesOf(ASong(u"second.mp3")));
 }
 
-TEST_F(SaveOnAHangingDisk, WhoWaitsForAFileReadsWhatWasSavedLastAndItIsCopiedMeanwhile) {
+TEST_F(SaveOnAHangingDisk, WhatHangsIsInTheRecoveryFolderUntilItComesThrough) {
+  SaveHangs(u"first.mp3");
+  WaitUntil([this] { return Read("recovery/Show.brv") == BytesOf(ASong(u"first.mp3")); });
+  EXPECT_TRUE(saver.IsSaving(show));
+  disk.reset();
+  WaitUntil([this] { return saver.DropEndedSaves(); });
+  EXPECT_FALSE(Read("recovery/Show.brv").has_value());
+  EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"first.mp3")));
+}
+
+TEST_F(SaveOnAHangingDisk, WhoWaitsForAFileReadsWhatWasSavedLast) {
   SaveHangs(u"first.mp3");
   std::thread meanwhile([this] { OnceItIsCopied(); });
   saver.WaitFor(show);
   EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"first.mp3")));
-  EXPECT_FALSE(Read("recovery/Show.brv").has_value());
   meanwhile.join();
+}
+
+TEST_F(SaveOnAHangingDisk, AtTheEndOfTheProgramItIsInTheRecoveryFolder) {
+  SaveHangs(u"first.mp3");
+  saver.Finish(milliseconds(0));
+  EXPECT_EQ(Read("recovery/Show.brv"), BytesOf(ASong(u"first.mp3")));
+}
+
+TEST_F(SaveOnAHangingDisk, AtTheEndOfTheProgramEveryFileIsThereOnceAsItWasSavedLast) {
+  SaveHangs(u"first.mp3");
+  WaitUntilItIsCopied();
+  saver.Save(folder.Model("Other.brv"), ASong(u"other.mp3"));
+  saver.Save(show, ASong(u"last.mp3"));
+  saver.Finish(seconds(1));
+  EXPECT_EQ(Read("recovery/Show (2).brv"), BytesOf(ASong(u"last.mp3")));
+  EXPECT_FALSE(Read("recovery/Show.brv").has_value());
+  EXPECT_FALSE(Read("recovery/Other.brv").has_value());
 }
 
 TEST_F(SaveOnAHangingDisk, OpeningTheDocumentWaitsForItsSave) {

@@ -43,6 +43,7 @@ class TCMemoryFiles final : public TCFileSystem {
   void Remove(std::u16string_view path) { files.erase(ToLower(path)); }
   void MakeUnreadable(std::u16string_view path) { unreadable.insert(ToLower(path)); }
   void MakeUnwritable(std::u16string_view path) { unwritable.insert(ToLower(path)); }
+  void MakeWritable(std::u16string_view path) { unwritable.erase(ToLower(path)); }
   void MakeReadable(std::u16string_view path) { unreadable.erase(ToLower(path)); }
 
   // The bytes that stand there now, readable or not; empty when there is no such file.
