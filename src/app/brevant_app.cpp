@@ -42,7 +42,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
       settingsFile(parts.files, parts.folders.settings),
       record(LoadRecord(settingsFile)),
       frame(record.settings, parts.player, parts.monitor),
-      prompts(frame, record.setLists, parts.paths),
+      prompts(frame, record.setLists, parts.files, parts.paths),
       document({.record = record,
                 .files = parts.files,
                 .player = &parts.player,
@@ -176,6 +176,7 @@ void TCBrevantApp::InitInstance(const TCStartFile& startFile) {
     QApplication::setWindowIcon(ProgramIcon());  // drawn in many sizes, so not before
     OpenFirstDocument();
     RestoreWindow();
+    closeGuard.StartIsOver();
     fileDrops.Accept();
     router.OnAppAbout();
   });

@@ -23,6 +23,7 @@ void TCCloseGuard::EndSession() {
 }
 
 void TCCloseGuard::WriteSettings() {
+  if (!started) return;
   KeepLayout();
   frame.SavePlacement(layout);
   layout.sync();

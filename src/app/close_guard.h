@@ -13,9 +13,13 @@ namespace brevant {
 
 class TCCloseGuard : public QObject {
  public:
-  // Watches over the frame's closing.
+  // Watches over the frame's closing. Nothing is written before the start is over: what the last run left
+  // would be lost with a start that was broken off.
   TCCloseGuard(TCMainFrame& mainFrame, QSettings& layoutStore, const TCSettingsFile& file,
                const TCAppRecord& appRecord, TCBrevantDoc& document);
+
+  // The first document is open, and the window stands as it is to stand.
+  void StartIsOver() { started = true; }
 
   // Nobody can be asked any more, because the session ends: settings are written, and unsaved changes go to
   // the recovery folder.
@@ -35,6 +39,7 @@ class TCCloseGuard : public QObject {
   const TCSettingsFile& settingsFile;
   const TCAppRecord& record;
   TCBrevantDoc& doc;
+  bool started = false;
 };
 
 }  // namespace brevant

@@ -89,6 +89,18 @@ class TCStartLog : public QObject {
   std::vector<std::string> steps;
 };
 
+TEST_F(StartAndClose, AStartThatIsBrokenOffLeavesWhatTheLastRunLeft) {
+  Start(kShow);
+  Close();
+  const std::optional<std::string> left = files.BytesOf(kIniPath);
+  Make();
+  app->InitInstance({});
+  ASSERT_TRUE(Frame().close()) << "before it was painted";
+  app.reset();
+  EXPECT_EQ(files.BytesOf(kIniPath), left);
+  EXPECT_EQ(Written(u"LastLoadedFileName"), kShow);
+}
+
 TEST_F(StartAndClose, AStartTakesItsStepsInTheirOrder) {
   Start(kShow);
   Frame().showMaximized();

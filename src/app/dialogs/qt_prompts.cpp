@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QScopedValueRollback>
@@ -16,6 +15,7 @@
 #include "app/dialogs/refused_name.h"
 #include "app/dialogs/song_properties_dlg.h"
 #include "resources/string_table.h"
+#include "text/disk_question.h"
 #include "text/regular_file.h"
 #include "views/text_conversion.h"
 
@@ -38,8 +38,8 @@ void ShowColumnsWhole(const QFileDialog& dialog) {
 }  // namespace
 
 TCQtPrompts::TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore,
-                         TCNativePaths nativePaths)
-    : frame(mainFrame), setLists(setListStore), paths(std::move(nativePaths)) {}
+                         TCFileSystem& fileSystem, TCNativePaths nativePaths)
+    : frame(mainFrame), setLists(setListStore), files(fileSystem), paths(std::move(nativePaths)) {}
 
 QWidget* TCQtPrompts::Parent() const {
   return open != nullptr ? static_cast<QWidget*>(open) : &frame;
@@ -109,20 +109,28 @@ TCSaveAnswer TCQtPrompts::AskSaveChanges(std::u16string_view name) {
   }
 }
 
-QString TCQtPrompts::DocumentFolder() const {
-  const QString folder = QFile::decodeName(paths.ToNative(setLists.documentFolder).c_str());
-  return !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath();
+QString TCQtPrompts::NativeName(std::u16string_view path) const {
+  return QFile::decodeName(paths.ToNative(path).c_str());
+}
+
+// The toolkit would wait for a folder whose disk is gone, and Save As is the way out when that is the document's.
+QString TCQtPrompts::FirstFolderThere(const QStringList& folders) const {
+  for (const QString& folder : folders) {
+    if (folder.isEmpty()) continue;
+    auto exists = AskDisk(files, [folder](TCFileSystem&) { return QDir(folder).exists(); });
+    if (HasCome(exists, kDiskPatience) && exists.get()) return folder;
+  }
+  return QDir::homePath();
 }
 
 void TCQtPrompts::SetUp(QFileDialog& dialog) const {
   dialog.setNameFilter(ToQString(DocumentTemplateText(TCDocumentTemplateField::FilterName)));
   dialog.setDefaultSuffix(ToQString(TextOf(TCTextId::DocumentExtension)));
-  dialog.setDirectory(DocumentFolder());
   ShowColumnsWhole(dialog);
 }
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
-  QFileDialog dialog(Parent(), QStringLiteral("Open"));
+  QFileDialog dialog(Parent(), QStringLiteral("Open"), FirstFolderThere({NativeName(setLists.documentFolder)}));
   dialog.setObjectName(QStringLiteral("OpenDocument"));
   SetUp(dialog);
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -130,11 +138,12 @@ std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
 }
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToSave(std::u16string_view suggestedPath) {
-  QFileDialog dialog(Parent(), QStringLiteral("Save As"));
+  const QFileInfo suggested(NativeName(suggestedPath.empty() ? setLists.documentFolder : suggestedPath));
+  QFileDialog dialog(Parent(), QStringLiteral("Save As"), FirstFolderThere({suggested.absolutePath()}));
   dialog.setObjectName(QStringLiteral("SaveDocument"));
   SetUp(dialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  if (!suggestedPath.empty()) dialog.selectFile(QFile::decodeName(paths.ToNative(suggestedPath).c_str()));
+  dialog.selectFile(suggested.fileName());
   return Choose(dialog);
 }
 
@@ -144,28 +153,35 @@ std::optional<std::u16string> TCQtPrompts::Choose(QFileDialog& dialog) {
   return chosen.empty() ? std::nullopt : std::optional(chosen.front());
 }
 
-void TCQtPrompts::SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& question) const {
-  dialog.setFileMode(question.count == TCChooseFiles::One ? QFileDialog::ExistingFile
-                                                          : QFileDialog::ExistingFiles);
-  dialog.setNameFilters(MediaFileFilters(question.types));
-  dialog.setDefaultSuffix(ToQString(question.defaultType));
-  dialog.setDirectory(!mediaFolder.isEmpty() && QDir(mediaFolder).exists() ? mediaFolder : DocumentFolder());
-  ShowColumnsWhole(dialog);
-  if (question.initialPath.empty()) return;
-  const std::string written = paths.ToNative(question.initialPath);
-  TCOtherCase otherCase;
-  const TCRegularFile found = FindRegularFile(written, otherCase);
-  const QFileInfo last(QFile::decodeName(found.file.IsOpen() ? found.native.c_str() : written.c_str()));
-  if (last.absoluteDir().exists()) dialog.setDirectory(last.absoluteDir());
-  dialog.selectFile(last.fileName());
+// As the file is spelled on its disk; as `path` has it when it is not there.
+QFileInfo TCQtPrompts::FoundOnDisk(std::u16string_view path) const {
+  const std::string written = paths.ToNative(path);
+  auto found = AskDisk(files, [written](TCFileSystem&) {
+    TCOtherCase otherCase;
+    const TCRegularFile opened = FindRegularFile(written, otherCase);
+    return opened.file.IsOpen() ? opened.native : written;
+  });
+  return QFileInfo(QFile::decodeName((HasCome(found, kDiskPatience) ? found.get() : written).c_str()));
 }
 
 std::optional<std::vector<std::u16string>> TCQtPrompts::ChooseMediaFiles(
     const TCMediaFileQuestion& question) {
   const bool one = question.count == TCChooseFiles::One;
-  QFileDialog dialog(Parent(), one ? QStringLiteral("Choose a Song") : QStringLiteral("Find Songs"));
+  QStringList folders{mediaFolder, NativeName(setLists.documentFolder)};
+  QString lastName;
+  if (!question.initialPath.empty()) {
+    const QFileInfo last = FoundOnDisk(question.initialPath);
+    folders.prepend(last.absolutePath());
+    lastName = last.fileName();
+  }
+  QFileDialog dialog(Parent(), one ? QStringLiteral("Choose a Song") : QStringLiteral("Find Songs"),
+                     FirstFolderThere(folders));
   dialog.setObjectName(QStringLiteral("FindSongs"));
-  SetUpForMedia(dialog, question);
+  dialog.setFileMode(one ? QFileDialog::ExistingFile : QFileDialog::ExistingFiles);
+  dialog.setNameFilters(MediaFileFilters(question.types));
+  dialog.setDefaultSuffix(ToQString(question.defaultType));
+  ShowColumnsWhole(dialog);
+  dialog.selectFile(lastName);
   if (Run(dialog) != QDialog::Accepted) return {};
   mediaFolder = dialog.directory().absolutePath();
   return ModelPathsOf(dialog);

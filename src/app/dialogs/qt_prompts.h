@@ -4,11 +4,14 @@
 // and the document's tick goes on behind a question.
 #pragma once
 
+#include <QFileInfo>
 #include <QString>
+#include <QStringList>
 
 #include "app/main_frame.h"
 #include "document/prompts.h"
 #include "model/set_list_store.h"
+#include "text/file_system.h"
 #include "text/native_path.h"
 
 class QDialog;
@@ -18,8 +21,10 @@ namespace brevant {
 
 class TCQtPrompts final : public TCPrompts {
  public:
-  // The choosers start in the folder of the document that the set lists were opened from or saved to last.
-  TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore, TCNativePaths nativePaths);
+  // The choosers start in the folder of the document that the set lists were opened from or saved to last, and
+  // in the home folder when that is not there or its disk does not answer.
+  TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore, TCFileSystem& fileSystem,
+              TCNativePaths nativePaths);
 
   [[nodiscard]] std::optional<std::u16string> EnterText(const TCTextPrompt& prompt) override;
   [[nodiscard]] TCSaveAnswer AskSaveChanges(std::u16string_view name) override;
@@ -41,15 +46,18 @@ class TCQtPrompts final : public TCPrompts {
   // What the dialog ends with; cancelled at once while another question is open.
   int Run(QDialog& dialog);
 
-  [[nodiscard]] QString DocumentFolder() const;
+  [[nodiscard]] QString NativeName(std::u16string_view path) const;
+  // Of all that are not empty; the home folder when none is there.
+  [[nodiscard]] QString FirstFolderThere(const QStringList& folders) const;
+  [[nodiscard]] QFileInfo FoundOnDisk(std::u16string_view path) const;
   void SetUp(QFileDialog& dialog) const;
   [[nodiscard]] std::optional<std::u16string> Choose(QFileDialog& dialog);
-  void SetUpForMedia(QFileDialog& dialog, const TCMediaFileQuestion& question) const;
   // The files chosen that the model can hold.
   [[nodiscard]] std::vector<std::u16string> ModelPathsOf(const QFileDialog& dialog);
 
   TCMainFrame& frame;
   const TCSetListStore& setLists;
+  TCFileSystem& files;
   TCNativePaths paths;
   QDialog* open = nullptr;  // the uppermost
   QString mediaFolder;      // where the media chooser was left

@@ -20,6 +20,7 @@
 #include "document/song_properties.h"
 #include "support/edit_rig.h"
 #include "support/fake_player.h"
+#include "support/memory_files.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
@@ -47,7 +48,8 @@ class QtPrompts : public testing::Test {
   TCSetListStore setLists;
   TCFakePlayer player;
   TCMainFrame frame{settings, player, player};
-  TCQtPrompts prompts{frame, setLists, TCNativePaths()};
+  TCMemoryFiles disk;  // hangs when a test wants it
+  TCQtPrompts prompts{frame, setLists, disk, TCNativePaths()};
   QTemporaryDir folder;
 };
 
@@ -205,6 +207,30 @@ TEST_F(QtPrompts, TheChoosersStartInTheDocumentsFolder) {
     dialog.reject();
   });
   EXPECT_FALSE(prompts.ChooseDocumentToOpen().has_value());
+}
+
+TEST_F(QtPrompts, AFolderWhoseDiskDoesNotAnswerIsNotWaitedFor) {
+  setLists.documentFolder = Model("");
+  disk.hangs = true;
+  const auto expectHome = [](const QString& name) {
+    return [name](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.directory(), QDir::home());
+      EXPECT_EQ(NameIn(dialog).text(), name);
+      dialog.reject();
+    };
+  };
+  {
+    const TCDialogAnswer<QFileDialog> answer(expectHome(QString()));
+    (void)prompts.ChooseDocumentToOpen();
+  }
+  {
+    const TCDialogAnswer<QFileDialog> answer(expectHome(QStringLiteral("show.brv")));
+    (void)prompts.ChooseDocumentToSave(Model("show.brv"));
+  }
+  TCMediaFileQuestion question = SongQuestion();
+  question.initialPath = Model("song.mp3");
+  const TCDialogAnswer<QFileDialog> answer(expectHome(QStringLiteral("song.mp3")));
+  (void)prompts.ChooseMediaFiles(question);
 }
 
 TEST_F(QtPrompts, SavingUnderANameWithoutATypeAddsIt) {
