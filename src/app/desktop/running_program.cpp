@@ -85,15 +85,19 @@ TCRunningProgram::TCHandOver TCRunningProgram::HandOver(const std::optional<std:
   if (nativeName) wish << QStringList(FileAddress(*nativeName));
   wish << platformData;
   const auto deadline = std::chrono::steady_clock::now() + patience;
-  const QDBusMessage reply =
-      QDBusConnection(connectionName).call(wish, QDBus::Block, static_cast<int>(patience.count()));
-  if (reply.type() == QDBusMessage::ReplyMessage) return TCHandOver::Done;
-  if (reply.errorName() == kDialogOpen) return TCHandOver::DialogOpen;
-  // A program that ends may refuse the call a moment before its name is free.
   while (true) {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+    if (left <= left.zero()) return TCHandOver::NoAnswer;
+    const QDBusMessage reply =
+        QDBusConnection(connectionName).call(wish, QDBus::Block, static_cast<int>(left.count()));
+    if (reply.type() == QDBusMessage::ReplyMessage) return TCHandOver::Done;
+    if (reply.errorName() == kDialogOpen) return TCHandOver::DialogOpen;
+    if (reply.errorName() == QDBusError::errorString(QDBusError::InvalidArgs)) return TCHandOver::NoAnswer;
+    // A program that ends may refuse the call a moment before its name is free, and another start that waits
+    // for it may be the one that gets the name.
     standing = TakeName();
     if (standing == TCStanding::First) return TCHandOver::Gone;
-    if (std::chrono::steady_clock::now() >= deadline) return TCHandOver::NoAnswer;
     std::this_thread::sleep_for(kBeforeAskingAgain);
   }
 }

@@ -107,6 +107,41 @@ TEST_F(RunningProgram, AFirstThatEndsInsteadOfAnsweringHandsItsPlaceOver) {
   EXPECT_EQ(third.Standing(), Standing::Second);
 }
 
+TEST_F(RunningProgram, OfTwoThatWaitOneTakesThePlaceAndTheOtherHandsItsFileOverToIt) {
+  std::optional<TCRunningProgram> first(Address());
+  ASSERT_EQ(first->Standing(), Standing::First);
+  TCRunningProgram second(Address());
+  TCRunningProgram third(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  ASSERT_EQ(third.Standing(), Standing::Second);
+  auto of2 = std::async(std::launch::async, [&] { return second.HandOver("/two.brv", {}); });
+  auto of3 = std::async(std::launch::async, [&] { return third.HandOver("/three.brv", {}); });
+  EXPECT_EQ(of2.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
+  first.reset();
+  const auto has = [](const std::future<Outcome>& outcome) {
+    return outcome.wait_for(std::chrono::milliseconds(1)) == std::future_status::ready;
+  };
+  while (!has(of2) && !has(of3)) {
+  }
+  const bool secondIsFirstNow = has(of2);
+  (secondIsFirstNow ? second : third).Serve(door);
+  while (!has(of2) || !has(of3)) QTest::qWait(1);
+  EXPECT_EQ(of2.get(), secondIsFirstNow ? Outcome::Gone : Outcome::Done);
+  EXPECT_EQ(of3.get(), secondIsFirstNow ? Outcome::Done : Outcome::Gone);
+  EXPECT_EQ(door.knocks, std::vector<std::string>{secondIsFirstNow ? "open /three.brv" : "open /two.brv"});
+}
+
+TEST_F(RunningProgram, WhatTheFirstRefusesIsNotAskedForAgain) {
+  TCRunningProgram first(Address());
+  ASSERT_EQ(first.Standing(), Standing::First);
+  first.Serve(door);
+  TCRunningProgram second(Address());
+  ASSERT_EQ(second.Standing(), Standing::Second);
+  const auto begun = std::chrono::steady_clock::now();
+  EXPECT_EQ(HandOver(second, "no absolute name"), Outcome::NoAnswer);
+  EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(9)) << "its patience is ten";
+}
+
 TEST_F(RunningProgram, TheNameIsFreeWhenTheFirstHasGone) {
   {
     TCRunningProgram first(Address());
