@@ -201,7 +201,9 @@ class Judge:
         while time.time() < deadline:
             look = self.run.window.look()
             if look.song == name:
-                self.run.stepped_from = None
+                # One that was in the player already says nothing of the playlist that it was asked for in.
+                if name != look_before.song:
+                    self.run.stepped_from = None
                 return
             if look.song is None:
                 return
