@@ -11,6 +11,8 @@
 #include "app/desktop/command_line.h"
 #include "app/desktop/drive_folders.h"
 #include "app/desktop/running_program.h"
+#include "app/desktop/session_end.h"
+#include "app/desktop/sudden_exit.h"
 #include "app/desktop/termination_signals.h"
 #include "app/look/stage_style.h"
 #include "playback/gst/gst_length_probe.h"
@@ -104,6 +106,12 @@ int main(int argc, char** argv) {
   TCTerminationSignals terminationSignals;
   QObject::connect(&terminationSignals, &TCTerminationSignals::endWanted, &program,
                    &TCBrevantApp::EndSession);
+  TCSessionEnd sessionEnd(toolkit);
+  QObject::connect(&sessionEnd, &TCSessionEnd::endWanted, &program, &TCBrevantApp::EndSession);
+  const TCSuddenExit suddenExit([&program] {
+    program.Document().KeepUnsavedChanges();
+    program.Document().FinishSaves();
+  });
   program.InitInstance(StartFileOf(commandLine));
   const int status = QApplication::exec();
   player.Stop();

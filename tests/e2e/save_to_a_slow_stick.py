@@ -35,8 +35,7 @@ class Stick:
         wait_for(f"the title {title!r}", lambda: screen.active_window_title() == title, 15)
 
     def order(self):
-        lines = self.document.read_bytes().decode("utf-16-le").splitlines()
-        return [line.split('"')[5].rpartition("\\")[2] for line in lines]
+        return songs.names_in(self.document)
 
     def recovered(self):
         return sorted(self.rig.home.glob("state/**/*.brv"))

@@ -68,6 +68,12 @@ def write_document(path, rows):
     pathlib.Path(path).write_bytes("".join(lines).encode("utf-16-le"))
 
 
+def names_in(document):
+    """The file names of a document's songs, in its order."""
+    lines = document.read_bytes().decode("utf-16-le").splitlines()
+    return [line.split('"')[5].rpartition("\\")[2] for line in lines]
+
+
 def write_lyrics(song, lines):
     """A lyric file beside the song from (milliseconds, text) lines."""
     text = "".join(f"[{at // 60000:02d}:{at // 1000 % 60:02d}.{at % 1000:03d}]{words}\r\n" for at, words in lines)
