@@ -12,15 +12,20 @@ constexpr std::string_view kOpening =
     R"(# Commands and keys
 
 All commands, menu by menu, with the keys that Brevant comes with. A command without a key is reached by the menus and
-the [bars](bars.md).
+the [bars](bars.md). Two more have neither key nor place in these menus: Refresh Song Time is in the menu of the right mouse
+button ([what it does](performing.md#stop-before-you-step)), and "Copy playlist into the playlist window", which shows the
+playlist that is selected in the playlist manager, can be
+[put on a key or a bar](bars.md#making-bars-and-keys-your-own).
 
-The keys act whichever part of the window has the focus, with two exceptions. While you type into a field
-only the F-keys and the keyboard's own volume keys act. While the playlist manager has the focus, it keeps the
-arrow keys, Shift+Up and Shift+Down for itself, and Enter when a playlist or a song is selected.
+The keys act whichever part of the window has the focus, with three exceptions. While you type into a field only the
+F-keys and the keyboard's own volume keys act. While the playlist manager has the focus, it keeps the arrow keys, Shift+Up
+and Shift+Down for itself, and Enter when a playlist or a song is selected. While the properties have it, they keep the
+arrow keys, and Enter on "Title".
 
-Volume, seeking, stepping through songs and playlists, and moves in the playlist manager repeat while the key
-is held. Every other key acts once a press. Some menus hint at other keys than these; the keys on this page are
-the ones that act, until you [give a command others](bars.md#making-bars-and-keys-your-own).
+Volume, seeking, stepping through songs and playlists, and moves in the playlist manager repeat while the key is held.
+Every other key acts once a press. Some menus, the third column here and the line at the bottom of the window hint at
+other keys, too; the first column has the ones that act, until you
+[give a command others](bars.md#making-bars-and-keys-your-own).
 
 <!-- Written by brevant_key_table from the command table. Do not edit: run it again. -->
 )";
