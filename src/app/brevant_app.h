@@ -41,7 +41,7 @@ struct TCAppParts {
   TCProgramFolders folders;
   QString layoutFile;                    // native; what the user arranged by hand is kept there
   QStringList libraries;                 // for the About box, one "Name version" each
-  TCLengthProbe* lengthProbe = nullptr;  // null: song times are measured with the player itself
+  TCLengthProbe* lengthProbe = nullptr;  // null: no song times are measured
 };
 
 // The file named on the command line.

@@ -39,7 +39,7 @@ struct TCDocumentParts {
   TCFrameDisplay& frame;
   TCPrompts& prompts;
   TCProgramFolders folders;
-  TCLengthProbe* lengthProbe = nullptr;       // null: song times are measured with the player itself
+  TCLengthProbe* lengthProbe = nullptr;       // null: no song times are measured
   TCRepeatFields* repeatFields = nullptr;     // null: there is no repeat range
   TCPropertiesDisplay* properties = nullptr;  // null: there is no properties pane
   TCRecentFileList* recentFiles = nullptr;    // null: nobody remembers

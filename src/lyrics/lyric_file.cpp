@@ -76,6 +76,16 @@ View<Char> HeaderValue(View<Char> tag, const HeaderTag& header) {
   return tag.substr(std::min(tag.size(), header.mark.size()));
 }
 
+// False when the tag is no header's.
+template <class Char>
+bool TakeHeader(View<Char> tag, TCLyricSheet& sheet) {
+  const HeaderTag* header = FindHeaderTag(tag);
+  if (header == nullptr) return false;
+  const View<Char> value = HeaderValue(tag, *header);
+  (sheet.headers.*header->value).assign(value.begin(), value.end());
+  return true;
+}
+
 template <class Char>
 std::int32_t SingerOf(View<Char> text) {
   if (text.find(':') == kNone) return kNoSinger;
@@ -105,6 +115,12 @@ View<Char> TextBehindTags(View<Char> rest) {
     rest.remove_prefix(tagEnd + 1);
   }
   return rest;
+}
+
+// Where the line's first tag ends; kNone when the line has none and says nothing.
+template <class Char>
+std::size_t FirstTagEnd(View<Char> line) {
+  return line.find('[') == kNone ? kNone : line.find(']');
 }
 
 // The '[' is taken to stand first: whatever stands there is dropped, so a line with something in front of its
@@ -146,19 +162,13 @@ void ParseByteLine(std::string_view line, TCLyricSheet& sheet) {
   if (const PlainTag plain = ReadPlainTag(line); plain.end > 0) {
     return AddByteLine(line, plain.end, plain.time, sheet);
   }
-  if (line.find('[') == kNone) return;
-  const std::size_t tagEnd = line.find(']');
+  const std::size_t tagEnd = FirstTagEnd(line);
   if (tagEnd == kNone) return;
-  const std::string_view tag = TagIn(line, tagEnd);
   const bool ascii = std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(tagEnd),
                                  [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
   if (!ascii) return ParseLyricLine(DecodeLyricText(line), sheet);  // where units are counted, UTF-16 counts
-  if (const HeaderTag* header = FindHeaderTag(tag)) {
-    const std::string_view value = HeaderValue(tag, *header);
-    (sheet.headers.*header->value).assign(value.begin(), value.end());
-    return;
-  }
-  AddByteLine(line, tagEnd, TimeOf(tag), sheet);
+  const std::string_view tag = TagIn(line, tagEnd);
+  if (!TakeHeader(tag, sheet)) AddByteLine(line, tagEnd, TimeOf(tag), sheet);
 }
 
 // Every line ends where the next one begins. All but the last are moved by the offset; the last keeps its
@@ -210,14 +220,10 @@ bool LoadLyrics(TCFileSystem& files, std::u16string_view songPath, TCSongLyrics&
 }
 
 void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {
-  if (line.find(u'[') == kNone) return;
-  const std::size_t tagEnd = line.find(u']');
+  const std::size_t tagEnd = FirstTagEnd(line);
   if (tagEnd == kNone) return;
   const std::u16string_view tag = TagIn(line, tagEnd);
-  if (const HeaderTag* header = FindHeaderTag(tag)) {
-    sheet.headers.*header->value = HeaderValue(tag, *header);
-    return;
-  }
+  if (TakeHeader(tag, sheet)) return;
 
   const std::u16string_view text = TextBehindTags(line.substr(tagEnd + 1));
   sheet.Add({std::u16string(text), TimeOf(tag), kEndOfLyrics, SingerOf(text)});

@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "playback/player_length_probe.h"
 #include "text/disk_question.h"
 #include "text/time_text.h"
 
@@ -15,12 +14,6 @@ namespace {
 
 TCSongStatus StatusOf(std::future<bool>& found) {
   return found.get() ? TCSongStatus::Found : TCSongStatus::NotFound;
-}
-
-// Null when there is a silent probe, or nothing to measure with.
-std::unique_ptr<TCLengthProbe> MakePlayerProbe(const TCTransportParts& parts) {
-  if (parts.lengthProbe != nullptr || parts.player == nullptr) return nullptr;
-  return std::make_unique<TCPlayerLengthProbe>(*parts.player);
 }
 
 }  // namespace
@@ -33,8 +26,7 @@ TCTransport::TCTransport(const TCTransportParts& parts)
       messages(parts.messages),
       player(parts.player),
       repeatFields(parts.repeatFields),
-      playerProbe(MakePlayerProbe(parts)),
-      timeRun(record, playerProbe ? playerProbe.get() : parts.lengthProbe, messages),
+      timeRun(record, parts.lengthProbe, messages),
       lyricDisplay(record, messages) {}
 
 void TCTransport::Play() {
@@ -182,10 +174,7 @@ void TCTransport::ForgetSong() {
 }
 
 void TCTransport::StartTimeRun(TCTimeScope scope) {
-  const bool measuredBefore = timeRun.Pending();
   timeRun.Start(scope);
-  // A song that the player gives up for the measuring has not ended by that.
-  if (playerProbe && (measuredBefore || timeRun.Pending())) state.playing = false;
 }
 
 bool TCTransport::StepTimeRun() {

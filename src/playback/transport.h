@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <future>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,7 +39,7 @@ struct TCTransportParts {
   TCSetListDisplay& display;
   TCMessageDisplay& messages;
   TCPlayer* player = nullptr;              // null: what needs it is without effect and without error
-  TCLengthProbe* lengthProbe = nullptr;    // null: song times are measured with the player itself
+  TCLengthProbe* lengthProbe = nullptr;    // null: no song times are measured
   TCRepeatFields* repeatFields = nullptr;  // null: there is no repeat range
 };
 
@@ -72,7 +71,8 @@ class TCTransport {
   // Takes the current song's time from the player; what it does not know is stored as "00:00".
   void RefreshCurrentSongTime();
 
-  // Measures the songs' times, one a tick, until the run is done or cancelled.
+  // Measures the songs' times, one a tick, until the run is done or cancelled. A song that plays is left
+  // alone.
   void StartTimeRun(TCTimeScope scope);
   [[nodiscard]] const TCTimeRun& TimeRun() const { return timeRun; }
 
@@ -123,7 +123,6 @@ class TCTransport {
   TCMessageDisplay& messages;
   TCPlayer* player = nullptr;
   TCRepeatFields* repeatFields = nullptr;
-  std::unique_ptr<TCLengthProbe> playerProbe;  // where there is no silent one
   TCTimeRun timeRun;
   TCLyricDisplay lyricDisplay;
   std::optional<TCAwaitedFile> awaitedFile;

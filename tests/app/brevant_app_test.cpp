@@ -396,7 +396,6 @@ TEST_F(BrevantApp, AltRMeasuresAllSongsAndOpensNoMenu) {
 
 TEST_F(BrevantApp, TheStatusBarSaysHowFarARunHasComeUntilItEnds) {
   Start(kShow);
-  player.SetDefaultSong({.opensAfter = 0.0});
   Press(Qt::Key_T);
   app->Document().OnPlayTimerTick();
   EXPECT_EQ(Frame().StatusLine().ShownMessage(), QStringLiteral("1 of 2"));

@@ -12,6 +12,7 @@
 
 #include "app/brevant_app.h"
 #include "app/dialogs/about_box.h"
+#include "support/fake_length_probe.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "text/ini_text.h"
@@ -50,7 +51,8 @@ class TCWholeProgram : public testing::Test {
                            TCNativePaths(),
                            {u"\\opt\\", u"\\conf\\", u"\\state\\"},
                            layoutFolder.filePath(QStringLiteral("Layout.ini")),
-                           {}});
+                           {},
+                           &probe});
   }
 
   void StartWith(const TCStartFile& startFile) {
@@ -99,6 +101,7 @@ class TCWholeProgram : public testing::Test {
   QTemporaryDir layoutFolder;
   TCMemoryFiles files;
   TCFakePlayer player;
+  TCFakeLengthProbe probe;
   std::optional<TCBrevantApp> app;
 };
 

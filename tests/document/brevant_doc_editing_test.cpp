@@ -338,7 +338,7 @@ TEST_F(BrevantDocEditingTest, MeasuredTimesAreShownInTheRowsThatStandThereWhileA
   document.PickNode(tree.NodeNamed(u"Two"));
   ASSERT_EQ(record.setLists.currentPlaylist, 1);
   ASSERT_EQ(view.rows[1].texts.time, u"04:00");
-  player.SetDefaultSong({.length = 90.0});
+  probe.defaultLength = 90;
   document.OnCommand(Id::RefreshAllTimes);
   Poll(20);
   EXPECT_EQ(view.rows[1].texts.time, u"01:30");

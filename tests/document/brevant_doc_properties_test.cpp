@@ -127,7 +127,7 @@ TEST_F(BrevantDocProperties, ATotalThatChangedRefreshes) {
 }
 
 TEST_F(BrevantDocProperties, ATimeRunRefreshesAtItsEnd) {
-  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  probe.defaultLength = 65;
   document.OnCommand(Id::RefreshPlaylistTimes);
   EXPECT_FALSE(Refreshes([this] { Poll(1); }));
   EXPECT_TRUE(Refreshes([this] { Poll(3); }));

@@ -331,6 +331,7 @@ TEST_F(BrevantDocTest, CancelSaysSoAndDropsTheMouseState) {
 
 TEST_F(BrevantDocTest, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  probe.defaultLength = 65;
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
   Poll(1);
@@ -354,7 +355,7 @@ TEST_F(BrevantDocTest, ClearInformationEmptiesTheMessages) {
 }
 
 TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) {
-  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  probe.defaultLength = 65;
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
   Poll(1);
@@ -368,7 +369,6 @@ TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) 
 }
 
 TEST_F(BrevantDocTest, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
-  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.DropFiles({u"C:\\a.mp3"});
   document.OnCommand(TCCommandId::RefreshAllTimes);
@@ -378,7 +378,6 @@ TEST_F(BrevantDocTest, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
 }
 
 TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {
-  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
   Poll(1);
@@ -388,7 +387,7 @@ TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {
 }
 
 TEST_F(BrevantDocTest, ARunOverThePlaylistLeavesTheOthersAlone) {
-  player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
+  probe.defaultLength = 65;
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshPlaylistTimes);
   Poll(5);

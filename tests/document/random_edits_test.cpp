@@ -9,6 +9,7 @@
 #include "document/brevant_doc.h"
 #include "support/edit_watch.h"
 #include "support/fake_frame.h"
+#include "support/fake_length_probe.h"
 #include "support/fake_player.h"
 #include "support/fake_playlist_view.h"
 #include "support/fake_tree.h"
@@ -26,6 +27,8 @@ class RandomEditsTest : public testing::TestWithParam<std::uint32_t> {
       files.Put(path);
     files.Put(u"C:\\a.lrc", "[00:01.0]Hello");
     player.SetDefaultSong({.length = 1.0});
+    probe.defaultLength = 1;
+    probe.looksUntilKnown = 1;
     document.OnNewDocument();
   }
 
@@ -77,12 +80,13 @@ class RandomEditsTest : public testing::TestWithParam<std::uint32_t> {
   TCMemoryFiles files;
   TCAppRecord record;
   TCFakePlayer player;
+  TCFakeLengthProbe probe;
   TCFakePlaylistView view;
   TCFakeTree tree;
   TCMessageLog messages;
   TCFakeFrame frame;
   TCRandomPrompts prompts{dice};
-  TCBrevantDoc document{{record, files, &player, view, tree, messages, frame, prompts, {}}};
+  TCBrevantDoc document{{record, files, &player, view, tree, messages, frame, prompts, {}, &probe}};
   TCRandomUser user{
       dice,
       record,

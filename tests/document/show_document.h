@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/document_rig.h"
+#include "support/fake_length_probe.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 
@@ -46,7 +47,8 @@ class TCShowDocument : public testing::Test {
 
   TCMemoryFiles files;
   TCFakePlayer player;
-  TCDocumentRig rig{files, &player};
+  TCFakeLengthProbe probe;
+  TCDocumentRig rig{files, &player, &probe};
 
   TCAppRecord& record = rig.record;
   TCFakePlaylistView& view = rig.view;

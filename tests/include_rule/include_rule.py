@@ -2,7 +2,8 @@
 """Holds the order of the rooms over every #include under src/: include_rule.py SRC
 
 A room includes only rooms below it, the GStreamer back end is seen by app/ alone, Qt stays in the window rooms,
-GStreamer and its companions stay in the back end, and everything else is the standard library.
+GStreamer and its companions stay in the back end, and everything else is the standard library. What of that reads and
+writes files counts as a call to the system.
 """
 
 import pathlib
@@ -20,13 +21,14 @@ MAY_CALL_THE_SYSTEM = ("app", "text", BACK_END)
 STANDARD = set("""
     algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes climits
     clocale cmath codecvt compare complex concepts condition_variable coroutine csetjmp csignal cstdarg cstddef cstdint
-    cstdio cstdlib cstring ctime cuchar cwchar cwctype deque exception execution filesystem format forward_list fstream
-    functional future initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory
-    memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator
-    semaphore set shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view
-    strstream syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
-    valarray variant vector version
+    cstdio cstdlib cstring ctime cuchar cwchar cwctype deque exception execution format forward_list functional future
+    initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory memory_resource
+    mutex new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore set
+    shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view strstream
+    syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility valarray
+    variant vector version
 """.split())
+DISK = ("filesystem", "fstream")
 SYSTEM = re.compile(r"(sys/[\w/]+|dlfcn|fcntl|unistd|dirent|errno|limits|poll|signal|spawn|windows|io)\.h$")
 QT = re.compile(r"(Q[A-Za-z]\w*(/.*)?|q[a-z]+\.h|qpa/.*)$")
 MEDIA = re.compile(r"(gst/.*|glib.*|gio/.*|fluidsynth.*|mpg123\.h)$")
@@ -74,7 +76,7 @@ def foreign(room, name):
         return None if room in MAY_USE_QT else "takes Qt below the window rooms"
     if MEDIA.match(name):
         return None if room == BACK_END else f"belongs in {BACK_END}/ alone"
-    if SYSTEM.match(name):
+    if name in DISK or SYSTEM.match(name):
         return None if room in MAY_CALL_THE_SYSTEM else "calls the system past text/, where the files are read and written"
     return "is neither the standard library nor one that this room may use"
 

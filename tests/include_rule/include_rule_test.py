@@ -14,6 +14,7 @@ GOOD = {
     "model/store.h": '#include "text/disk_files.h"\n',
     "playback/player.h": "#include <string>\n",
     "playback/gst/pipeline.cpp": '#include <gst/gst.h>\n#include <fluidsynth.h>\n#include "playback/player.h"\n',
+    "playback/gst/search.cpp": "#include <filesystem>\n",
     "document/document.h": '#include "playback/player.h"\n#include "model/store.h"\n',
     "views/playlist_view.cpp": '#include <QTableView>\n#include "document/document.h"\n#include "playlist_view.moc"\n',
     "app/main.cpp": '#include "playback/gst/pipeline.cpp"\n#include "views/playlist_view.cpp"\n',
@@ -67,6 +68,11 @@ class IncludeRuleTest(unittest.TestCase):
     def test_the_core_rooms_use_the_standard_library_alone(self):
         self.assert_refused("model/a.cpp", "#include <boost/any.hpp>", "neither")
         self.assert_refused("model/a.cpp", "#include <unistd.h>", "calls the system")
+
+    def test_files_are_not_read_past_the_disk(self):
+        for room in ("playback/midi", "model", "lyrics", "resources"):
+            for header in ("filesystem", "fstream"):
+                self.assert_refused(f"{room}/a.cpp", f"#include <{header}>", "past text/")
 
     def test_an_include_outside_the_rooms_is_refused(self):
         self.assert_refused("model/a.cpp", '#include "store.h"', "names no room")

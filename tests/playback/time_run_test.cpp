@@ -3,8 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
-
+#include "support/fake_length_probe.h"
 #include "support/message_log.h"
 
 namespace brevant {
@@ -12,31 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// Knows lengths by path; a song opens after some looks at it.
-class TCScriptedProbe final : public TCLengthProbe {
- public:
-  std::map<std::u16string, int> lengths;  // a path that is not there cannot be read
-  int looksUntilKnown = 0;
-  std::vector<std::u16string> opened;
-  bool open = false;
-
-  void Open(std::u16string_view path) override {
-    if (!open || opened.back() != path) looks = 0;
-    opened.emplace_back(path);
-    open = true;
-  }
-  [[nodiscard]] int GetDurationSeconds() const override {
-    if (!open) return -1;
-    if (looks++ < looksUntilKnown) return 0;
-    const auto length = lengths.find(opened.back());
-    return length == lengths.end() ? -1 : length->second;
-  }
-  void Close() override { open = false; }
-
- private:
-  mutable int looks = 0;
-};
 
 class TimeRunTest : public testing::Test {
  protected:
@@ -78,7 +52,7 @@ class TimeRunTest : public testing::Test {
 
   TCAppRecord record;
   TCSetListStore& store = record.setLists;
-  TCScriptedProbe probe;
+  TCFakeLengthProbe probe;
   TCMessageLog messages;
   TCTimeRun run{record, &probe, messages};
 };
@@ -133,8 +107,8 @@ TEST_F(TimeRunTest, ALengthThatIsNotKnownYetIsAskedForAgainWithoutOpeningAnew) {
 }
 
 TEST_F(TimeRunTest, MissingAndBrokenFilesAreNothingLongAndTheRunGoesOn) {
-  probe.lengths.erase(u"C:\\a.mp3");
-  probe.lengths.erase(u"C:\\b.mp3");
+  probe.lengths[u"C:\\a.mp3"] = -1;
+  probe.lengths[u"C:\\b.mp3"] = -1;
   run.Start(TCTimeScope::CurrentPlaylist);
   RunThrough();
   EXPECT_THAT(Times(0), ElementsAre(u"00:00", u"00:00", u"03:00"));
@@ -167,6 +141,15 @@ TEST_F(TimeRunTest, AScopeWithoutSongsStartsNoRun) {
   store.ClearSetLists();
   run.Start(TCTimeScope::AllSongs);
   EXPECT_FALSE(run.Pending());
+}
+
+TEST_F(TimeRunTest, AScopeWithoutSongsEndsTheRunUnderWay) {
+  run.Start(TCTimeScope::AllSongs);
+  run.Step();
+  store.currentPlaylist = 7;
+  run.Start(TCTimeScope::CurrentPlaylist);
+  EXPECT_FALSE(run.Pending());
+  EXPECT_FALSE(probe.open);
 }
 
 TEST_F(TimeRunTest, AnUnchangedSetListIsFinishedWithoutChanges) {

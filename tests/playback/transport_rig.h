@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "playback/transport.h"
+#include "support/fake_length_probe.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -24,6 +25,7 @@ class TransportTest : public testing::Test {
     AddGroup({{u"a1", u"a2", u"a3"}, {u"b1"}});
     AddGroup({{u"c1", u"c2"}});
     player.SetDefaultSong({.length = 10.4});
+    probe.defaultLength = 10;
   }
 
   void AddGroup(const std::vector<std::vector<std::u16string>>& playlists) {
@@ -53,10 +55,11 @@ class TransportTest : public testing::Test {
   TCSetListStore& store = record.setLists;
   TCSettings& settings = record.settings;
   TCFakePlayer player;
+  TCFakeLengthProbe probe;
   TCSetListDisplayLog display;
   TCMessageLog messages;
   TCFakeRepeatFields repeatFields;
-  TCTransport transport{{record, files, display, messages, &player, nullptr, &repeatFields}};
+  TCTransport transport{{record, files, display, messages, &player, &probe, &repeatFields}};
 };
 
 }  // namespace brevant

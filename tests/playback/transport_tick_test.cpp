@@ -1,6 +1,5 @@
 // What a tick does besides noticing the end of a song: song times, lyrics and the run that measures many
 // songs.
-#include "playback/player_length_probe.h"
 #include "playback/transport_rig.h"
 #include "support/lyrics_of.h"
 
@@ -101,55 +100,44 @@ TEST_F(TransportTest, LyricsFollowThePlayingSong) {
 }
 
 TEST_F(TransportTest, ATickMeasuresBeforeItShowsLyrics) {
-  TCFakePlayer silent;
-  silent.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
-  TCPlayerLengthProbe probe(silent);
-  TCTransport measuring({record, files, display, messages, &player, &probe});
   Song(0).lyrics = LyricsOf({{u"one", 0, kEndOfLyrics, kNoSinger}});
-  measuring.Play();
-  measuring.StartTimeRun(TCTimeScope::CurrentPlaylist);
-  measuring.OnPlayTimerTick();
-  EXPECT_EQ(measuring.TimeRun().Measured(), 1u);
+  transport.Play();
+  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
+  transport.OnPlayTimerTick();
+  EXPECT_EQ(transport.TimeRun().Measured(), 1u);
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone")) << "its words take the place of the time";
 }
 
-TEST_F(TransportTest, ATimeRunWithThePlayerItselfIsNeverTakenForTheEndOfASong) {
+TEST_F(TransportTest, ATimeRunLeavesTheSongThatPlaysAlone) {
   settings.autoPlayPlayList = true;
+  probe.defaultLength = 65;
   transport.Play();
   Run(2.0);
+  player.ForgetCalls();
   transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
-  EXPECT_FALSE(transport.State().playing);
-  Run(6.0);
-  EXPECT_FALSE(transport.TimeRun().Pending());
-  EXPECT_EQ(store.currentSong, 0);
-  EXPECT_EQ(Song(2).time, u"00:10");
-  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
-}
-
-TEST_F(TransportTest, ATimeRunWithNothingToMeasureLeavesTheSongAlone) {
-  transport.Play();
   Run(2.0);
-  store.currentPlaylist = 9;
-  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
-  EXPECT_FALSE(transport.TimeRun().Pending());
+  ASSERT_FALSE(transport.TimeRun().Pending());
+  EXPECT_THAT(player.Calls(), IsEmpty());
   EXPECT_TRUE(transport.State().playing);
-  store.currentPlaylist = 0;
-  Run(9.0);
-  EXPECT_EQ(store.currentSong, 1) << "its end is noticed";
+  EXPECT_EQ(Song(2).time, u"01:05");
+  EXPECT_EQ(display.calls.back(), "ShowPlaylist 0 0");
+  Run(7.0);
+  EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3") << "its end is noticed";
 }
 
-TEST_F(TransportTest, ATimeRunEndedByOneWithNothingToMeasureIsNoEndOfASong) {
-  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
-  Run(0.3);
-  transport.Play();
-  store.currentPlaylist = 9;
-  transport.StartTimeRun(TCTimeScope::CurrentPlaylist);  // stops the player with the run
-  EXPECT_FALSE(transport.State().playing);
+TEST_F(TransportTest, WithoutAProbeATimeRunMeasuresNothingAndThePlayerIsNotAsked) {
+  TCTransport blind({record, files, display, messages, &player});
+  blind.StartTimeRun(TCTimeScope::AllSongs);
+  EXPECT_FALSE(blind.TimeRun().Pending());
+  blind.OnPlayTimerTick();
+  EXPECT_THAT(player.Calls(), IsEmpty());
+  EXPECT_THAT(messages.lines, IsEmpty());
 }
 
 TEST_F(TransportTest, CancelEndsATimeRun) {
   transport.StartTimeRun(TCTimeScope::AllSongs);
   Run(0.6);
+  ASSERT_GT(transport.TimeRun().Measured(), 0u);
   transport.CancelPending();
   EXPECT_FALSE(transport.TimeRun().Pending());
   EXPECT_EQ(Song(0).time, u"00:00");

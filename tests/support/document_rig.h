@@ -26,8 +26,8 @@ class TCRecentFileLog final : public TCRecentFileList {
 
 class TCDocumentRig {
  public:
-  // All of it outlives the rig. Without a player there is none; without a probe song times are measured with
-  // the player. On a real disk the recovery folder has to be a folder of the test's.
+  // All of it outlives the rig. Without a player there is none; without a probe no song times are measured.
+  // On a real disk the recovery folder has to be a folder of the test's.
   TCDocumentRig(TCFileSystem& files, TCPlayer* player, TCLengthProbe* lengthProbe = nullptr,
                 std::u16string recovery = u"\\state\\recovery\\")
       : document({.record = record,

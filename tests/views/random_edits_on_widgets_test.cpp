@@ -14,6 +14,7 @@
 
 #include "support/edit_watch.h"
 #include "support/fake_frame.h"
+#include "support/fake_length_probe.h"
 #include "support/fake_player.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -36,6 +37,8 @@ class RandomEditsOnWidgets : public testing::TestWithParam<std::uint32_t> {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     files.Put(u"C:\\a.mp3");
     player.SetDefaultSong({.length = 1.0});
+    probe.defaultLength = 1;
+    probe.looksUntilKnown = 1;
     document.OnNewDocument();
   }
 
@@ -88,10 +91,11 @@ class RandomEditsOnWidgets : public testing::TestWithParam<std::uint32_t> {
   TCMemoryFiles files;
   TCAppRecord record;
   TCFakePlayer player;
+  TCFakeLengthProbe probe;
   TCMessageLog messages;
   TCFakeFrame frame;
   TCRandomPrompts prompts{dice};
-  TCBrevantDoc document{{record, files, &player, *view, *tree, messages, frame, prompts, {}}};
+  TCBrevantDoc document{{record, files, &player, *view, *tree, messages, frame, prompts, {}, &probe}};
   TCRandomUser user{
       dice,
       record,

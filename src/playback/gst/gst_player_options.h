@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "playback/engine/player_machine.h"
-#include "playback/midi/soundfont_search.h"
+#include "playback/gst/soundfont_search.h"
 
 namespace brevant {
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "playback/midi/soundfont_search.h"
+#include "playback/gst/soundfont_search.h"
 
 namespace brevant {
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <vector>
 
+#include "playback/gst/soundfont_search.h"
 #include "playback/midi/smf_bytes.h"
-#include "playback/midi/soundfont_search.h"
 
 namespace brevant {
 namespace {

@@ -1,4 +1,4 @@
-#include "playback/midi/soundfont_search.h"
+#include "playback/gst/soundfont_search.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -52,8 +52,15 @@ TEST(DataFolders, AreTheUsersThenTheSystems) {
   EXPECT_THAT(DataFolders("/home/me", "/data", "/a:/b:"), ElementsAre("/data", "/a", "/b"));
 }
 
-TEST(DataFolders, ThatAreNotAbsoluteCountForNothing) {
-  EXPECT_THAT(DataFolders("", "data", "b::/c"), ElementsAre("/c"));
+TEST(DataFolders, ThatAreRelativeCountForNothing) {
+  EXPECT_THAT(DataFolders("/home/me", "data", "b::/c"), ElementsAre("/home/me/.local/share", "/c"));
+  EXPECT_THAT(DataFolders("/home/me", "./data", "a:b"),
+              ElementsAre("/home/me/.local/share", "/usr/local/share", "/usr/share"));
+}
+
+TEST(DataFolders, WithoutAHomeAreTheSystems) {
+  EXPECT_THAT(DataFolders("", "", "/c"), ElementsAre("/c"));
+  EXPECT_THAT(DataFolders("me", "data", "/c"), ElementsAre("/c"));
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
-#include "playback/midi/soundfont_search.h"
+#include "playback/gst/soundfont_search.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
-#include <utility>
 
 namespace brevant {
 
@@ -40,21 +39,30 @@ std::string Environment(const char* name) {
   return value == nullptr ? std::string() : std::string(value);
 }
 
+// Without the relative ones.
+std::vector<std::string> FoldersIn(std::string_view list) {
+  std::vector<std::string> folders;
+  while (!list.empty()) {
+    const std::size_t colon = std::min(list.find(':'), list.size());
+    if (list.front() == '/') folders.emplace_back(list.substr(0, colon));
+    list.remove_prefix(std::min(colon + 1, list.size()));
+  }
+  return folders;
+}
+
 }  // namespace
 
 std::vector<std::string> DataFolders(std::string_view home, std::string_view dataHome,
                                      std::string_view dataDirs) {
   std::vector<std::string> folders;
-  const auto add = [&folders](std::string folder) {
-    if (folder.starts_with('/')) folders.push_back(std::move(folder));
-  };
-  add(dataHome.empty() ? std::string(home) + "/.local/share" : std::string(dataHome));
-  if (dataDirs.empty()) dataDirs = "/usr/local/share:/usr/share";
-  while (!dataDirs.empty()) {
-    const std::size_t colon = std::min(dataDirs.find(':'), dataDirs.size());
-    add(std::string(dataDirs.substr(0, colon)));
-    dataDirs.remove_prefix(std::min(colon + 1, dataDirs.size()));
+  if (dataHome.starts_with('/')) {
+    folders.emplace_back(dataHome);
+  } else if (home.starts_with('/')) {
+    folders.push_back(std::string(home) + "/.local/share");
   }
+  std::vector<std::string> shared = FoldersIn(dataDirs);
+  if (shared.empty()) shared = {"/usr/local/share", "/usr/share"};
+  folders.insert(folders.end(), shared.begin(), shared.end());
   return folders;
 }
 

@@ -8,8 +8,9 @@
 
 namespace brevant {
 
-// The folders of shared data in order of preference: XDG_DATA_HOME, then each of XDG_DATA_DIRS. Empty texts
-// stand for variables that are not set, and relative folders count for nothing.
+// The folders of shared data in order of preference: XDG_DATA_HOME, else .local/share in the home folder;
+// then each of XDG_DATA_DIRS, else /usr/local/share and /usr/share. Relative folders count for nothing: a
+// variable that is empty or holds no others is as good as not set.
 [[nodiscard]] std::vector<std::string> DataFolders(std::string_view home, std::string_view dataHome,
                                                    std::string_view dataDirs);
 
