@@ -8,7 +8,6 @@
 #include <utility>
 #include <vector>
 
-#include "app/bars/customised_bars_store.h"
 #include "app/commands/command_menus.h"
 #include "app/commands/tree_keys.h"
 #include "app/dialogs/about_box.h"
@@ -66,7 +65,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
   const bool restores = RestoresWindow(record.settings);
   if (restores) {
     frame.RestorePlacement(layout);
-    frame.Bars().Customise(LoadCustomisedBars(layout));  // before they are filled, or they would be twice
+    frame.Bars().RestoreItems(layout);
   }
   FillMenuBar(*frame.menuBar(), actions);
   frame.Bars().Fill(actions);  // into the rows that the window's width asks for

@@ -98,7 +98,7 @@ void TCMainFrame::SaveLayout(QSettings& layout) const {
 }
 
 void TCMainFrame::RestoreLayout(const QSettings& layout) {
-  bars.Restore(layout);
+  bars.RestorePlaces(layout);
   panes->RestoreLayout(layout);
   view->LoadColumnWidths(layout);
 }
