@@ -90,9 +90,8 @@ void TCBrevantApp::ConnectTree() {
   connect(&tree, &TCTree::nodePressed, this, [this](TCTreeNode node) { document.PressNode(node); });
   connect(&tree, &TCTree::nodePicked, this, [this](TCTreeNode node) { document.PickNode(node); });
   connect(&tree, &TCTree::enterPressed, this, [this] { document.EnterOnNode(); });
-  connect(&tree, &TCTree::labelEdited, this, [this](TCTreeNode node, const QString& text) {
-    return document.RenameNode(node, FromQString(text));
-  });
+  tree.SetRename(
+      [this](TCTreeNode node, const QString& name) { return document.RenameNode(node, FromQString(name)); });
   connect(&tree, &TCTree::nodeMoved, this,
           [this](TCTreeNode source, TCTreeNode target) { document.MoveNode(source, target); });
   // Queued: the placing may ask for a name, and not inside the click. The mouse may have selected another
