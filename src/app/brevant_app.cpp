@@ -8,7 +8,6 @@
 #include <utility>
 #include <vector>
 
-#include "app/bars/customised_bars_store.h"
 #include "app/commands/command_menus.h"
 #include "app/commands/tree_keys.h"
 #include "app/dialogs/about_box.h"
@@ -66,7 +65,7 @@ TCBrevantApp::TCBrevantApp(const TCAppParts& parts)
   const bool restores = RestoresWindow(record.settings);
   if (restores) {
     frame.RestorePlacement(layout);
-    frame.Bars().Customise(LoadCustomisedBars(layout));  // before they are filled, or they would be twice
+    frame.Bars().RestoreItems(layout);
   }
   FillMenuBar(*frame.menuBar(), actions);
   frame.Bars().Fill(actions);  // into the rows that the window's width asks for
@@ -91,9 +90,8 @@ void TCBrevantApp::ConnectTree() {
   connect(&tree, &TCTree::nodePressed, this, [this](TCTreeNode node) { document.PressNode(node); });
   connect(&tree, &TCTree::nodePicked, this, [this](TCTreeNode node) { document.PickNode(node); });
   connect(&tree, &TCTree::enterPressed, this, [this] { document.EnterOnNode(); });
-  connect(&tree, &TCTree::labelEdited, this, [this](TCTreeNode node, const QString& text) {
-    return document.RenameNode(node, FromQString(text));
-  });
+  tree.SetRename(
+      [this](TCTreeNode node, const QString& name) { return document.RenameNode(node, FromQString(name)); });
   connect(&tree, &TCTree::nodeMoved, this,
           [this](TCTreeNode source, TCTreeNode target) { document.MoveNode(source, target); });
   // Queued: the placing may ask for a name, and not inside the click. The mouse may have selected another

@@ -1,7 +1,6 @@
 #include "app/main_frame.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QStatusTipEvent>
 #include <algorithm>
 
@@ -11,14 +10,13 @@
 #include "app/window_placement.h"
 #include "resources/icons/icon_names.h"
 #include "resources/string_table.h"
+#include "views/row_colours.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
 namespace {
 
 constexpr QSize kDefaultSize(1600, 1000);
-// Kept free for the title bar and borders that a window manager adds.
-constexpr QSize kWindowBorders(16, 48);
 constexpr std::int32_t kMessageLines = 1024;
 constexpr int kFullVolume = 100;
 
@@ -98,7 +96,7 @@ void TCMainFrame::SaveLayout(QSettings& layout) const {
 }
 
 void TCMainFrame::RestoreLayout(const QSettings& layout) {
-  bars.Restore(layout);
+  bars.RestorePlaces(layout);
   panes->RestoreLayout(layout);
   view->LoadColumnWidths(layout);
 }
@@ -115,7 +113,7 @@ void TCMainFrame::RestorePlacement(const QSettings& layout) {
 }
 
 void TCMainFrame::PlaceOnScreen() {
-  resize(kDefaultSize.boundedTo(screen()->availableSize() - kWindowBorders));
+  resize(SizeOnScreen(*this, kDefaultSize));
 }
 
 bool TCMainFrame::Handles(TCCommandId command) {
@@ -178,8 +176,8 @@ void TCMainFrame::ShowOptions() {
   const TCShownType playlistType{settings.playListFontTypeName, settings.playListFontSize};
   const TCShownType lyricType{settings.lyricsFontTypeName, settings.lyricsFontSize};
   const bool lookChanged = shownLook != look;
-  const QColor text = ToColour(look.text);
-  const QColor background = ToColour(look.background);
+  const QColor text = ToQColor(look.text);
+  const QColor background = ToQColor(look.background);
   if (lookChanged) {
     // Of the application, not of this window alone: menus and dialogs are windows of their own.
     QApplication::setPalette(StagePalette(look.text, look.background));

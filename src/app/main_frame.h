@@ -57,7 +57,7 @@ class TCMainFrame : public QMainWindow, public TCFrameDisplay {
   void EnterLiveView() { panes->EnterLiveView(); }
   void LeaveLiveView() { panes->LeaveLiveView(); }
 
-  // What the user arranged by hand, for the next start.
+  // What the user arranged by hand, for the next start. Restored once the bars are filled.
   void SaveLayout(QSettings& layout) const;
   void RestoreLayout(const QSettings& layout);
   void SavePlacement(QSettings& layout) const;

@@ -17,7 +17,7 @@ constexpr int kShowNormal = 1;
 constexpr int kShowMaximised = 3;
 constexpr int kUnknown = -1;
 constexpr int kFarthest = 100000;  // pixels; no desk has so many, and sums of them still fit
-// For the title bar and the borders that a window manager adds.
+// Kept free for the title bar and the borders that a window manager adds.
 constexpr QMargins kBorders(8, 40, 8, 8);
 
 QString KeyOf(const char* name) {
@@ -71,6 +71,10 @@ QRect OnScreens(const QRect& normal, const QList<QRect>& screens) {
   const int left = std::clamp(normal.left(), room.left(), room.left() + room.width() - size.width());
   const int top = std::clamp(normal.top(), room.top(), room.top() + room.height() - size.height());
   return {QPoint(left, top), size};
+}
+
+QSize SizeOnScreen(const QWidget& window, QSize wanted) {
+  return wanted.boundedTo(window.screen()->availableSize().shrunkBy(kBorders));
 }
 
 void SavePlacement(const QWidget& window, QSettings& layout) {

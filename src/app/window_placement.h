@@ -1,6 +1,7 @@
 // Where the main window stood when it was closed, kept as the nine numbers of the section
-// "MainWindowFrameLayout" in the layout file. TCMainFrame saves and restores it. The numbers and the screens
-// are pure; only the last three functions touch a window or a file. User-interface thread only.
+// "MainWindowFrameLayout" in the layout file, and how large a window may be. TCMainFrame saves and restores
+// it. The numbers and the screens are pure; only the last four functions touch a window or a file.
+// User-interface thread only.
 #pragma once
 
 #include <QList>
@@ -32,6 +33,10 @@ using TCPlacementNumbers = std::array<int, 9>;
 // made smaller, onto the screen that has the most of it or else the first. `screens` are what panels leave
 // of them.
 [[nodiscard]] QRect OnScreens(const QRect& normal, const QList<QRect>& screens);
+
+// `wanted`, or as much of it as the screen that the window is on has room for, title bar and borders
+// included.
+[[nodiscard]] QSize SizeOnScreen(const QWidget& window, QSize wanted);
 
 void SavePlacement(const QWidget& window, QSettings& layout);
 

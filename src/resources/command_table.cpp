@@ -243,6 +243,11 @@ constexpr TCMenuItem kPlaylistMenu[] = {
     {Id::ClearInformation, u""},
 };
 
+// All of a text that has none: npos + 1 is 0.
+std::u16string BehindLineBreak(std::u16string_view text) {
+  return std::u16string(text.substr(text.find(u'\n') + 1));
+}
+
 }  // namespace
 
 std::span<const TCCommand> Commands() {
@@ -254,15 +259,32 @@ const TCCommand* CommandById(TCCommandId id) {
   return found == std::end(kCommands) ? nullptr : found;
 }
 
+TCCommandId WordedTwin(TCCommandId id) {
+  switch (id) {
+    case Id::MediaVolumeUp:
+      return Id::VolumeUp;
+    case Id::MediaVolumeDown:
+      return Id::VolumeDown;
+    default:
+      return id;
+  }
+}
+
+std::u16string CommandTitle(const TCCommand& command) {
+  const TCCommandId twin = WordedTwin(command.id);
+  if (twin != command.id) return CommandTitle(*CommandById(twin)) + u" (volume key)";
+  if (command.menuText.empty()) return BehindLineBreak(command.statusText);
+  std::u16string name = WithoutMnemonic(MenuTextWithoutHint(command.menuText));
+  name.erase(name.find_last_not_of(u' ') + 1);
+  return name;
+}
+
 std::u16string_view StatusLine(const TCCommand& command) {
   return command.statusText.substr(0, command.statusText.find(u'\n'));
 }
 
 std::u16string ToolTip(const TCCommand& command) {
-  if (command.statusText.empty()) return WithoutMnemonic(MenuTextWithoutHint(command.menuText));
-  const std::size_t lineBreak = command.statusText.find(u'\n');
-  if (lineBreak == std::u16string_view::npos) return std::u16string(command.statusText);
-  return std::u16string(command.statusText.substr(lineBreak + 1));
+  return command.statusText.empty() ? CommandTitle(command) : BehindLineBreak(command.statusText);
 }
 
 std::span<const TCMenuPlace> MainMenus() {

@@ -56,10 +56,18 @@ struct TCCommand {
   return (static_cast<unsigned>(command.owners) & static_cast<unsigned>(owner)) != 0;
 }
 
+// The keyboard's volume keys are commands of their own, without a word: this is the command with words that
+// does the same. Any other command is its own.
+[[nodiscard]] TCCommandId WordedTwin(TCCommandId id);
+
+// What the command is called outside the menus: the menu text without mark, key hint and blanks behind it,
+// else the tool tip; "Increase Volume (volume key)" for a volume key. Empty for a command without a text.
+[[nodiscard]] std::u16string CommandTitle(const TCCommand& command);
+
 // The line for the status bar while the command is pointed at.
 [[nodiscard]] std::u16string_view StatusLine(const TCCommand& command);
 
-// What follows the line break of the status text, else the status text, else the menu text's name.
+// What follows the line break of the status text, else the status text, else the title.
 [[nodiscard]] std::u16string ToolTip(const TCCommand& command);
 
 // The main menu.

@@ -39,44 +39,25 @@ std::string Plain(std::u16string_view text) {
   return {text.begin(), text.end()};
 }
 
-std::string TrimmedRight(std::string text) {
-  while (text.ends_with(' ')) text.pop_back();
-  return text;
-}
-
-// The keyboard's volume keys are commands of their own without a word to show; they stand with their twins.
-TCCommandId Shown(TCCommandId id) {
-  switch (id) {
-    case TCCommandId::MediaVolumeUp:
-      return TCCommandId::VolumeUp;
-    case TCCommandId::MediaVolumeDown:
-      return TCCommandId::VolumeDown;
-    default:
-      return id;
-  }
-}
-
+// The volume keys stand with their twins.
 std::string KeysOf(const TCCommand& command) {
   std::string keys;
   for (const TCKeyBinding& binding : EffectiveBindings()) {
-    if (Shown(binding.command) != command.id) continue;
+    if (WordedTwin(binding.command) != command.id) continue;
     if (!keys.empty()) keys += ", ";
     keys += Plain(KeyName(binding.key));
   }
   return keys;
 }
 
-// The menu's name for the command; without one, the tool tip where it is a name and no sentence.
+// Empty where the title would be the sentence of the next column.
 std::string NameOf(const TCCommand& command) {
-  if (!command.menuText.empty()) {
-    return TrimmedRight(Plain(WithoutMnemonic(MenuTextWithoutHint(command.menuText))));
-  }
-  const std::u16string toolTip = ToolTip(command);
-  return toolTip == StatusLine(command) ? std::string() : Plain(toolTip);
+  const std::u16string title = CommandTitle(command);
+  return command.menuText.empty() && title == StatusLine(command) ? std::string() : Plain(title);
 }
 
 bool DoesSomething(const TCCommand& command) {
-  return command.owners != TCCommandOwner::None && !(command.menuText.empty() && command.statusText.empty());
+  return command.owners != TCCommandOwner::None && !CommandTitle(command).empty();
 }
 
 std::string Cell(const std::string& text) {

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "views/display_font.h"
+#include "views/keyboard_focus.h"
 #include "views/menu_place.h"
 #include "views/playlist_header.h"
 #include "views/playlist_model.h"
@@ -191,13 +192,7 @@ void TCBrevantView::ScrollToRow(std::int32_t row) {
 }
 
 void TCBrevantView::TakeFocus() {
-  // From another window of ours, a floating pane; but never away from another program: playlists also change
-  // by themselves.
-  const QWidget* active = QApplication::activeWindow();
-  if (active != nullptr && active != window() && QApplication::activeModalWidget() == nullptr) {
-    activateWindow();
-  }
-  setFocus(Qt::OtherFocusReason);
+  GiveKeyboardTo(*this);
 }
 
 void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points) {

@@ -20,7 +20,7 @@ void TCPlayListManagerTreeView::RenameFromLabel(const QModelIndex& index, const 
   const TCTreeNode node = nodes->NodeAt(index);
   const QString name = ToQString(Trim(FromQString(typed)));
   nodes->SetText(node, name.isEmpty() ? typed : name);
-  if (!name.isEmpty() && !labelEdited(node, name)) nodes->SetText(node, typed);
+  if (!name.isEmpty() && !rename(node, name)) nodes->SetText(node, typed);
 }
 
 }  // namespace brevant

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "views/keyboard_focus.h"
 #include "views/text_conversion.h"
 #include "views/tree_lines.h"
 #include "views/tree_node_delegate.h"
@@ -140,11 +141,7 @@ void TCPlayListManagerTreeView::OpenWayTo(TCTreeNode node) {
 void TCPlayListManagerTreeView::TakeFocus() {
   // In a pane that is closed it would be nowhere, and the keys with it.
   if (window()->isVisible() && !isVisible()) return;
-  const QWidget* active = QApplication::activeWindow();
-  if (active != nullptr && active != window() && QApplication::activeModalWidget() == nullptr) {
-    activateWindow();
-  }
-  setFocus(Qt::OtherFocusReason);
+  GiveKeyboardTo(*this);
 }
 
 bool TCPlayListManagerTreeView::HasFocus() const {

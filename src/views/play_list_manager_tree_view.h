@@ -7,8 +7,10 @@
 #include <QPoint>
 #include <QString>
 #include <QTreeView>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "document/frame_display.h"
@@ -31,6 +33,10 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
 
   void SetPictures(TCSetListTreeModel::TCPictures pictures);
   void SetCursors(const TCStageCursors& stageCursors);
+  // Asked when a label was given another text (trimmed, never empty): true when the node's entry has that
+  // name now. Until somebody answers, no entry is renamed.
+  using TCRename = std::function<bool(TCTreeNode node, const QString& name)>;
+  void SetRename(TCRename answer) { rename = std::move(answer); }
   // While placing waits, the group or playlist under the mouse is selected and opened, and a click says
   // where.
   void SetPlacing(TCPlacing state);
@@ -68,9 +74,6 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   void nodePicked(TCTreeNode node);
   // Enter, once for its press and once for its release, with a playlist or song selected.
   void enterPressed();
-  // A label was given another text (trimmed, never empty). To be answered at once: true when the node's entry
-  // has that name now.
-  bool labelEdited(TCTreeNode node, const QString& text);
   // By mouse or keys: `source` is to go where `target`, another node, stands. They may be of different
   // levels.
   void nodeMoved(TCTreeNode source, TCTreeNode target);
@@ -119,6 +122,7 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
   TCSetListTreeModel* nodes = nullptr;  // a child, as the next one
   TCTreeNodeDelegate* delegate = nullptr;
   TCEdgeScroll edgeScroll;
+  TCRename rename = [](TCTreeNode /*node*/, const QString& /*name*/) { return false; };
   TCStageCursors cursors;
   TCPlacing placing = TCPlacing::Nothing;
 

@@ -19,9 +19,12 @@ namespace {
 class DropSongs : public TCWholeProgram {
  protected:
   void Drop(const QStringList& nativeNames) {
-    QMimeData data;
     QList<QUrl> urls;
     for (const QString& name : nativeNames) urls.append(QUrl::fromLocalFile(name));
+    DropUrls(urls);
+  }
+  void DropUrls(const QList<QUrl>& urls) {
+    QMimeData data;
     data.setUrls(urls);
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&Frame(), &enter);
@@ -104,6 +107,14 @@ TEST_F(DropSongs, ANameThatNoDocumentCanHoldIsRefusedInTheStatusBar) {
   Drop({QStringLiteral("/m/12\" mix.mp3"), QStringLiteral("/m/x.mp3")});
   EXPECT_TRUE(Status().startsWith(QStringLiteral("A name with a backslash, double quote or line break")));
   EXPECT_TRUE(app->Document().Placement().Pending());  // the other file is placed all the same
+}
+
+TEST_F(DropSongs, ANameWithForeignBytesIsRefusedToo) {
+  Start(kShow);
+  DropUrls({QUrl::fromEncoded("file:///m/a%FF.mp3")});
+  EXPECT_EQ(Status(),
+            QStringLiteral("A name with bytes in it that are not UTF-8 cannot be used: /m/a\u00FF.mp3"));
+  EXPECT_FALSE(app->Document().Placement().Pending());
 }
 
 TEST_F(DropSongs, EscCallsThePlacingOffWhereverTheKeysGo) {

@@ -13,9 +13,9 @@
 #include <limits>
 
 #include "app/look/picture_icon.h"
-#include "app/look/stage_palette.h"
 #include "resources/icons/icon_names.h"
 #include "support/fake_player.h"
+#include "views/row_colours.h"
 
 namespace brevant {
 namespace {
@@ -263,14 +263,14 @@ TEST_F(MainFrame, WhiteOnBlackColoursEverythingAtOnce) {
   for (const bool whiteOnBlack : {false, true}) {
     settings.SetWhiteOnBlack(whiteOnBlack);
     frame.ShowOptions();
-    const QColor background = ToColour(settings.backgroundColour);
+    const QColor background = ToQColor(settings.backgroundColour);
     QCoreApplication::processEvents();  // the toolkit tells widgets without colours of their own a turn later
     EXPECT_EQ(QApplication::palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.MessageDisplay().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.PlaylistView().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.Tree().palette().color(QPalette::Base), background);
     EXPECT_EQ(frame.Properties().palette().color(QPalette::Base), background);
-    EXPECT_EQ(frame.Tree().palette().color(QPalette::Text), ToColour(settings.textColour));
+    EXPECT_EQ(frame.Tree().palette().color(QPalette::Text), ToQColor(settings.textColour));
   }
 }
 

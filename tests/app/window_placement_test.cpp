@@ -165,6 +165,13 @@ TEST_F(SavedWindowPlacement, OfAScreenThatIsGoneIsOneThatCanBeSeen) {
   EXPECT_EQ(window.size(), lost.size());
 }
 
+TEST(SizeOnScreen, LeavesRoomForTheBordersOfAWindow) {
+  const QWidget window;
+  const QSize screen = window.screen()->availableSize();
+  EXPECT_EQ(SizeOnScreen(window, QSize(100, 90)), QSize(100, 90));
+  EXPECT_EQ(SizeOnScreen(window, screen), screen - QSize(16, 48));
+}
+
 TEST_F(SavedWindowPlacement, OfAMinimisedWindowIsItsNormalPlace) {
   window.setGeometry(70, 60, 400, 300);
   window.show();

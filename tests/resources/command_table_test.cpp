@@ -301,6 +301,22 @@ TEST(CommandTable, RepeatsOnlyVolumeSeekAndStepsWhileAKeyIsHeld) {
 
 // What the commands say and do.
 
+TEST(CommandTable, CallsACommandByItsMenuTextOrItsToolTip) {
+  EXPECT_EQ(CommandTitle(Command(57600)), u"New") << "without mark and hint";
+  EXPECT_EQ(CommandTitle(*CommandById(TCCommandId::VolumeDown)), u"Reduce Volume") << "nor blanks behind it";
+  EXPECT_EQ(CommandTitle(*CommandById(TCCommandId::Cut)), u"Cut");
+  EXPECT_EQ(CommandTitle(*CommandById(TCCommandId::LoadSong)), u"Load the song into the player");
+  EXPECT_EQ(CommandTitle(*CommandById(TCCommandId::SelectAll)), u"");
+}
+
+TEST(CommandTable, CallsAVolumeKeyByTheCommandThatDoesTheSame) {
+  EXPECT_EQ(WordedTwin(TCCommandId::MediaVolumeUp), TCCommandId::VolumeUp);
+  EXPECT_EQ(WordedTwin(TCCommandId::MediaVolumeDown), TCCommandId::VolumeDown);
+  EXPECT_EQ(WordedTwin(TCCommandId::Play), TCCommandId::Play);
+  EXPECT_EQ(CommandTitle(*CommandById(TCCommandId::MediaVolumeUp)), u"Increase Volume (volume key)");
+  EXPECT_EQ(CommandTitle(*CommandById(TCCommandId::MediaVolumeDown)), u"Reduce Volume (volume key)");
+}
+
 TEST(CommandTable, CutsTheStatusTextAtItsLineBreak) {
   EXPECT_EQ(StatusLine(Command(57604)), u"Save the active document with a new name");
   EXPECT_EQ(ToolTip(Command(57604)), u"Save As");

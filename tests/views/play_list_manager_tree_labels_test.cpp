@@ -16,11 +16,10 @@ class TreeLabel : public TCTreeRig {
     OpenAll();
     tree.TakeFocus();
     QApplication::setDoubleClickInterval(20);
-    QObject::connect(&tree, &TCPlayListManagerTreeView::labelEdited, &tree,
-                     [this](TCTreeNode node, const QString& text) {
-                       edited.emplace_back(node, text);
-                       return taken;
-                     });
+    tree.SetRename([this](TCTreeNode node, const QString& name) {
+      edited.emplace_back(node, name);
+      return taken;
+    });
   }
   void TearDown() override {
     QApplication::setDoubleClickInterval(usualInterval);
@@ -137,11 +136,10 @@ TEST_F(TreeLabel, NamesOfEveryKindOfNodeAreHandedOnTrimmed) {
 }
 
 TEST_F(TreeLabel, WhatTheDocumentMakesOfANameIsWhatShows) {
-  QObject::connect(&tree, &TCPlayListManagerTreeView::labelEdited, &tree,
-                   [this](TCTreeNode node, const QString&) {
-                     tree.SetNodeText(node, u"Without quotes");
-                     return true;
-                   });
+  tree.SetRename([this](TCTreeNode node, const QString& /*name*/) {
+    tree.SetNodeText(node, u"Without quotes");
+    return true;
+  });
   Type(setOne, QStringLiteral("\"Without\" quotes"));
   EXPECT_EQ(Text(setOne), QStringLiteral("Without quotes"));
 }

@@ -58,7 +58,7 @@ void TCBarSet::OpenMenuOn(QWidget& widget) {
 void TCBarSet::Fill(TCCommandActions& commandActions) {
   actions = &commandActions;
   ShowCustomised();
-  if (!placesRestored) FitRows();
+  FitRows();
 }
 
 void TCBarSet::Customise(TCCustomisedBars wanted) {
@@ -158,9 +158,12 @@ void TCBarSet::Save(QSettings& layout) const {
   SaveCustomisedBars(customised, layout);
 }
 
-void TCBarSet::Restore(const QSettings& layout) {
+void TCBarSet::RestoreItems(const QSettings& layout) {
   Customise(LoadCustomisedBars(layout));
-  placesRestored = window.restoreState(KeptState(layout, StateName()));
+}
+
+void TCBarSet::RestorePlaces(const QSettings& layout) {
+  window.restoreState(KeptState(layout, StateName()));
 }
 
 std::optional<TCBarSet::TCPlace> TCBarSet::PlaceAt(QPoint globalPosition) const {

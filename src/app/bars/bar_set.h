@@ -28,7 +28,7 @@ class TCBarSet final : public QObject {
   TCBarSet(QMainWindow& mainWindow, TCPlayControlsBar& playControls);
 
   // Once, after the menu bar was filled. Gives every bar what the user has on it, as far as somebody carries
-  // it out, and the commands the user's keys.
+  // it out, and the commands the user's keys, and fits the rows.
   void Fill(TCCommandActions& commandActions);
 
   // The bars and keys as they are now.
@@ -40,9 +40,12 @@ class TCBarSet final : public QObject {
   // Once filled.
   [[nodiscard]] const TCCommandActions& Actions() const { return *actions; }
 
-  // What the user made of the bars, and where they are, for the next start. Restored before they are filled.
+  // What the user made of the bars, and where they are, for the next start.
   void Save(QSettings& layout) const;
-  void Restore(const QSettings& layout);
+  // Before they are filled, or they would be twice.
+  void RestoreItems(const QSettings& layout);
+  // Once they are filled: in place of the rows that the window's width asks for.
+  void RestorePlaces(const QSettings& layout);
 
   // Null for the menu bar, which is no tool bar.
   [[nodiscard]] QToolBar* BarOf(TCTextId name) const;
@@ -94,7 +97,6 @@ class TCBarSet final : public QObject {
   std::vector<TCBar> bars;
   std::vector<QToolBar*> hiddenTogether;  // by Toggle
   QMenu* barMenu = nullptr;
-  bool placesRestored = false;  // they are the user's; the rows are not to be laid out anew
 };
 
 }  // namespace brevant

@@ -10,7 +10,6 @@
 #include "app/look/picture_icon.h"
 #include "resources/command_table.h"
 #include "resources/icons/icon_names.h"
-#include "resources/menu_text.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
@@ -22,12 +21,6 @@ bool ChangesTheDocument(TCCommandId id) {
   const TCCommand* command = CommandById(id);
   if (command == nullptr || id == TCCommandId::Exit) return false;
   return command->menu == TCMenuPlace::File || command->menu == TCMenuPlace::Edit;
-}
-
-// What a tool button is called, by a screen reader too: the menu's name alone, or what it does.
-QString NameOf(const TCCommand& command) {
-  if (command.menuText.empty()) return ToQString(ToolTip(command));
-  return ToQString(WithoutMnemonic(MenuTextWithoutHint(command.menuText))).trimmed();
 }
 
 }  // namespace
@@ -43,7 +36,8 @@ void TCCommandActions::AddActions(QWidget& window) {
     if (!target.Handles(command.id)) continue;
     auto action = std::make_unique<QAction>(ToQString(command.menuText));
     action->setObjectName(ActionName(command.id));
-    action->setIconText(NameOf(command));
+    // What a tool button is called, by a screen reader too.
+    action->setIconText(ToQString(CommandTitle(command)));
     action->setStatusTip(ToQString(StatusLine(command)));
     action->setCheckable(command.trait == TCCommandTrait::Checkable);
     // In a menu a picture would take the place of the tick.

@@ -9,18 +9,6 @@
 namespace brevant {
 namespace {
 
-// The keyboard's volume keys are commands of their own, without a word.
-QString VolumeKeyName(TCCommandId command) {
-  switch (command) {
-    case TCCommandId::MediaVolumeUp:
-      return CommandName(TCCommandId::VolumeUp) + QStringLiteral(" (volume key)");
-    case TCCommandId::MediaVolumeDown:
-      return CommandName(TCCommandId::VolumeDown) + QStringLiteral(" (volume key)");
-    default:
-      return {};
-  }
-}
-
 std::vector<TCCommandId> InMenu(TCMenuPlace place, const TCCommandActions& actions) {
   std::vector<TCCommandId> commands;
   for (const TCCommand* command : CommandsInMenu(place)) {
@@ -46,11 +34,7 @@ TCCommandCategory AllCommands(const TCCommandActions& actions) {
 QString CommandName(TCCommandId id) {
   const TCCommand* command = CommandById(id);
   if (command == nullptr || command->owners == TCCommandOwner::None) return {};
-  if (!command->menuText.empty()) {
-    return ToQString(WithoutMnemonic(MenuTextWithoutHint(command->menuText))).trimmed();
-  }
-  const std::u16string tip = ToolTip(*command);
-  return tip.empty() ? VolumeKeyName(id) : ToQString(tip);
+  return ToQString(CommandTitle(*command));
 }
 
 std::vector<TCCommandCategory> CommandCategories(const TCCommandActions& actions) {

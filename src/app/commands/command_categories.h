@@ -8,8 +8,7 @@
 
 namespace brevant {
 
-// What the command is called in a list, without mark and key hint. Empty for a command that does nothing but
-// keep a key away from somebody.
+// The command's title. Empty for a command that does nothing but keep a key away from somebody.
 [[nodiscard]] QString CommandName(TCCommandId command);
 
 struct TCCommandCategory {

@@ -12,15 +12,10 @@
 #include <utility>
 
 #include "app/bars/key_field.h"
+#include "app/part_of.h"
 
 namespace brevant {
 namespace {
-
-// The toolkit's own question stops at the border of a window.
-bool IsPartOf(const QWidget& root, const QWidget* widget) {
-  while (widget != nullptr && widget != &root) widget = widget->parentWidget();
-  return widget != nullptr;
-}
 
 bool IsModifier(int key) {
   return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QFile>
 #include <QMetaObject>
 #include <QMimeData>
 #include <QUrl>
+#include <string>
+
+#include "app/desktop/file_address.h"
 
 namespace brevant {
 
@@ -19,7 +21,8 @@ void TCFileDrops::Accept() {
 QList<QByteArray> TCFileDrops::FilesIn(const QMimeData& data) {
   QList<QByteArray> names;
   for (const QUrl& url : data.urls()) {
-    if (url.isLocalFile()) names.append(QFile::encodeName(url.toLocalFile()));
+    const std::string name = FileNameOf(QString::fromLatin1(url.toEncoded()));
+    if (!name.empty()) names.append(QByteArray::fromStdString(name));
   }
   return names;
 }

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QObject>
-#include <QStringList>
 #include <QWidget>
 
 class QMimeData;

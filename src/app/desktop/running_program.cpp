@@ -5,6 +5,8 @@
 #include <atomic>
 #include <thread>
 
+#include "app/desktop/file_address.h"
+
 namespace brevant {
 namespace {
 
@@ -132,20 +134,6 @@ void TCRunningProgram::ActivateAction(const QString& action, const QVariantList&
                                       const QVariantMap& /*platformData*/) {
   // The desktop entry offers none.
   sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("there is no action ") + action);
-}
-
-QString FileAddress(const std::string& nativeName) {
-  return QStringLiteral("file://") +
-         QString::fromLatin1(QByteArray::fromStdString(nativeName).toPercentEncoding("/"));
-}
-
-std::string FileNameOf(const QString& address) {
-  const QString scheme = QStringLiteral("file://");
-  if (!address.startsWith(scheme, Qt::CaseInsensitive)) return {};
-  const QString place = address.mid(scheme.size());
-  const QString host = place.section(u'/', 0, 0);
-  if (!host.isEmpty() && host != QStringLiteral("localhost")) return {};
-  return QByteArray::fromPercentEncoding(place.mid(host.size()).toUtf8()).toStdString();
 }
 
 }  // namespace brevant

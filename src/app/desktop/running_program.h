@@ -74,9 +74,4 @@ class TCRunningProgram : public QObject, protected QDBusContext {
   TCProgramDoor* door = nullptr;
 };
 
-// "file:///a%20b.brv" for an absolute native name, whatever bytes it holds; and back, empty for an address
-// that is no file of this machine.
-[[nodiscard]] QString FileAddress(const std::string& nativeName);
-[[nodiscard]] std::string FileNameOf(const QString& address);
-
 }  // namespace brevant

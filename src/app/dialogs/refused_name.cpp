@@ -10,7 +10,9 @@ std::u16string RefusedNameText(std::string_view nativeName) {
   for (char16_t& unit : name) {
     if (unit < u' ') unit = u'?';
   }
-  return u"A name with a backslash, double quote or line break in it cannot be used: " + name;
+  const std::u16string reason = DecodeUtf8(nativeName) ? u"a backslash, double quote or line break in it"
+                                                       : u"bytes in it that are not UTF-8";
+  return u"A name with " + reason + u" cannot be used: " + name;
 }
 
 }  // namespace brevant

@@ -6,7 +6,7 @@
 
 namespace brevant {
 
-// `nativeName` may hold any bytes.
+// Names the reason. `nativeName` may hold any bytes.
 [[nodiscard]] std::u16string RefusedNameText(std::string_view nativeName);
 
 }  // namespace brevant

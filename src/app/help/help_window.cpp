@@ -1,18 +1,16 @@
 #include "app/help/help_window.h"
 
 #include <QHBoxLayout>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include "app/help/guide_pages.h"
+#include "app/window_placement.h"
 
 namespace brevant {
 namespace {
 
 constexpr QSize kUsualSize(860, 760);
-// Kept free for the title bar and borders that a window manager adds.
-constexpr QSize kWindowBorders(16, 48);
 constexpr int kFindWidthInCharacters = 28;
 
 }  // namespace
@@ -49,7 +47,7 @@ TCHelpWindow::TCHelpWindow()
   LayOut();
   ConnectButtons();
   BindKeys();
-  resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowBorders));
+  resize(SizeOnScreen(*this, kUsualSize));
 }
 
 QToolButton* TCHelpWindow::AddButton(const QString& name, const QString& tip, const QKeySequence& key) {

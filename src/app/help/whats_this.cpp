@@ -5,7 +5,6 @@
 #include <QWidget>
 
 #include "app/commands/tool_tips.h"
-#include "resources/menu_text.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
@@ -30,8 +29,7 @@ void TellOfTheFocus() {
 }  // namespace
 
 QString WhatsThisText(const TCCommand& command, std::span<const TCKey> bound) {
-  const std::u16string name =
-      command.menuText.empty() ? ToolTip(command) : WithoutMnemonic(MenuTextWithoutHint(command.menuText));
+  const std::u16string name = CommandTitle(command);
   const std::u16string_view says = StatusLine(command);
   const std::u16string keys = KeysText(bound);
   QString text = QStringLiteral("<b>") + Escaped(name) + QStringLiteral("</b>");

@@ -1,5 +1,7 @@
 #include "app/look/stage_palette.h"
 
+#include "views/row_colours.h"
+
 namespace brevant {
 namespace {
 
@@ -12,13 +14,9 @@ QColor Mix(const QColor& text, const QColor& background, int percent) {
 
 }  // namespace
 
-QColor ToColour(TCRgb colour) {
-  return QColor::fromRgb(static_cast<QRgb>(colour | 0xFF000000U));
-}
-
 QPalette StagePalette(TCRgb textColour, TCRgb backgroundColour) {
-  const QColor text = ToColour(textColour);
-  const QColor background = ToColour(backgroundColour);
+  const QColor text = ToQColor(textColour);
+  const QColor background = ToQColor(backgroundColour);
   const QColor window = Mix(text, background, 10);
   const QColor button = Mix(text, background, 18);
   const QColor faint = Mix(text, background, 50);
@@ -55,8 +53,8 @@ QPalette StagePalette(TCRgb textColour, TCRgb backgroundColour) {
 }
 
 QPalette MenuPalette(TCRgb textColour, TCRgb backgroundColour) {
-  const QColor text = ToColour(textColour);
-  const QColor background = ToColour(backgroundColour);
+  const QColor text = ToQColor(textColour);
+  const QColor background = ToQColor(backgroundColour);
   QPalette palette = StagePalette(textColour, backgroundColour);
   palette.setColor(QPalette::Base, Mix(text, background, 12));
   palette.setColor(QPalette::Window, Mix(text, background, 60));  // the edge is a shade of this

@@ -8,8 +8,6 @@
 
 namespace brevant {
 
-[[nodiscard]] QColor ToColour(TCRgb colour);
-
 [[nodiscard]] QPalette StagePalette(TCRgb text, TCRgb background);
 
 // A menu lies over the playlist and needs an edge: on black no shadow separates the two.

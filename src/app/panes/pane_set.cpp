@@ -9,6 +9,7 @@
 
 #include "app/kept_state.h"
 #include "app/panes/accessible_pane.h"
+#include "app/part_of.h"
 #include "resources/string_table.h"
 #include "views/text_conversion.h"
 
@@ -43,12 +44,6 @@ QString LayoutName() {
 std::size_t IndexOf(TCCommandId command) {
   const auto row = std::ranges::find(kPanes, command, &TCPaneRow::id);
   return static_cast<std::size_t>(row - kPanes.begin());
-}
-
-// A pane that floats is a window of its own, which the toolkit's own question does not look into.
-bool Holds(const QWidget& pane, const QWidget* widget) {
-  while (widget != nullptr && widget != &pane) widget = widget->parentWidget();
-  return widget != nullptr;
 }
 
 // The toolkit gives a tab the title of its pane as it stands, and a tab's "&" marks a key: here it is a word.
@@ -136,7 +131,7 @@ void TCPaneSet::ArrangeFor(QSize window) {
 void TCPaneSet::PaneShown(const QDockWidget& pane, bool visible) {
   // The toolkit would hand the keyboard to whatever comes next, a time field for one, which takes the stage
   // keys for typing.
-  if (!visible && isVisible() && Holds(pane, QApplication::focusWidget())) Q_EMIT keyboardFreed();
+  if (!visible && isVisible() && IsPartOf(pane, QApplication::focusWidget())) Q_EMIT keyboardFreed();
   Q_EMIT panesChanged();
 }
 

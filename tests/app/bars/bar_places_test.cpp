@@ -182,15 +182,16 @@ TEST_F(BarPlaces, BarsThatTheUserPutElsewhereTakeNoRoomInTheRowsAndStayAsTheyAre
   EXPECT_EQ(Breaks(), std::vector{TCTextId::CreateToolbar});
 }
 
-TEST_F(BarPlaces, RowsThatComeBackAreNotLaidOutAnew) {
+TEST_F(BarPlaces, RowsThatComeBackStandInPlaceOfThoseThatTheWidthAsksFor) {
   const QTemporaryDir folder;
   QSettings layout(folder.filePath(QStringLiteral("Layout.ini")), QSettings::IniFormat);
   window.resize(1600, 900);
   window.insertToolBarBreak(playBar);
   bars.Save(layout);
   window.removeToolBarBreak(playBar);
-  bars.Restore(layout);
   FillForAll();
+  ASSERT_TRUE(Breaks().empty());
+  bars.RestorePlaces(layout);
   EXPECT_EQ(Breaks(), std::vector{TCTextId::PlayControlsToolbar}) << "the user's, although all would fit";
 }
 
@@ -259,7 +260,7 @@ TEST_F(BarPlaces, WhatTheUserMadeOfItIsKeptForTheNextStart) {
   bars.Customise(wanted);
   bars.Save(layout);
   bars.Customise({});
-  bars.Restore(layout);
+  bars.RestoreItems(layout);
   EXPECT_EQ(bars.Customised(), wanted);
   FillForAll();
   EXPECT_EQ(Items(TCTextId::StandardToolbar).front(), TCCommandId::Stop);

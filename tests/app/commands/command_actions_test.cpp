@@ -49,12 +49,15 @@ TEST_F(CommandActions, TheToolTipIsTheStatusTextsSecondLineWithTheKeys) {
   EXPECT_EQ(actions.ActionOf(TCCommandId::Stop)->toolTip(), QStringLiteral("Stop S, F6, 6"));
 }
 
-TEST_F(CommandActions, AToolButtonIsCalledByTheMenusName) {
-  target.handled = {TCCommandId::SeekForward, TCCommandId::PauseContinue, TCCommandId::NextSong};
+TEST_F(CommandActions, AToolButtonIsCalledByTheCommandsTitle) {
+  target.handled = {TCCommandId::SeekForward, TCCommandId::PauseContinue, TCCommandId::NextSong,
+                    TCCommandId::MediaVolumeUp};
   const TCCommandActions actions(target, window);
   EXPECT_EQ(actions.ActionOf(TCCommandId::SeekForward)->iconText(), QStringLiteral("Fast Foward"));
   EXPECT_EQ(actions.ActionOf(TCCommandId::PauseContinue)->iconText(), QStringLiteral("Pause - Continue"));
   EXPECT_EQ(actions.ActionOf(TCCommandId::NextSong)->iconText(), QStringLiteral("Next Song"));
+  EXPECT_EQ(actions.ActionOf(TCCommandId::MediaVolumeUp)->iconText(),
+            QStringLiteral("Increase Volume (volume key)"));
 }
 
 TEST_F(CommandActions, EnterIsBoundOnBothKeyboards) {

@@ -57,8 +57,17 @@ TEST_F(FileDrops, FilesComeInTheirOrderOnceTheDropIsOver) {
   EXPECT_EQ(dropped, (QList<QByteArray>{"/m/b c.mp3", "/m/a>\xE4\xB8\x80.wav"}));
 }
 
+TEST_F(FileDrops, ANameKeepsEveryByte) {
+  // As file managers write them; the last one is the old form.
+  EXPECT_TRUE(Drop({QUrl::fromEncoded("file:///m/a%FF.mp3"), QUrl::fromEncoded("file:///m/100%25%231%3F.mp3"),
+                    QUrl::fromEncoded("file:/m/%E4%B8%80.mp3")}));
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(dropped, (QList<QByteArray>{"/m/a\xFF.mp3", "/m/100%#1?.mp3", "/m/\xE4\xB8\x80.mp3"}));
+}
+
 TEST_F(FileDrops, WhatIsNoFileOfThisMachineIsLeftOut) {
   EXPECT_FALSE(Drop({QUrl(QStringLiteral("https://example.org/a.mp3"))}));
+  EXPECT_FALSE(Drop({QUrl(QStringLiteral("file://elsewhere/a.mp3"))}));
   EXPECT_TRUE(Drop(
       {QUrl(QStringLiteral("https://example.org/a.mp3")), QUrl::fromLocalFile(QStringLiteral("/m/a.mp3"))}));
   QCoreApplication::sendPostedEvents();
