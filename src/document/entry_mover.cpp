@@ -11,10 +11,9 @@ namespace {
 TCSongPosition AppendSongs(TCSetListStore& store, TCPlaylistPosition target,
                            std::vector<TCPlayListItem> songs) {
   const auto first = static_cast<std::int32_t>(PlaylistAt(store, target)->items.size());
-  std::int32_t place = first;
-  for (TCPlayListItem& song : songs)
-    InsertSong(store, {target.group, target.playlist, place++}, std::move(song));
-  return {target.group, target.playlist, first};
+  const TCSongPosition place{target.group, target.playlist, first};
+  InsertSongs(store, place, std::move(songs));
+  return place;
 }
 
 }  // namespace

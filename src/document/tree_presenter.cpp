@@ -1,6 +1,5 @@
 #include "document/tree_presenter.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -8,11 +7,12 @@ namespace brevant {
 
 namespace {
 
+// The entry that stands in the node's place, if it has this node; -1 if not. Each edit brings entries and
+// nodes into step before anybody asks.
 template <typename Entry>
-std::int32_t IndexOfNode(const std::vector<Entry>& list, TCTreeNode node) {
-  const auto found =
-      std::find_if(list.begin(), list.end(), [node](const Entry& entry) { return entry.treeNode == node; });
-  return found == list.end() ? -1 : static_cast<std::int32_t>(found - list.begin());
+std::int32_t IndexOfNode(const TCTreeDisplay& tree, const std::vector<Entry>& list, TCTreeNode node) {
+  const std::size_t place = tree.PlaceOf(node);
+  return place < list.size() && list[place].treeNode == node ? static_cast<std::int32_t>(place) : -1;
 }
 
 // Adds one node for each entry from `first` on, and hands each entry its own.
@@ -131,21 +131,21 @@ TCNodeEntry TCTreePresenter::EntryOf(TCTreeNode node) const {
     case TCNodeKind::None:
       break;
     case TCNodeKind::Group: {
-      const std::int32_t group = IndexOfNode(store.groups, node);
+      const std::int32_t group = IndexOfNode(tree, store.groups, node);
       if (group >= 0) return {TCNodeKind::Group, group};
       break;
     }
     case TCNodeKind::Playlist: {
       const TCNodeEntry group = EntryOf(tree.ParentOf(node));
       if (group.kind == TCNodeKind::None) break;
-      const std::int32_t playlist = IndexOfNode(GroupAt(store, group.group)->playlists, node);
+      const std::int32_t playlist = IndexOfNode(tree, GroupAt(store, group.group)->playlists, node);
       if (playlist >= 0) return {TCNodeKind::Playlist, group.group, playlist};
       break;
     }
     case TCNodeKind::Song: {
       const TCNodeEntry playlist = EntryOf(tree.ParentOf(node));
       if (playlist.kind == TCNodeKind::None) break;
-      const std::int32_t song = IndexOfNode(PlaylistAt(store, playlist.Playlist())->items, node);
+      const std::int32_t song = IndexOfNode(tree, PlaylistAt(store, playlist.Playlist())->items, node);
       if (song >= 0) return {TCNodeKind::Song, playlist.group, playlist.playlist, song};
       break;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 #include "text/path_parts.h"
@@ -107,11 +108,19 @@ bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList ent
 }
 
 bool InsertSong(TCSetListStore& store, TCSongPosition at, TCPlayListItem entry) {
+  std::vector<TCPlayListItem> entries;
+  entries.push_back(std::move(entry));
+  return InsertSongs(store, at, std::move(entries));
+}
+
+bool InsertSongs(TCSetListStore& store, TCSongPosition at, std::vector<TCPlayListItem> entries) {
   TCPlayList* playlist = PlaylistAt(store, at.Playlist());
   if (playlist == nullptr || !HasRoomAt(playlist->items, at.song)) return false;
-  if (store.CurrentPosition() == at.Playlist() && store.IsValidSongIndex(store.currentSong))
-    store.currentSong = AfterInsert(store.currentSong, at.song);
-  PutIn(playlist->items, at.song, std::move(entry));
+  if (store.CurrentPosition() == at.Playlist() && store.IsValidSongIndex(store.currentSong) &&
+      store.currentSong >= at.song)
+    store.currentSong += static_cast<std::int32_t>(entries.size());
+  playlist->items.insert(playlist->items.begin() + at.song, std::make_move_iterator(entries.begin()),
+                         std::make_move_iterator(entries.end()));
   return true;
 }
 

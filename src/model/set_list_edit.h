@@ -32,6 +32,8 @@ struct TCSongPosition {
 bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry);
 bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList entry);
 bool InsertSong(TCSetListStore& store, TCSongPosition at, TCPlayListItem entry);
+// Several songs at once, the first of them at `at`.
+bool InsertSongs(TCSetListStore& store, TCSongPosition at, std::vector<TCPlayListItem> entries);
 
 bool RemoveGroup(TCSetListStore& store, std::int32_t group);
 bool RemovePlaylist(TCSetListStore& store, TCPlaylistPosition at);

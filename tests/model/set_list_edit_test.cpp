@@ -107,6 +107,20 @@ TEST_F(SetListEditTest, TheCurrentSongStaysWhenSongsComeAndGoInFrontOfIt) {
   EXPECT_EQ(CurrentSongName(), u"a2");
 }
 
+TEST_F(SetListEditTest, SeveralSongsComeAtOnceAndPushTheCurrentOneAlong) {
+  std::vector<TCPlayListItem> songs(2);
+  songs[0].fileName = u"x";
+  songs[1].fileName = u"y";
+  store.currentSong = 2;
+  ASSERT_TRUE(InsertSongs(store, {0, 0, 3}, songs));
+  EXPECT_EQ(CurrentSongName(), u"a2");
+  ASSERT_TRUE(InsertSongs(store, {0, 0, 2}, songs));
+  EXPECT_EQ(CurrentSongName(), u"a2");
+  EXPECT_THAT(Songs(0), ElementsAre(u"a0", u"a1", u"x", u"y", u"a2", u"x", u"y", u"a3", u"a4"));
+  EXPECT_FALSE(InsertSongs(store, {0, 0, 10}, songs));
+  EXPECT_FALSE(InsertSongs(store, {0, 9, 0}, songs));
+}
+
 TEST_F(SetListEditTest, SongsOfOtherPlaylistsLeaveTheCurrentSongAlone) {
   store.currentSong = 2;
   ASSERT_TRUE(InsertSong(store, {0, 1, 0}, {}));
