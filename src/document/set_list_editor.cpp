@@ -1,6 +1,9 @@
 #include "document/set_list_editor.h"
 
+#include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "resources/string_table.h"
 #include "text/white_space.h"
