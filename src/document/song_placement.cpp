@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "model/media_check.h"
+#include "model/set_list_edit.h"
 #include "resources/string_table.h"
 #include "text/numbers.h"
 #include "text/quoted_words.h"
@@ -11,13 +12,6 @@
 namespace brevant {
 
 namespace {
-
-std::u16string Quoted(std::u16string_view text) {
-  std::u16string quoted = u"\"";
-  quoted += text;
-  quoted += u'"';
-  return quoted;
-}
 
 std::u16string WaitingHint(std::size_t files) {
   if (files == 0) return u"No dropped files to place, Esc to cancel";
@@ -36,15 +30,16 @@ void TCSongPlacement::CopySelectedRows() {
   if (rows.empty()) return;
   copyText.clear();
   for (const std::int32_t row : rows) {
-    if (const TCPlayListItem* song = parts.Store().SongAt(row)) copyText += Quoted(song->FullPath());
+    if (const TCPlayListItem* song = parts.Store().SongInCurrentPlaylist(row))
+      copyText += QuotedWord(song->FullPath());
   }
 }
 
 void TCSongPlacement::CopySelectedNode() {
   const TCNodeEntry entry = parts.tree.SelectedEntry();
   if (entry.kind != TCNodeKind::Song) return;
-  const std::u16string path = SongAt(parts.Store(), entry.Song())->FullPath();
-  if (!path.empty()) copyText = Quoted(path);
+  const std::u16string path = parts.Store().SongAt(entry.Song())->FullPath();
+  if (!path.empty()) copyText = QuotedWord(path);
 }
 
 void TCSongPlacement::Paste() {
@@ -114,7 +109,7 @@ bool TCSongPlacement::PlaceSongs(std::vector<TCPlayListItem> songs) {
   if (parts.tree.SelectedEntry().kind == TCNodeKind::Group && !editor.AskForPlaylist()) return false;
   TCSetListStore& store = parts.Store();
   const TCNodeEntry selected = parts.tree.SelectedEntry();
-  const TCPlayList* playlist = PlaylistAt(store, selected.Playlist());
+  const TCPlayList* playlist = store.PlaylistAt(selected.Playlist());
   if (playlist == nullptr) return false;
   TCSongPosition first{selected.group, selected.playlist, selected.song + 1};
   if (selected.kind == TCNodeKind::Playlist) first.song = static_cast<std::int32_t>(playlist->items.size());
@@ -123,8 +118,7 @@ bool TCSongPlacement::PlaceSongs(std::vector<TCPlayListItem> songs) {
   InsertSongs(store, first, std::move(songs));
   parts.tree.AddSongNodes(first, count);
   // The next files that are placed stand behind these.
-  parts.tree.Tree().SelectNode(
-      SongAt(store, {first.group, first.playlist, first.song + count - 1})->treeNode);
+  parts.tree.Tree().SelectNode(store.SongAt({first.group, first.playlist, first.song + count - 1})->treeNode);
   parts.Changed();
   parts.check.CheckSongFiles(first, count);
   parts.ShowChangedPlaylist(first.Playlist());

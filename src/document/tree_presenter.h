@@ -7,7 +7,6 @@
 #include <string>
 
 #include "document/tree_display.h"
-#include "model/set_list_edit.h"
 #include "model/set_list_store.h"
 
 namespace brevant {

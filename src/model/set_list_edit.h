@@ -13,20 +13,6 @@
 
 namespace brevant {
 
-struct TCSongPosition {
-  std::int32_t group = -1;
-  std::int32_t playlist = -1;
-  std::int32_t song = -1;
-
-  [[nodiscard]] TCPlaylistPosition Playlist() const { return {group, playlist}; }
-  [[nodiscard]] bool operator==(const TCSongPosition&) const = default;
-};
-
-// Null when an index is wrong.
-[[nodiscard]] TCPlayGroups* GroupAt(TCSetListStore& store, std::int32_t group);
-[[nodiscard]] TCPlayList* PlaylistAt(TCSetListStore& store, TCPlaylistPosition at);
-[[nodiscard]] TCPlayListItem* SongAt(TCSetListStore& store, TCSongPosition at);
-
 // At the place that `group` or `at` names; what stood there and behind it makes room. One past the last
 // appends.
 bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry);

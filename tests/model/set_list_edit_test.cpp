@@ -51,11 +51,11 @@ class SetListEditTest : public testing::Test {
     return playlist == nullptr ? std::u16string() : playlist->name;
   }
   [[nodiscard]] std::u16string CurrentSongName() {
-    const TCPlayListItem* song = store.SongAt(store.currentSong);
+    const TCPlayListItem* song = store.SongInCurrentPlaylist(store.currentSong);
     return song == nullptr ? std::u16string() : song->fileName;
   }
   [[nodiscard]] std::u16string ShownName() {
-    const TCPlayList* playlist = PlaylistAt(store, store.shown);
+    const TCPlayList* playlist = store.PlaylistAt(store.shown);
     return playlist == nullptr ? std::u16string() : playlist->name;
   }
 
@@ -194,7 +194,7 @@ TEST_F(SetListEditTest, ThePlaylistThatIsMeasuredIsFollowedToo) {
   store.measured = {0, 1};
   ASSERT_TRUE(MovePlaylist(store, {0, 1}, {1, 0}));
   ASSERT_TRUE(InsertGroup(store, 0, {}));
-  EXPECT_EQ(PlaylistAt(store, store.measured)->name, u"A1");
+  EXPECT_EQ(store.PlaylistAt(store.measured)->name, u"A1");
   ASSERT_TRUE(RemoveGroup(store, 2));
   EXPECT_EQ(store.measured, TCPlaylistPosition());
 }
