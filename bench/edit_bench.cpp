@@ -9,6 +9,7 @@
 #include "document/entry_mover.h"
 #include "document/set_list_editor.h"
 #include "document/song_placement.h"
+#include "document/song_properties.h"
 #include "support/fake_frame.h"
 #include "support/memory_files.h"
 #include "support/message_log.h"
@@ -194,6 +195,44 @@ void RemoveHalfTheRows(benchmark::State& state) {
   }
 }
 
+// "Song properties" left with its path for all songs of one playlist; the disk answers at once.
+void ChangeTheFolderOfAllSongs(benchmark::State& state) {
+  const auto songs = static_cast<std::int32_t>(state.range(0));
+  TCStudio studio(songs, songs);
+  bool back = false;
+  for (auto _ : state) {
+    TCSongPropertiesForm form(studio.parts, {0, 0, 5});
+    form.songPath = back ? u"C:\\Music\\" : u"D:\\Music\\";
+    form.pathForAll = true;
+    form.Apply();
+    back = !back;
+    studio.Paint();
+    state.PauseTiming();
+    studio.files.ForgetRequests();
+    state.ResumeTiming();
+  }
+}
+
+// A hundred files behind the song in the midst of one playlist.
+void PlaceAHundredFiles(benchmark::State& state) {
+  const auto songs = static_cast<std::int32_t>(state.range(0));
+  TCStudio studio(songs, songs);
+  std::u16string files;
+  for (std::int32_t i = 0; i < 100; ++i) files += u"\"" + Numbered("C:\\new ", i) + u".mp3\"";
+  const std::vector<TCPlayListItem> all = studio.store.CurrentPlaylist()->items;
+  for (auto _ : state) {
+    state.PauseTiming();
+    studio.store.CurrentPlaylist()->items = all;
+    studio.Show();
+    studio.tree.SelectNode(studio.Song(all.size() / 2).treeNode);
+    studio.Paint();
+    studio.files.ForgetRequests();
+    state.ResumeTiming();
+    studio.placement.PlaceText(files);
+    studio.Paint();
+  }
+}
+
 void BuildTheWholeTree(benchmark::State& state) {
   TCStudio studio(static_cast<std::int32_t>(state.range(0)));
   for (auto _ : state) {
@@ -227,6 +266,8 @@ BENCHMARK(RemoveHalfTheRows)
     ->ArgNames({"songs", "sideBySide"})
     ->ArgsProduct({{100, 1'000, 10'000}, {1, 0}})
     ->Unit(benchmark::kMillisecond);
+BREVANT_EDIT_BENCHMARK(ChangeTheFolderOfAllSongs);
+BREVANT_EDIT_BENCHMARK(PlaceAHundredFiles);
 BREVANT_EDIT_BENCHMARK(BuildTheWholeTree);
 BREVANT_EDIT_BENCHMARK(OpenTheWholeTree);
 

@@ -69,7 +69,7 @@ void TickThatLearnsTheTime(benchmark::State& state) {
     state.PauseTiming();
     stage.transport.Play();
     stage.player.Advance(0.1);
-    stage.store.SongAt(stage.store.currentSong)->time = u"00:01";
+    stage.store.SongInCurrentPlaylist(stage.store.currentSong)->time = u"00:01";
     state.ResumeTiming();
     stage.transport.OnPlayTimerTick();
   }

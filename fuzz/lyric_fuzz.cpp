@@ -46,10 +46,11 @@ void CheckWidths(std::string_view bytes) {
   TCLyricSheet sheet;
   for (const std::u16string& line : SplitAnsiLines(bytes)) ParseLyricLine(line, sheet);
   const std::vector<TCLyric> lines = TCSongLyrics(sheet).LinesFrom(0, sheet.lines.size());
-  MustHold(loaded.LineCount() == lines.size() && loaded.Headers() == sheet.headers,
+  const std::vector<TCLyric> loadedLines = loaded.LinesFrom(0, loaded.LineCount());
+  MustHold(loadedLines.size() == lines.size() && loaded.Headers() == sheet.headers,
            "both widths give the same lines");
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    const TCLyric line = loaded.LineAt(i);
+    const TCLyric& line = loadedLines[i];
     MustHold(line.text == lines[i].text && line.singer == lines[i].singer, "both widths give the same texts");
   }
 }
@@ -61,10 +62,12 @@ void CheckLoading(const char16_t* fileName, std::string_view bytes) {
   MustHold(LoadLyrics(files, u"song.mp3", lyrics), "a lyric file is read whatever it holds");
 
   const std::size_t count = lyrics.LineCount();
+  const std::vector<TCLyric> lines = lyrics.LinesFrom(0, count);
+  MustHold(lines.size() == count, "as many lines as are counted");
   for (std::size_t i = 0; i + 2 < count; ++i) {
-    MustHold(lyrics.LineAt(i).end == lyrics.LineAt(i + 1).start, "a line ends where the next begins");
+    MustHold(lines[i].end == lines[i + 1].start, "a line ends where the next begins");
   }
-  if (count > 0) MustHold(lyrics.LineAt(count - 1).end == kEndOfLyrics, "the last line has no end");
+  if (count > 0) MustHold(lines[count - 1].end == kEndOfLyrics, "the last line has no end");
 
   for (const std::int32_t timeMs : {0, 500, 10'000, kEndOfLyrics - 1}) {
     std::vector<TCLyric> found;

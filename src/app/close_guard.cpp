@@ -3,13 +3,6 @@
 #include <QEvent>
 
 namespace brevant {
-namespace {
-
-std::u16string DocumentPath(const TCSetListStore& store) {
-  return store.documentFolder + store.documentFileName;
-}
-
-}  // namespace
 
 TCCloseGuard::TCCloseGuard(TCMainFrame& mainFrame, QSettings& layoutStore, const TCSettingsFile& file,
                            const TCAppRecord& appRecord, TCBrevantDoc& document)
@@ -50,10 +43,10 @@ bool TCCloseGuard::eventFilter(QObject* /*receiver*/, QEvent* event) {
 
 bool TCCloseGuard::OnClose() {
   WriteSettings();
-  const std::u16string writtenPath = DocumentPath(record.setLists);
+  const std::u16string writtenPath = record.setLists.DocumentPath();
   if (!doc.SaveModified()) return false;
   // Saved under another name while it closed: the next start is to open that one.
-  if (DocumentPath(record.setLists) != writtenPath) settingsFile.SaveSettings(record);
+  if (record.setLists.DocumentPath() != writtenPath) settingsFile.SaveSettings(record);
   return true;
 }
 

@@ -36,8 +36,8 @@ QString FolderText(std::u16string_view path) {
 QStringList RecentFileTexts(const std::vector<std::u16string>& paths) {
   QStringList texts;
   for (const std::u16string& path : paths) {
-    const auto sameName = [name = ToLower(FileNamePart(path))](const std::u16string& other) {
-      return ToLower(FileNamePart(other)) == name;
+    const auto sameName = [name = FileNamePart(path)](const std::u16string& other) {
+      return EqualIgnoringCase(FileNamePart(other), name);
     };
     QString text = NameText(path);
     if (std::ranges::count_if(paths, sameName) > 1) text += QStringLiteral("  (%1)").arg(FolderText(path));

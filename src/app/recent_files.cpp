@@ -1,8 +1,7 @@
 #include "app/recent_files.h"
 
-#include "resources/string_table.h"
+#include "model/document_file.h"
 #include "text/case_folding.h"
-#include "text/path_parts.h"
 #include "views/text_conversion.h"
 
 namespace brevant {
@@ -13,10 +12,6 @@ QString KeyOf(std::size_t place) {
   return QStringLiteral("Recent File List/File%1").arg(place + 1);
 }
 
-bool IsDocument(std::u16string_view path) {
-  return ToLower(ExtensionPart(path)) == TextOf(TCTextId::DocumentExtension);
-}
-
 }  // namespace
 
 TCRecentFiles::TCRecentFiles(QSettings& layoutStore) : layout(layoutStore) {
@@ -24,12 +19,12 @@ TCRecentFiles::TCRecentFiles(QSettings& layoutStore) : layout(layoutStore) {
   // Oldest first: each goes before those that are there.
   for (std::size_t place = kRecentFiles; place > 0; --place) {
     const std::u16string path = FromQString(layout.value(KeyOf(place - 1)).toString());
-    if (IsDocument(path)) Enter(path);
+    if (IsDocumentPath(path)) Enter(path);
   }
 }
 
 void TCRecentFiles::AddToRecentFileList(std::u16string_view path) {
-  if (!IsDocument(path)) return;
+  if (!IsDocumentPath(path)) return;
   Enter(path);
   Write();
   Q_EMIT changed();
@@ -37,8 +32,7 @@ void TCRecentFiles::AddToRecentFileList(std::u16string_view path) {
 
 void TCRecentFiles::Enter(std::u16string_view path) {
   const std::u16string entered(path);
-  std::erase_if(paths,
-                [name = ToLower(entered)](const std::u16string& other) { return ToLower(other) == name; });
+  std::erase_if(paths, [&](const std::u16string& other) { return EqualIgnoringCase(other, entered); });
   paths.insert(paths.begin(), entered);
   if (paths.size() > kRecentFiles) paths.resize(kRecentFiles);
 }

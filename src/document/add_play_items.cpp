@@ -28,7 +28,7 @@ TCAddPlayItems::TCAddPlayItems(const TCEditParts& editParts, TCSetListEditor& se
   }
   if (group < 0) return;
   const std::int32_t named =
-      TCSetListStore::FindPlaylistByName(*GroupAt(parts.Store(), group), store.lastPlayListName);
+      TCSetListStore::FindPlaylistByName(*parts.Store().GroupAt(group), store.lastPlayListName);
   if (named >= 0) ChoosePlaylist(named);
 }
 
@@ -56,7 +56,7 @@ void TCAddPlayItems::CreateGroup() {
 }
 
 void TCAddPlayItems::CreateSet() {
-  const TCPlayGroups* chosen = GroupAt(parts.Store(), group);
+  const TCPlayGroups* chosen = parts.Store().GroupAt(group);
   if (chosen == nullptr) return;
   parts.tree.Tree().SelectNode(chosen->treeNode);  // the new playlist goes into the selected node's group
   if (!editor.AskForPlaylist()) return;
@@ -66,13 +66,13 @@ void TCAddPlayItems::CreateSet() {
 
 void TCAddPlayItems::RememberNames() {
   TCSetListStore& store = parts.Store();
-  if (const TCPlayGroups* chosen = GroupAt(store, group)) store.lastGroupListName = chosen->name;
-  if (const TCPlayList* chosen = PlaylistAt(store, {group, playlist})) store.lastPlayListName = chosen->name;
+  if (const TCPlayGroups* chosen = store.GroupAt(group)) store.lastGroupListName = chosen->name;
+  if (const TCPlayList* chosen = store.PlaylistAt({group, playlist})) store.lastPlayListName = chosen->name;
 }
 
 bool TCAddPlayItems::MakeChosenCurrent() {
   TCSetListStore& store = parts.Store();
-  const TCPlayList* chosen = PlaylistAt(store, {group, playlist});
+  const TCPlayList* chosen = store.PlaylistAt({group, playlist});
   if (chosen == nullptr) return false;
   store.currentGroup = group;
   store.currentPlaylist = playlist;

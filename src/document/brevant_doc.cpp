@@ -6,7 +6,6 @@
 #include "document/option_commands.h"
 #include "document/option_prompts.h"
 #include "document/song_properties.h"
-#include "text/case_folding.h"
 #include "text/numbers.h"
 #include "text/path_parts.h"
 
@@ -225,7 +224,7 @@ void TCBrevantDoc::EnterOnNode() {
 
 void TCBrevantDoc::ShowTreeSelection() {
   const TCNodeEntry entry = tree.SelectedEntry();
-  const TCPlayList* playlist = PlaylistAt(parts.record.setLists, entry.Playlist());
+  const TCPlayList* playlist = parts.record.setLists.PlaylistAt(entry.Playlist());
   if (playlist == nullptr) return;
   parts.treeView.SelectNode(playlist->treeNode);
   MakePlaylistCurrent(entry.Playlist());
@@ -240,7 +239,7 @@ void TCBrevantDoc::DropRowsOnPlaylist() {
 
 void TCBrevantDoc::DropFiles(std::vector<std::u16string> paths) {
   for (const std::u16string& path : paths) {
-    if (ToLower(ExtensionPart(path)) == TextOf(TCTextId::DocumentExtension)) return OpenDocumentFile(path);
+    if (IsDocumentPath(path)) return OpenDocumentFile(path);
   }
   if (!paths.empty()) placement.SetPendingFiles(std::move(paths));
 }
@@ -271,7 +270,7 @@ void TCBrevantDoc::ShowSongProperties() {
   const TCPlaylistPosition current = parts.record.setLists.CurrentPosition();
   const TCSongPosition song =
       row < 0 ? tree.SelectedEntry().Song() : TCSongPosition{current.group, current.playlist, row};
-  if (SongAt(parts.record.setLists, song) == nullptr) return;
+  if (parts.record.setLists.SongAt(song) == nullptr) return;
   TCSongPropertiesForm form(EditParts(), song);
   if (parts.prompts.EditSongProperties(form)) form.Apply();
 }

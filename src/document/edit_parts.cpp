@@ -9,7 +9,7 @@ void TCEditParts::Changed() const {
 
 void TCEditParts::ShowChangedPlaylist(TCPlaylistPosition touched) const {
   TCSetListStore& store = Store();
-  if (TCPlayList* list = PlaylistAt(store, touched)) store.RecalcPlaylistTotalTime(*list);
+  if (TCPlayList* list = store.PlaylistAt(touched)) store.RecalcPlaylistTotalTime(*list);
   // Of the two the one that is not current stands on the screen only while the current one is empty.
   if (touched == store.CurrentPosition() || touched == store.shown) playlist.ShowEditedPlaylist(touched);
 }

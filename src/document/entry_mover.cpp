@@ -3,6 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include "model/set_list_edit.h"
+
 namespace brevant {
 
 namespace {
@@ -10,11 +12,10 @@ namespace {
 // Appends copies of `songs`; the place of the first of them.
 TCSongPosition AppendSongs(TCSetListStore& store, TCPlaylistPosition target,
                            std::vector<TCPlayListItem> songs) {
-  const auto first = static_cast<std::int32_t>(PlaylistAt(store, target)->items.size());
-  std::int32_t place = first;
-  for (TCPlayListItem& song : songs)
-    InsertSong(store, {target.group, target.playlist, place++}, std::move(song));
-  return {target.group, target.playlist, first};
+  const auto first = static_cast<std::int32_t>(store.PlaylistAt(target)->items.size());
+  const TCSongPosition place{target.group, target.playlist, first};
+  InsertSongs(store, place, std::move(songs));
+  return place;
 }
 
 }  // namespace
@@ -28,17 +29,17 @@ void TCEntryMover::Duplicate() {
     case TCNodeKind::None:
       return;
     case TCNodeKind::Group:
-      InsertGroup(store, entry.group + 1, *GroupAt(store, entry.group));
+      InsertGroup(store, entry.group + 1, *store.GroupAt(entry.group));
       parts.tree.AddGroupNode(entry.group + 1);
       break;
     case TCNodeKind::Playlist: {
       const TCPlaylistPosition behind{entry.group, entry.playlist + 1};
-      InsertPlaylist(store, behind, *PlaylistAt(store, entry.Playlist()));
+      InsertPlaylist(store, behind, *store.PlaylistAt(entry.Playlist()));
       parts.tree.AddPlaylistNode(behind);
       break;
     }
     case TCNodeKind::Song:
-      parts.tree.AddSongNodes(AppendSongs(store, entry.Playlist(), {*SongAt(store, entry.Song())}), 1);
+      parts.tree.AddSongNodes(AppendSongs(store, entry.Playlist(), {*store.SongAt(entry.Song())}), 1);
       parts.ShowChangedPlaylist(entry.Playlist());
       break;
   }
@@ -119,7 +120,7 @@ void TCEntryMover::CopySelectedRowsToNode() {
   TCSetListStore& store = parts.Store();
   std::vector<TCPlayListItem> songs;
   for (const std::int32_t row : rows) {
-    if (const TCPlayListItem* song = store.SongAt(row)) songs.push_back(*song);
+    if (const TCPlayListItem* song = store.SongInCurrentPlaylist(row)) songs.push_back(*song);
   }
   if (songs.empty()) return;
   const auto count = static_cast<std::int32_t>(songs.size());

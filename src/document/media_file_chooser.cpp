@@ -4,6 +4,7 @@
 
 #include "model/media_check.h"
 #include "text/path_parts.h"
+#include "text/quoted_words.h"
 
 namespace brevant {
 
@@ -36,7 +37,7 @@ std::u16string TCMediaFileChooser::ChooseSongs() {
   std::u16string text;
   for (const std::u16string& path : paths) {
     if (!text.empty()) text += u' ';
-    text += u'"' + path + u'"';
+    text += QuotedWord(path);
   }
   record.settings.lastMediaFileName = paths.front();
   record.settings.lastMediaFileExtSpec = ExtensionPart(paths.front());

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "model/play_marks.h"
-#include "model/set_list_edit.h"
 #include "resources/string_table.h"
 #include "text/numbers.h"
 
@@ -26,7 +25,7 @@ void TCPlaylistPresenter::ShowEditedPlaylist(TCPlaylistPosition position) {
 }
 
 void TCPlaylistPresenter::Show(TCPlaylistPosition position, TCShowRows whenShownAlready) {
-  const TCPlayList* shown = PlaylistAt(record.setLists, position);
+  const TCPlayList* shown = record.setLists.PlaylistAt(position);
   // An emptied playlist stays on the screen until another one is shown.
   if (shown == nullptr || shown->items.empty()) return;
   record.setLists.RecordLastShownNames();
@@ -61,7 +60,7 @@ void TCPlaylistPresenter::Recolour() {
 
 void TCPlaylistPresenter::ShowColours() {
   // Of what stands on the screen, as ShowAgain has it.
-  const TCPlayList* playlist = PlaylistAt(record.setLists, record.setLists.shown);
+  const TCPlayList* playlist = record.setLists.PlaylistAt(record.setLists.shown);
   if (playlist == nullptr) return;
   std::vector<TCRowColours> colours;
   colours.reserve(playlist->items.size());

@@ -1,6 +1,5 @@
 #include "document/properties_presenter.h"
 
-#include "model/set_list_edit.h"
 #include "text/numbers.h"
 #include "text/path_parts.h"
 
@@ -40,17 +39,17 @@ void TCPropertiesPresenter::RefreshOptions() {
 void TCPropertiesPresenter::RefreshSelectionProperties(std::int32_t group, std::int32_t playlist,
                                                        std::int32_t song) {
   if (!IsBuilt()) return;
-  const TCPlayListItem* item = SongAt(record.setLists, {group, playlist, song});
+  const TCPlayListItem* item = record.setLists.SongAt({group, playlist, song});
   if (item == nullptr) return;
-  display->ShowProperty(TCProperty::GroupName, GroupAt(record.setLists, group)->name);
-  display->ShowProperty(TCProperty::PlaylistName, PlaylistAt(record.setLists, {group, playlist})->name);
+  display->ShowProperty(TCProperty::GroupName, record.setLists.GroupAt(group)->name);
+  display->ShowProperty(TCProperty::PlaylistName, record.setLists.PlaylistAt({group, playlist})->name);
   display->ShowProperty(TCProperty::SongFileName, item->fileName);
   display->ShowProperty(TCProperty::SongFilePath, item->folder);
 }
 
 void TCPropertiesPresenter::RefreshLyricProperties() {
   if (!IsBuilt()) return;
-  const TCPlayListItem* song = record.setLists.SongAt(record.setLists.currentSong);
+  const TCPlayListItem* song = record.setLists.SongInCurrentPlaylist(record.setLists.currentSong);
   if (song == nullptr) return;
   const TCLyricHeaders tags = song->lyrics.Headers();
   display->ShowProperty(TCProperty::Artist, tags.artist);

@@ -1,7 +1,11 @@
 #include "document/set_list_editor.h"
 
+#include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "model/set_list_edit.h"
 #include "resources/string_table.h"
 #include "text/white_space.h"
 
@@ -71,7 +75,7 @@ bool TCSetListEditor::CreatePlaylistAt(TCTreeNode node, std::u16string_view name
   const TCNodeEntry selected = parts.tree.EntryOf(node);
   if (playlist.name.empty() || selected.kind == TCNodeKind::None) return false;
   TCSetListStore& store = parts.Store();
-  const auto count = static_cast<std::int32_t>(GroupAt(store, selected.group)->playlists.size());
+  const auto count = static_cast<std::int32_t>(store.GroupAt(selected.group)->playlists.size());
   const TCPlaylistPosition place{selected.group,
                                  selected.kind == TCNodeKind::Group ? count : selected.playlist + 1};
   InsertPlaylist(store, place, std::move(playlist));
@@ -111,11 +115,11 @@ bool TCSetListEditor::Rename(TCTreeNode node, std::u16string_view typed) {
     case TCNodeKind::None:
       return false;
     case TCNodeKind::Group:
-      GroupAt(store, entry.group)->name = name;
+      store.GroupAt(entry.group)->name = name;
       if (entry.group == store.currentGroup) store.RecordLastShownNames();
       break;
     case TCNodeKind::Playlist:
-      PlaylistAt(store, entry.Playlist())->name = name;
+      store.PlaylistAt(entry.Playlist())->name = name;
       // Its name stands in the header.
       if (entry.Playlist() == store.shown) parts.playlist.ShowPlaylist(entry.group, entry.playlist);
       break;
@@ -129,7 +133,7 @@ bool TCSetListEditor::Rename(TCTreeNode node, std::u16string_view typed) {
 }
 
 void TCSetListEditor::RenameSong(TCSongPosition at, std::u16string_view name) {
-  TCPlayListItem& song = *SongAt(parts.Store(), at);
+  TCPlayListItem& song = *parts.Store().SongAt(at);
   // A name with a backslash in it is read from a saved document as folder and name; so it is here.
   song.SetPath(std::u16string(std::u16string_view(song.folder)) + std::u16string(name));
   parts.check.CheckSongFiles(at, 1);

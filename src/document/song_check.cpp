@@ -16,7 +16,7 @@ TCSongCheck::TCSongCheck(TCFileSystem& fileSystem, TCSetListStore& setLists, TCT
 void TCSongCheck::CheckSongFiles(TCSongPosition first, std::int32_t count) {
   TCAnswer songs;
   for (TCSongPosition at = first; at.song < first.song + count; ++at.song) {
-    TCPlayListItem* song = SongAt(store, at);
+    TCPlayListItem* song = store.SongAt(at);
     if (song == nullptr) return;
     song->status = TCSongStatus::Pending;
     song->lyrics = {};  // nothing of another file's stays
@@ -52,7 +52,7 @@ void TCSongCheck::TakeLateAnswers() {
 
 void TCSongCheck::Take(TCAnswer songs) {
   for (TCSongOnDisk& onDisk : songs) {
-    TCPlayListItem* song = SongAt(store, tree.EntryOf(onDisk.node).Song());
+    TCPlayListItem* song = store.SongAt(tree.EntryOf(onDisk.node).Song());
     if (song == nullptr || song->FullPath() != onDisk.path) continue;
     song->status = onDisk.status;
     song->lyrics = std::move(onDisk.lyrics);

@@ -9,7 +9,7 @@
 
 #include "document/playlist_presenter.h"
 #include "document/tree_presenter.h"
-#include "model/set_list_edit.h"
+#include "model/set_list_store.h"
 #include "text/file_system.h"
 
 namespace brevant {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "model/media_check.h"
+#include "model/set_list_edit.h"
 #include "resources/string_table.h"
 #include "text/numbers.h"
 #include "text/quoted_words.h"
@@ -11,13 +12,6 @@
 namespace brevant {
 
 namespace {
-
-std::u16string Quoted(std::u16string_view text) {
-  std::u16string quoted = u"\"";
-  quoted += text;
-  quoted += u'"';
-  return quoted;
-}
 
 std::u16string WaitingHint(std::size_t files) {
   if (files == 0) return u"No dropped files to place, Esc to cancel";
@@ -36,19 +30,19 @@ void TCSongPlacement::CopySelectedRows() {
   if (rows.empty()) return;
   copyText.clear();
   for (const std::int32_t row : rows) {
-    if (const TCPlayListItem* song = parts.Store().SongAt(row)) copyText += Quoted(song->FullPath());
+    if (const TCPlayListItem* song = parts.Store().SongInCurrentPlaylist(row))
+      copyText += QuotedWord(song->FullPath());
   }
 }
 
 void TCSongPlacement::CopySelectedNode() {
   const TCNodeEntry entry = parts.tree.SelectedEntry();
   if (entry.kind != TCNodeKind::Song) return;
-  const std::u16string path = SongAt(parts.Store(), entry.Song())->FullPath();
-  if (!path.empty()) copyText = Quoted(path);
+  const std::u16string path = parts.Store().SongAt(entry.Song())->FullPath();
+  if (!path.empty()) copyText = QuotedWord(path);
 }
 
 void TCSongPlacement::Paste() {
-  pendingText = copyText;
   pending = true;
   ShowPending();
 }
@@ -70,14 +64,12 @@ void TCSongPlacement::ShowPending() {
 void TCSongPlacement::PlacePendingFiles() {
   if (!pending || pendingFiles.empty()) return;
   pending = false;
-  pendingText.clear();
   ShowPending();
   PlaceFiles(std::vector(pendingFiles));  // a prompt on the way leaves time for the next drop
   parts.ShowCurrentPlaylist();
 }
 
 void TCSongPlacement::Cancel() {
-  pendingText.clear();
   pendingFiles.clear();
   pending = false;
   ShowPending();
@@ -91,15 +83,20 @@ void TCSongPlacement::PlaceText(std::u16string_view text) {
 
 void TCSongPlacement::PlaceFiles(const std::vector<std::u16string>& paths) {
   if (paths.empty() || !MakeStoreReady()) return;
-  const auto placed = static_cast<std::int32_t>(
-      std::find_if_not(paths.begin(), paths.end(),
-                       [this](const std::u16string& path) { return PlaceFile(path) == Placed::Yes; }) -
-      paths.begin());
-  if (placed == 0) return;
-  // The last song placed is selected, and the others stand right before it.
-  const TCSongPosition last = parts.tree.SelectedEntry().Song();
-  parts.check.CheckSongFiles({last.group, last.playlist, last.song - placed + 1}, placed);
-  parts.ShowChangedPlaylist(last.Playlist());
+  if (parts.tree.SelectedEntry().kind == TCNodeKind::None) return;
+  std::vector<TCPlayListItem> songs;
+  const std::u16string* wrong = nullptr;
+  for (const std::u16string& path : paths) {
+    TCPlayListItem song;
+    song.SetPath(path);
+    if (!IsValidMediaExtension(parts.Store(), song.extension)) {
+      wrong = &path;
+      break;
+    }
+    songs.push_back(std::move(song));
+  }
+  if (!songs.empty() && !PlaceSongs(std::move(songs))) return;
+  if (wrong != nullptr) parts.messages.AppendMessage(TCTextId::InvalidMediaType, *wrong);
 }
 
 bool TCSongPlacement::MakeStoreReady() {
@@ -108,26 +105,24 @@ bool TCSongPlacement::MakeStoreReady() {
   return !groups.front().playlists.empty() || editor.AskForPlaylist();
 }
 
-TCSongPlacement::Placed TCSongPlacement::PlaceFile(std::u16string_view path) {
-  if (parts.tree.SelectedEntry().kind == TCNodeKind::None) return Placed::No;
+bool TCSongPlacement::PlaceSongs(std::vector<TCPlayListItem> songs) {
+  if (parts.tree.SelectedEntry().kind == TCNodeKind::Group && !editor.AskForPlaylist()) return false;
   TCSetListStore& store = parts.Store();
-  TCPlayListItem song;
-  song.SetPath(path);
-  if (!IsValidMediaExtension(store, song.extension)) {
-    parts.messages.AppendMessage(TCTextId::InvalidMediaType, path);
-    return Placed::No;
-  }
-  if (parts.tree.SelectedEntry().kind == TCNodeKind::Group && !editor.AskForPlaylist()) return Placed::No;
   const TCNodeEntry selected = parts.tree.SelectedEntry();
-  const TCPlayList* playlist = PlaylistAt(store, selected.Playlist());
-  if (playlist == nullptr) return Placed::No;
-  TCSongPosition place{selected.group, selected.playlist, selected.song + 1};
-  if (selected.kind == TCNodeKind::Playlist) place.song = static_cast<std::int32_t>(playlist->items.size());
+  const TCPlayList* playlist = store.PlaylistAt(selected.Playlist());
+  if (playlist == nullptr) return false;
+  TCSongPosition first{selected.group, selected.playlist, selected.song + 1};
+  if (selected.kind == TCNodeKind::Playlist) first.song = static_cast<std::int32_t>(playlist->items.size());
 
-  InsertSong(store, place, std::move(song));
-  parts.tree.AddSongNodes(place, 1);
+  const auto count = static_cast<std::int32_t>(songs.size());
+  InsertSongs(store, first, std::move(songs));
+  parts.tree.AddSongNodes(first, count);
+  // The next files that are placed stand behind these.
+  parts.tree.Tree().SelectNode(store.SongAt({first.group, first.playlist, first.song + count - 1})->treeNode);
   parts.Changed();
-  return Placed::Yes;
+  parts.check.CheckSongFiles(first, count);
+  parts.ShowChangedPlaylist(first.Playlist());
+  return true;
 }
 
 }  // namespace brevant

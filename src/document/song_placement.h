@@ -8,6 +8,7 @@
 
 #include "document/edit_parts.h"
 #include "document/set_list_editor.h"
+#include "model/set_list.h"
 
 namespace brevant {
 
@@ -36,18 +37,17 @@ class TCSongPlacement {
   void PlaceText(std::u16string_view text);
 
  private:
-  enum class Placed { Yes, No };
-
-  // One after the other, up to the first that fails.
+  // Those before the first of a wrong type, which is reported.
   void PlaceFiles(const std::vector<std::u16string>& paths);
   bool MakeStoreReady();
-  Placed PlaceFile(std::u16string_view path);
+  // At the selected node; with a group selected, in a playlist that is asked for. False when nothing was
+  // placed.
+  bool PlaceSongs(std::vector<TCPlayListItem> songs);
   void ShowPending();
 
   TCEditParts parts;
   TCSetListEditor& editor;
   std::u16string copyText;
-  std::u16string pendingText;  // what was pasted; the click places the files alone
   std::vector<std::u16string> pendingFiles;
   bool pending = false;
 };

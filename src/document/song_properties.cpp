@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "document/set_list_editor.h"
+#include "model/set_list_edit.h"
 #include "text/path_parts.h"
 
 namespace brevant {
@@ -27,15 +28,15 @@ std::u16string CleanFolder(std::u16string_view typed) {
 TCSongPropertiesForm::TCSongPropertiesForm(const TCEditParts& editParts, TCSongPosition at)
     : parts(editParts), chooser(parts.record, parts.prompts) {
   TCSetListStore& store = parts.Store();
-  const TCPlayListItem* song = SongAt(store, at);
+  const TCPlayListItem* song = store.SongAt(at);
   if (song == nullptr) return;
   node = song->treeNode;
-  const TCPlayList& list = *PlaylistAt(store, at.Playlist());
+  const TCPlayList& list = *store.PlaylistAt(at.Playlist());
   songPath = std::u16string_view(song->folder);
   songName = song->fileName;
   songTime = song->time;
   playlistName = FileOf(list);
-  groupName = FileOf(*GroupAt(store, at.group));
+  groupName = FileOf(*store.GroupAt(at.group));
   pathForAll = list.state2 != 0;
   extensionForAll = list.state3 != 0;
 }
@@ -46,9 +47,9 @@ void TCSongPropertiesForm::SetDir() {
 
 void TCSongPropertiesForm::Apply() {
   const TCSongPosition position = parts.tree.EntryOf(node).Song();
-  TCPlayListItem* song = SongAt(parts.Store(), position);
+  TCPlayListItem* song = parts.Store().SongAt(position);
   if (song == nullptr) return;
-  TCPlayList& list = *PlaylistAt(parts.Store(), position.Playlist());
+  TCPlayList& list = *parts.Store().PlaylistAt(position.Playlist());
   list.state2 = pathForAll ? 1 : 0;
   list.state3 = extensionForAll ? 1 : 0;
   ApplyToSong(*song);

@@ -1,6 +1,5 @@
 #include "document/tree_presenter.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -8,11 +7,12 @@ namespace brevant {
 
 namespace {
 
+// The entry that stands in the node's place, if it has this node; -1 if not. Each edit brings entries and
+// nodes into step before anybody asks.
 template <typename Entry>
-std::int32_t IndexOfNode(const std::vector<Entry>& list, TCTreeNode node) {
-  const auto found =
-      std::find_if(list.begin(), list.end(), [node](const Entry& entry) { return entry.treeNode == node; });
-  return found == list.end() ? -1 : static_cast<std::int32_t>(found - list.begin());
+std::int32_t IndexOfNode(const TCTreeDisplay& tree, const std::vector<Entry>& list, TCTreeNode node) {
+  const std::size_t place = tree.PlaceOf(node);
+  return place < list.size() && list[place].treeNode == node ? static_cast<std::int32_t>(place) : -1;
 }
 
 // Adds one node for each entry from `first` on, and hands each entry its own.
@@ -62,7 +62,7 @@ void TCTreePresenter::AddAllSongNodes(TCPlayList& playlist) {
 }
 
 bool TCTreePresenter::AddGroupNode(std::int32_t index) {
-  TCPlayGroups* group = GroupAt(store, index);
+  TCPlayGroups* group = store.GroupAt(index);
   if (group == nullptr) return false;
   AddNodesFor(tree, TCTreeNode::None, store.groups, static_cast<std::size_t>(index), 1,
               NameOfEntry<TCPlayGroups>);
@@ -72,9 +72,9 @@ bool TCTreePresenter::AddGroupNode(std::int32_t index) {
 }
 
 bool TCTreePresenter::AddPlaylistNode(TCPlaylistPosition at) {
-  TCPlayList* playlist = PlaylistAt(store, at);
+  TCPlayList* playlist = store.PlaylistAt(at);
   if (playlist == nullptr) return false;
-  TCPlayGroups& group = *GroupAt(store, at.group);
+  TCPlayGroups& group = *store.GroupAt(at.group);
   AddNodesFor(tree, group.treeNode, group.playlists, static_cast<std::size_t>(at.playlist), 1,
               NameOfEntry<TCPlayList>);
   AddAllSongNodes(*playlist);
@@ -84,11 +84,11 @@ bool TCTreePresenter::AddPlaylistNode(TCPlaylistPosition at) {
 
 bool TCTreePresenter::AddSongNodes(TCSongPosition first, std::int32_t count) {
   const TCSongPosition last{first.group, first.playlist, first.song + count - 1};
-  if (count < 1 || SongAt(store, first) == nullptr || SongAt(store, last) == nullptr) return false;
-  TCPlayList& playlist = *PlaylistAt(store, first.Playlist());
+  if (count < 1 || store.SongAt(first) == nullptr || store.SongAt(last) == nullptr) return false;
+  TCPlayList& playlist = *store.PlaylistAt(first.Playlist());
   AddNodesFor(tree, playlist.treeNode, playlist.items, static_cast<std::size_t>(first.song),
               static_cast<std::size_t>(count), FileNameOf);
-  tree.SelectNode(SongAt(store, first)->treeNode);
+  tree.SelectNode(store.SongAt(first)->treeNode);
   return true;
 }
 
@@ -97,25 +97,23 @@ void TCTreePresenter::RenameSongNode(const TCPlayListItem& song) {
 }
 
 void TCTreePresenter::MoveGroupNode(std::int32_t index) {
-  const TCPlayGroups* group = GroupAt(store, index);
+  const TCPlayGroups* group = store.GroupAt(index);
   if (group == nullptr) return;
   tree.MoveNode(group->treeNode, TCTreeNode::None, static_cast<std::size_t>(index));
   tree.SelectNode(group->treeNode);
 }
 
 void TCTreePresenter::MovePlaylistNode(TCPlaylistPosition at) {
-  const TCPlayList* playlist = PlaylistAt(store, at);
+  const TCPlayList* playlist = store.PlaylistAt(at);
   if (playlist == nullptr) return;
-  tree.MoveNode(playlist->treeNode, GroupAt(store, at.group)->treeNode,
-                static_cast<std::size_t>(at.playlist));
+  tree.MoveNode(playlist->treeNode, store.GroupAt(at.group)->treeNode, static_cast<std::size_t>(at.playlist));
   tree.SelectNode(playlist->treeNode);
 }
 
 void TCTreePresenter::MoveSongNode(TCSongPosition at) {
-  const TCPlayListItem* song = SongAt(store, at);
+  const TCPlayListItem* song = store.SongAt(at);
   if (song == nullptr) return;
-  tree.MoveNode(song->treeNode, PlaylistAt(store, at.Playlist())->treeNode,
-                static_cast<std::size_t>(at.song));
+  tree.MoveNode(song->treeNode, store.PlaylistAt(at.Playlist())->treeNode, static_cast<std::size_t>(at.song));
   tree.SelectNode(song->treeNode);
 }
 
@@ -131,21 +129,21 @@ TCNodeEntry TCTreePresenter::EntryOf(TCTreeNode node) const {
     case TCNodeKind::None:
       break;
     case TCNodeKind::Group: {
-      const std::int32_t group = IndexOfNode(store.groups, node);
+      const std::int32_t group = IndexOfNode(tree, store.groups, node);
       if (group >= 0) return {TCNodeKind::Group, group};
       break;
     }
     case TCNodeKind::Playlist: {
       const TCNodeEntry group = EntryOf(tree.ParentOf(node));
       if (group.kind == TCNodeKind::None) break;
-      const std::int32_t playlist = IndexOfNode(GroupAt(store, group.group)->playlists, node);
+      const std::int32_t playlist = IndexOfNode(tree, store.GroupAt(group.group)->playlists, node);
       if (playlist >= 0) return {TCNodeKind::Playlist, group.group, playlist};
       break;
     }
     case TCNodeKind::Song: {
       const TCNodeEntry playlist = EntryOf(tree.ParentOf(node));
       if (playlist.kind == TCNodeKind::None) break;
-      const std::int32_t song = IndexOfNode(PlaylistAt(store, playlist.Playlist())->items, node);
+      const std::int32_t song = IndexOfNode(tree, store.PlaylistAt(playlist.Playlist())->items, node);
       if (song >= 0) return {TCNodeKind::Song, playlist.group, playlist.playlist, song};
       break;
     }
@@ -158,13 +156,13 @@ std::u16string TCTreePresenter::NameOf(const TCNodeEntry& entry) const {
     case TCNodeKind::None:
       break;
     case TCNodeKind::Group:
-      if (const TCPlayGroups* group = GroupAt(store, entry.group)) return group->name;
+      if (const TCPlayGroups* group = store.GroupAt(entry.group)) return group->name;
       break;
     case TCNodeKind::Playlist:
-      if (const TCPlayList* playlist = PlaylistAt(store, entry.Playlist())) return playlist->name;
+      if (const TCPlayList* playlist = store.PlaylistAt(entry.Playlist())) return playlist->name;
       break;
     case TCNodeKind::Song:
-      if (const TCPlayListItem* song = SongAt(store, entry.Song())) return song->fileName;
+      if (const TCPlayListItem* song = store.SongAt(entry.Song())) return song->fileName;
       break;
   }
   return {};

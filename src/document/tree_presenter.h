@@ -1,13 +1,12 @@
 // Keeps the playlist manager tree in step with the set lists. Every group, playlist and song remembers its
-// own node; a node is led back to its entry by looking for it among the entries of its level. Used by the
-// commands that edit set lists. User-interface thread only.
+// own node, and both stand in the same place: so a node is led back to its entry. Used by the commands that
+// edit set lists. User-interface thread only.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
 #include "document/tree_display.h"
-#include "model/set_list_edit.h"
 #include "model/set_list_store.h"
 
 namespace brevant {
@@ -50,7 +49,7 @@ class TCTreePresenter {
 
   // The kind follows from the depth alone; None for a node that is not there.
   [[nodiscard]] TCNodeKind KindOf(TCTreeNode node) const;
-  // Kind None when no entry has this node.
+  // Kind None when no entry has this node. Takes no search, however many entries there are.
   [[nodiscard]] TCNodeEntry EntryOf(TCTreeNode node) const;
   [[nodiscard]] TCNodeEntry SelectedEntry() const { return EntryOf(tree.SelectedNode()); }
 

@@ -226,7 +226,7 @@ void ParseLyricLine(std::u16string_view line, TCLyricSheet& sheet) {
   if (TakeHeader(tag, sheet)) return;
 
   const std::u16string_view text = TextBehindTags(line.substr(tagEnd + 1));
-  sheet.Add({std::u16string(text), TimeOf(tag), kEndOfLyrics, SingerOf(text)});
+  sheet.Add({std::u16string(text), ParseLyricTime(tag), kEndOfLyrics, SingerOf(text)});
 }
 
 std::int32_t ParseLyricTime(std::u16string_view tag) {

@@ -1,5 +1,5 @@
 // Reads the lyric file that lies beside a song: `song.lrc` (8-bit text), else `song.lrcx` (UTF-16). Used when
-// songs enter the set lists. User-interface thread.
+// songs enter the set lists. Any thread, with a file system of its own.
 #pragma once
 
 #include <cstddef>

@@ -176,11 +176,6 @@ std::size_t TCSongLyrics::LineCount() const {
   return packed ? Reader(packed.get()).TakeNumber() : 0;
 }
 
-TCLyric TCSongLyrics::LineAt(std::size_t index) const {
-  std::vector<TCLyric> lines = LinesFrom(index, 1);
-  return lines.empty() ? TCLyric() : std::move(lines.front());
-}
-
 std::vector<TCLyric> TCSongLyrics::LinesFrom(std::size_t first, std::size_t count) const {
   std::vector<TCLyric> lines;
   if (!packed) return lines;

@@ -1,6 +1,6 @@
 // The lyric data of one song: its timed lines and the header values of its lyric file. Held by every song of
-// the model, filled by the lyric reader, read by the lyric display and the properties pane. User-interface
-// thread.
+// the model, filled by the lyric reader, read by the lyric display and the properties pane. Any thread: what
+// is packed never changes, and whoever changes a value has it to himself.
 #pragma once
 
 #include <cstddef>
@@ -80,9 +80,7 @@ class TCSongLyrics {
   [[nodiscard]] bool HoldsNothing() const { return packed == nullptr; }
   [[nodiscard]] std::size_t LineCount() const;
 
-  // Line `index` in file order; a line without text and times when there is no such line.
-  [[nodiscard]] TCLyric LineAt(std::size_t index) const;
-  // `count` lines from `first` on, as far as there are so many.
+  // `count` lines in file order from `first` on, as far as there are so many.
   [[nodiscard]] std::vector<TCLyric> LinesFrom(std::size_t first, std::size_t count) const;
 
   // The first line with start <= timeMs < end, or -1. Unpacks no text.

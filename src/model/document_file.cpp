@@ -125,19 +125,11 @@ bool TCDocumentFile::OpenSetListDocument(std::u16string_view path) {
   const std::optional<std::u16string> firstLine = FirstUtf16Line(*bytes);
   if (!firstLine) return true;
   SetDocumentPath(path);
-  if (IsFolderForm(*firstLine)) {
-    LoadFolderDocument(path);  // what of it could be read is the document
-    return true;
-  }
-  return LoadFlatDocument(*bytes);
+  return IsFolderForm(*firstLine) ? LoadFolderDocument(*bytes) : LoadFlatDocument(*bytes);
 }
 
-bool TCDocumentFile::LoadFolderDocument(std::u16string_view path) {
-  TextLines lines;
-  if (!ReadTextLines(files, path, lines)) return false;
-  if (lines.empty()) return true;
-  SetDocumentPath(path);
-
+bool TCDocumentFile::LoadFolderDocument(std::string_view bytes) {
+  const TextLines lines = SplitUtf16Lines(bytes);
   store.groups.resize(lines.size());
   for (std::size_t i = 0; i < lines.size(); ++i) {
     TCPlayGroups& group = store.groups[i];
@@ -190,6 +182,10 @@ TextLines TCDocumentFile::PrepareSave(std::u16string_view path) {
 bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines,
                          TCKeepOldFile keep) {
   return !lines.empty() && KeepOldFile(files, path, keep) && WriteTextLines(files, path, lines);
+}
+
+bool IsDocumentPath(std::u16string_view path) {
+  return EqualIgnoringCase(ExtensionPart(path), TextOf(TCTextId::DocumentExtension));
 }
 
 bool IsWholeDocument(std::string_view bytes) {

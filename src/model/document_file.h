@@ -1,6 +1,6 @@
 // Document files (.brv). Two forms are read: the flat form, one line a song, which is also what is written,
 // and the folder form, one group list file a line. Fills and reads the set-list store; user-interface thread
-// only, but for the two functions at the end.
+// only, but for the functions at the end.
 #pragma once
 
 #include <string_view>
@@ -20,9 +20,10 @@ class TCDocumentFile {
   // empty document. What could be read is kept, whatever is missing beside it.
   bool OpenSetListDocument(std::u16string_view path);
 
-  // A first line with "brvgl" anywhere in it makes a document of the folder form.
-  bool LoadFolderDocument(std::u16string_view path);
-  // `bytes` are the whole file. Always true: every line is a song.
+  // `bytes` are the whole file. A first line with "brvgl" anywhere in it makes a document of the folder form,
+  // whose lines are looked for from the document's folder. Always true: what cannot be read stays empty.
+  bool LoadFolderDocument(std::string_view bytes);
+  // Always true: every line is a song.
   bool LoadFlatDocument(std::string_view bytes);
 
   // Makes `path` the document's; what is returned is for SaveSetListDocument.
@@ -50,6 +51,9 @@ enum class TCKeepOldFile {
 // be kept cannot be: the file is then left as it was.
 [[nodiscard]] bool SaveSetListDocument(TCFileSystem& files, std::u16string_view path, const TextLines& lines,
                                        TCKeepOldFile keep = TCKeepOldFile::IfForeign);
+
+// True for the type of a document file, in any case.
+[[nodiscard]] bool IsDocumentPath(std::u16string_view path);
 
 // True when a document written from what was read says all that `bytes` say: UTF-16, every line ended,
 // nothing but songs. The folder form says more: which group list files, also those that were missing.

@@ -1,4 +1,5 @@
-// What may enter a set list, and whether a song's file is there.
+// What may enter a set list: user-interface thread. And whether a song's file is there: any thread, with a
+// file system of its own.
 #pragma once
 
 #include <string>

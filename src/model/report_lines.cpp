@@ -19,10 +19,4 @@ void TCReportLines::Append(std::u16string_view text, TCLineRole role) {
   lines.push_back({std::u16string(text) + u"\r\n", role});
 }
 
-std::u16string TCReportLines::Text() const {
-  std::u16string text;
-  for (const TCReportLine& line : lines) text += line.text;
-  return text;
-}
-
 }  // namespace brevant

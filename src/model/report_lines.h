@@ -31,8 +31,6 @@ class TCReportLines {
   [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(lines.size()); }
   // Oldest first.
   [[nodiscard]] std::vector<TCReportLine> Lines() const { return {lines.begin(), lines.end()}; }
-  // All lines in one text, oldest first.
-  [[nodiscard]] std::u16string Text() const;
 
  private:
   std::deque<TCReportLine> lines;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 #include "text/path_parts.h"
@@ -12,18 +13,8 @@ namespace brevant {
 namespace {
 
 template <typename Entry>
-bool Holds(const std::vector<Entry>& list, std::int32_t index) {
-  return index >= 0 && static_cast<std::size_t>(index) < list.size();
-}
-
-template <typename Entry>
 bool HasRoomAt(const std::vector<Entry>& list, std::int32_t index) {
   return index >= 0 && static_cast<std::size_t>(index) <= list.size();
-}
-
-template <typename Entry>
-Entry* At(std::vector<Entry>& list, std::int32_t index) {
-  return Holds(list, index) ? &list[static_cast<std::size_t>(index)] : nullptr;
 }
 
 template <typename Entry>
@@ -69,24 +60,11 @@ void FollowMovedPlaylist(TCPlaylistPosition& position, TCPlaylistPosition from, 
 
 }  // namespace
 
-TCPlayGroups* GroupAt(TCSetListStore& store, std::int32_t group) {
-  return At(store.groups, group);
-}
-
-TCPlayList* PlaylistAt(TCSetListStore& store, TCPlaylistPosition at) {
-  return store.PlaylistAt(at.group, at.playlist);
-}
-
-TCPlayListItem* SongAt(TCSetListStore& store, TCSongPosition at) {
-  TCPlayList* playlist = PlaylistAt(store, at.Playlist());
-  return playlist == nullptr ? nullptr : At(playlist->items, at.song);
-}
-
 // An index that names no entry follows none, so "valid" is asked before each change.
 
 bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry) {
   if (!HasRoomAt(store.groups, group)) return false;
-  if (Holds(store.groups, store.currentGroup)) store.currentGroup = AfterInsert(store.currentGroup, group);
+  if (store.IsValidGroup(store.currentGroup)) store.currentGroup = AfterInsert(store.currentGroup, group);
   for (TCPlaylistPosition* follower : Followers(store)) {
     if (follower->group >= 0) follower->group = AfterInsert(follower->group, group);
   }
@@ -95,9 +73,9 @@ bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry) 
 }
 
 bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList entry) {
-  TCPlayGroups* group = GroupAt(store, at.group);
+  TCPlayGroups* group = store.GroupAt(at.group);
   if (group == nullptr || !HasRoomAt(group->playlists, at.playlist)) return false;
-  if (store.currentGroup == at.group && Holds(group->playlists, store.currentPlaylist))
+  if (store.currentGroup == at.group && store.IsValidPlaylistIndex(store.currentPlaylist))
     store.currentPlaylist = AfterInsert(store.currentPlaylist, at.playlist);
   for (TCPlaylistPosition* follower : Followers(store)) {
     if (follower->group == at.group) follower->playlist = AfterInsert(follower->playlist, at.playlist);
@@ -107,16 +85,24 @@ bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList ent
 }
 
 bool InsertSong(TCSetListStore& store, TCSongPosition at, TCPlayListItem entry) {
-  TCPlayList* playlist = PlaylistAt(store, at.Playlist());
+  std::vector<TCPlayListItem> entries;
+  entries.push_back(std::move(entry));
+  return InsertSongs(store, at, std::move(entries));
+}
+
+bool InsertSongs(TCSetListStore& store, TCSongPosition at, std::vector<TCPlayListItem> entries) {
+  TCPlayList* playlist = store.PlaylistAt(at.Playlist());
   if (playlist == nullptr || !HasRoomAt(playlist->items, at.song)) return false;
-  if (store.CurrentPosition() == at.Playlist() && store.IsValidSongIndex(store.currentSong))
-    store.currentSong = AfterInsert(store.currentSong, at.song);
-  PutIn(playlist->items, at.song, std::move(entry));
+  if (store.CurrentPosition() == at.Playlist() && store.IsValidSongIndex(store.currentSong) &&
+      store.currentSong >= at.song)
+    store.currentSong += static_cast<std::int32_t>(entries.size());
+  playlist->items.insert(playlist->items.begin() + at.song, std::make_move_iterator(entries.begin()),
+                         std::make_move_iterator(entries.end()));
   return true;
 }
 
 bool RemoveGroup(TCSetListStore& store, std::int32_t group) {
-  if (!Holds(store.groups, group)) return false;
+  if (!store.IsValidGroup(group)) return false;
   for (TCPlaylistPosition* follower : Followers(store)) {
     if (follower->group == group) *follower = {};
     follower->group = AfterRemove(follower->group, group);
@@ -127,7 +113,7 @@ bool RemoveGroup(TCSetListStore& store, std::int32_t group) {
 }
 
 bool RemovePlaylist(TCSetListStore& store, TCPlaylistPosition at) {
-  if (PlaylistAt(store, at) == nullptr) return false;
+  if (store.PlaylistAt(at) == nullptr) return false;
   for (TCPlaylistPosition* follower : Followers(store)) {
     if (*follower == at) *follower = {};
     FollowRemovedPlaylist(*follower, at);
@@ -135,7 +121,7 @@ bool RemovePlaylist(TCSetListStore& store, TCPlaylistPosition at) {
   TCPlaylistPosition current = store.CurrentPosition();
   FollowRemovedPlaylist(current, at);
   store.currentPlaylist = current.playlist;
-  TakeOut(GroupAt(store, at.group)->playlists, at.playlist);
+  TakeOut(store.GroupAt(at.group)->playlists, at.playlist);
   return true;
 }
 
@@ -144,7 +130,7 @@ bool RemoveSong(TCSetListStore& store, TCSongPosition at) {
 }
 
 bool RemoveSongs(TCSetListStore& store, TCPlaylistPosition at, const std::vector<std::int32_t>& songs) {
-  TCPlayList* playlist = PlaylistAt(store, at);
+  TCPlayList* playlist = store.PlaylistAt(at);
   if (playlist == nullptr) return false;
   std::vector<TCPlayListItem>& items = playlist->items;
   std::int32_t before = 0;  // removed ahead of the current song
@@ -164,7 +150,7 @@ bool RemoveSongs(TCSetListStore& store, TCPlaylistPosition at, const std::vector
 }
 
 bool MoveGroup(TCSetListStore& store, std::int32_t from, std::int32_t to) {
-  if (!Holds(store.groups, from) || !Holds(store.groups, to)) return false;
+  if (!store.IsValidGroup(from) || !store.IsValidGroup(to)) return false;
   for (TCPlaylistPosition* follower : Followers(store)) {
     if (follower->group >= 0) follower->group = AfterMove(follower->group, from, to);
   }
@@ -174,22 +160,22 @@ bool MoveGroup(TCSetListStore& store, std::int32_t from, std::int32_t to) {
 }
 
 bool MovePlaylist(TCSetListStore& store, TCPlaylistPosition from, TCPlaylistPosition to) {
-  if (PlaylistAt(store, from) == nullptr || PlaylistAt(store, to) == nullptr) return false;
+  if (store.PlaylistAt(from) == nullptr || store.PlaylistAt(to) == nullptr) return false;
   for (TCPlaylistPosition* follower : Followers(store)) FollowMovedPlaylist(*follower, from, to);
   TCPlaylistPosition current = store.CurrentPosition();
   FollowMovedPlaylist(current, from, to);
   store.currentGroup = current.group;
   store.currentPlaylist = current.playlist;
-  TCPlayList entry = TakeOut(GroupAt(store, from.group)->playlists, from.playlist);
-  PutIn(GroupAt(store, to.group)->playlists, to.playlist, std::move(entry));
+  TCPlayList entry = TakeOut(store.GroupAt(from.group)->playlists, from.playlist);
+  PutIn(store.GroupAt(to.group)->playlists, to.playlist, std::move(entry));
   return true;
 }
 
 bool MoveSong(TCSetListStore& store, TCSongPosition from, TCSongPosition to) {
-  if (SongAt(store, from) == nullptr || SongAt(store, to) == nullptr) return false;
+  if (store.SongAt(from) == nullptr || store.SongAt(to) == nullptr) return false;
   const bool follows = store.CurrentPosition() == from.Playlist() && from.Playlist() == to.Playlist();
   const std::int32_t current = follows ? AfterMove(store.currentSong, from.song, to.song) : store.currentSong;
-  TCPlayListItem entry = std::move(*SongAt(store, from));
+  TCPlayListItem entry = std::move(*store.SongAt(from));
   RemoveSong(store, from);
   InsertSong(store, to, std::move(entry));
   if (follows) store.currentSong = current;

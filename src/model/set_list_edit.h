@@ -13,25 +13,13 @@
 
 namespace brevant {
 
-struct TCSongPosition {
-  std::int32_t group = -1;
-  std::int32_t playlist = -1;
-  std::int32_t song = -1;
-
-  [[nodiscard]] TCPlaylistPosition Playlist() const { return {group, playlist}; }
-  [[nodiscard]] bool operator==(const TCSongPosition&) const = default;
-};
-
-// Null when an index is wrong.
-[[nodiscard]] TCPlayGroups* GroupAt(TCSetListStore& store, std::int32_t group);
-[[nodiscard]] TCPlayList* PlaylistAt(TCSetListStore& store, TCPlaylistPosition at);
-[[nodiscard]] TCPlayListItem* SongAt(TCSetListStore& store, TCSongPosition at);
-
 // At the place that `group` or `at` names; what stood there and behind it makes room. One past the last
 // appends.
 bool InsertGroup(TCSetListStore& store, std::int32_t group, TCPlayGroups entry);
 bool InsertPlaylist(TCSetListStore& store, TCPlaylistPosition at, TCPlayList entry);
 bool InsertSong(TCSetListStore& store, TCSongPosition at, TCPlayListItem entry);
+// Several songs at once, the first of them at `at`.
+bool InsertSongs(TCSetListStore& store, TCSongPosition at, std::vector<TCPlayListItem> entries);
 
 bool RemoveGroup(TCSetListStore& store, std::int32_t group);
 bool RemovePlaylist(TCSetListStore& store, TCPlaylistPosition at);

@@ -67,18 +67,27 @@ bool TCSetListStore::IsValidSongIndex(std::int32_t song) const {
   return Holds(group.playlists[static_cast<std::size_t>(currentPlaylist)].items, song);
 }
 
-TCPlayList* TCSetListStore::PlaylistAt(std::int32_t group, std::int32_t playlist) {
-  if (!IsValidPlaylist(group, playlist)) return nullptr;
-  return &groups[static_cast<std::size_t>(group)].playlists[static_cast<std::size_t>(playlist)];
+TCPlayGroups* TCSetListStore::GroupAt(std::int32_t group) {
+  return IsValidGroup(group) ? &groups[static_cast<std::size_t>(group)] : nullptr;
+}
+
+TCPlayList* TCSetListStore::PlaylistAt(TCPlaylistPosition at) {
+  if (!IsValidPlaylist(at.group, at.playlist)) return nullptr;
+  return &GroupAt(at.group)->playlists[static_cast<std::size_t>(at.playlist)];
+}
+
+TCPlayListItem* TCSetListStore::SongAt(TCSongPosition at) {
+  TCPlayList* playlist = PlaylistAt(at.Playlist());
+  if (playlist == nullptr || !Holds(playlist->items, at.song)) return nullptr;
+  return &playlist->items[static_cast<std::size_t>(at.song)];
 }
 
 TCPlayList* TCSetListStore::CurrentPlaylist() {
-  return PlaylistAt(currentGroup, currentPlaylist);
+  return PlaylistAt(CurrentPosition());
 }
 
-TCPlayListItem* TCSetListStore::SongAt(std::int32_t song) {
-  if (!IsValidSongIndex(song)) return nullptr;
-  return &CurrentPlaylist()->items[static_cast<std::size_t>(song)];
+TCPlayListItem* TCSetListStore::SongInCurrentPlaylist(std::int32_t song) {
+  return SongAt({currentGroup, currentPlaylist, song});
 }
 
 const TCPlayListItem* TCSetListStore::FindSongByPath(std::u16string_view path) const {

@@ -21,6 +21,15 @@ struct TCPlaylistPosition {
   [[nodiscard]] bool operator==(const TCPlaylistPosition&) const = default;
 };
 
+struct TCSongPosition {
+  std::int32_t group = -1;
+  std::int32_t playlist = -1;
+  std::int32_t song = -1;
+
+  [[nodiscard]] TCPlaylistPosition Playlist() const { return {group, playlist}; }
+  [[nodiscard]] bool operator==(const TCSongPosition&) const = default;
+};
+
 struct TCSetListStore {
   std::vector<TCPlayGroups> groups;  // in display order
 
@@ -50,6 +59,8 @@ struct TCSetListStore {
   std::u16string validMediaExtensions{TextOf(TCTextId::DefaultMediaExtensions)};
   std::int32_t songLatencySeconds = 15;  // the nominal gap between two songs of a set
 
+  [[nodiscard]] std::u16string DocumentPath() const { return documentFolder + documentFileName; }
+
   // Drops all groups and sets the current position to 0, 0, 0; none is shown.
   void ClearSetLists();
 
@@ -68,9 +79,11 @@ struct TCSetListStore {
   [[nodiscard]] bool IsValidSongIndex(std::int32_t song) const;
 
   // None (null) when an index is wrong. The pointers hold until a list they come from changes its size.
-  [[nodiscard]] TCPlayList* PlaylistAt(std::int32_t group, std::int32_t playlist);
+  [[nodiscard]] TCPlayGroups* GroupAt(std::int32_t group);
+  [[nodiscard]] TCPlayList* PlaylistAt(TCPlaylistPosition at);
+  [[nodiscard]] TCPlayListItem* SongAt(TCSongPosition at);
   [[nodiscard]] TCPlayList* CurrentPlaylist();
-  [[nodiscard]] TCPlayListItem* SongAt(std::int32_t song);  // of the current playlist
+  [[nodiscard]] TCPlayListItem* SongInCurrentPlaylist(std::int32_t song);
 
   // The first song of all, in model order, whose folder and file name make exactly this path, wherever the
   // two meet in it; null without one.

@@ -151,7 +151,7 @@ std::u16string WrittenValue(const Row& row, const TCAppRecord& record) {
     case Rule::LastLoadedFile:
       break;
   }
-  return TCIniText::Protected(record.setLists.documentFolder + record.setLists.documentFileName);
+  return TCIniText::Protected(record.setLists.DocumentPath());
 }
 
 }  // namespace

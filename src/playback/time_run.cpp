@@ -75,9 +75,8 @@ bool TCTimeRun::StoreTimes() {
 std::vector<TCPlayList*> TCTimeRun::PlaylistsOfScope() {
   std::vector<TCPlayList*> playlists;
   if (scope == TCTimeScope::CurrentPlaylist) {
-    const TCPlaylistPosition measured = record.setLists.measured;
-    if (TCPlayList* playlist = record.setLists.PlaylistAt(measured.group, measured.playlist))
-      playlists.push_back(playlist);
+    TCSetListStore& store = record.setLists;
+    if (TCPlayList* playlist = store.PlaylistAt(store.measured)) playlists.push_back(playlist);
     return playlists;
   }
   for (TCPlayGroups& group : record.setLists.groups) {

@@ -31,11 +31,11 @@ TCTransport::TCTransport(const TCTransportParts& parts)
 
 void TCTransport::Play() {
   if (player == nullptr) return;
-  TCPlayListItem* song = store.SongAt(store.currentSong);
+  TCPlayListItem* song = store.SongInCurrentPlaylist(store.currentSong);
   if (song == nullptr) {
     // After a change to a shorter playlist no row is current; one key press starts the set from its top.
     MakeCurrent(0);
-    song = store.SongAt(0);
+    song = store.SongInCurrentPlaylist(0);
     if (song == nullptr) return;
   }
   const std::u16string path = song->FullPath();
@@ -64,7 +64,7 @@ void TCTransport::StartSong(std::u16string_view path) {
 }
 
 void TCTransport::TakeStatus(std::int32_t index, std::u16string_view path, TCSongStatus status) {
-  if (TCPlayListItem* song = store.SongAt(index)) {
+  if (TCPlayListItem* song = store.SongInCurrentPlaylist(index)) {
     song->status = status;
     display.RefreshSongRow(index, *song);
   }
@@ -248,7 +248,7 @@ void TCTransport::RefreshSongTimeAfterPlay() {
 }
 
 std::u16string TCTransport::SetCurrentSongTime(std::int32_t seconds) {
-  TCPlayListItem* song = store.SongAt(store.currentSong);
+  TCPlayListItem* song = store.SongInCurrentPlaylist(store.currentSong);
   if (song == nullptr) return {};
   std::u16string time = FormatTime(seconds);
   if (song->time != time) {

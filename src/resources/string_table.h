@@ -1,6 +1,6 @@
-// The string table: every text the program says outside its menus, looked up by number. Misspellings, doubled
-// blanks and blanks at an end are the system's own: users search for these texts as they stand. Menu, key and
-// status texts live in the command table.
+// The string table: the texts that the program has always had, looked up by number. Misspellings, doubled
+// blanks and blanks at an end are the system's own: users search for these texts as they stand. What came
+// later stands where it is said; menu, key and status texts live in the command table.
 #pragma once
 
 #include <string_view>

@@ -129,7 +129,7 @@ void TCIniText::SetString(std::u16string_view section, std::u16string_view key, 
     const bool unchanged = ValueOf(lines[*line]) == value;
     if (unchanged) return;
     const std::u16string text = std::u16string(KeyOf(lines[*line])).append(u"=").append(value);
-    EraseLines(Range{*line, *line + 1});
+    lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(*line));
     InsertText(*line, text);
     return;
   }
@@ -143,19 +143,6 @@ std::u16string TCIniText::Protected(std::u16string text) {
       text.begin(), text.end(), [](char16_t unit) { return unit == u'\r' || unit == u'\n'; }, u' ');
   const bool losesNothing = Trim(text).size() == text.size() && !IsQuoted(text);
   return losesNothing ? text : u'"' + text + u'"';
-}
-
-void TCIniText::DeleteKey(std::u16string_view section, std::u16string_view key) {
-  const std::optional<Range> range = FindSection(section);
-  const std::optional<std::size_t> line = range ? FindKey(*range, key) : std::nullopt;
-  if (line) EraseLines(Range{*line, *line + 1});
-}
-
-void TCIniText::DeleteSection(std::u16string_view section) {
-  const std::optional<Range> range = FindSection(section);
-  if (!range) return;
-  // The lines above the first heading have none of their own.
-  EraseLines(Range{range->begin == 0 ? 0 : range->begin - 1, range->end});
 }
 
 std::vector<std::u16string> TCIniText::Keys(std::u16string_view section) const {
@@ -206,12 +193,6 @@ void TCIniText::InsertText(std::size_t at, std::u16string_view text) {
   std::vector<std::u16string> added = SplitIniLines(text);
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), std::make_move_iterator(added.begin()),
                std::make_move_iterator(added.end()));
-  DropMarks();
-}
-
-void TCIniText::EraseLines(Range range) {
-  lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(range.begin),
-              lines.begin() + static_cast<std::ptrdiff_t>(range.end));
   DropMarks();
 }
 

@@ -46,11 +46,6 @@ class TCIniText {
   // begins or ends with white space or is quoted itself, blanks for its line breaks.
   [[nodiscard]] static std::u16string Protected(std::u16string text);
 
-  void DeleteKey(std::u16string_view section, std::u16string_view key);
-
-  // The first such section, with its comments.
-  void DeleteSection(std::u16string_view section);
-
   // In order, as written; a key that stands twice is there twice. Lines without an equals sign and comments
   // are no keys.
   [[nodiscard]] std::vector<std::u16string> Keys(std::u16string_view section) const;
@@ -67,7 +62,6 @@ class TCIniText {
   [[nodiscard]] std::optional<std::u16string_view> FindValue(std::u16string_view section,
                                                              std::u16string_view key) const;
   void InsertText(std::size_t at, std::u16string_view text);
-  void EraseLines(Range range);
   // At the head of the file a byte order mark is no text, wherever it came from.
   void DropMarks();
 

@@ -18,4 +18,11 @@ std::vector<std::u16string> SplitQuotedWords(std::u16string_view text) {
   return words;
 }
 
+std::u16string QuotedWord(std::u16string_view word) {
+  std::u16string quoted = u"\"";
+  quoted += word;
+  quoted += u'"';
+  return quoted;
+}
+
 }  // namespace brevant

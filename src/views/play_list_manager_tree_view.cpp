@@ -109,6 +109,10 @@ TCTreeNode TCPlayListManagerTreeView::ParentOf(TCTreeNode node) const {
   return nodes->ParentOf(node);
 }
 
+std::size_t TCPlayListManagerTreeView::PlaceOf(TCTreeNode node) const {
+  return nodes->PlaceOf(node);
+}
+
 void TCPlayListManagerTreeView::SelectNode(TCTreeNode node) {
   const QModelIndex index = nodes->IndexOf(node);
   if (!index.isValid()) return;

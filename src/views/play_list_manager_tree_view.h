@@ -59,6 +59,7 @@ class TCPlayListManagerTreeView final : public QTreeView, public TCTreeDisplay {
 
   [[nodiscard]] TCTreeNode SelectedNode() const override;
   [[nodiscard]] TCTreeNode ParentOf(TCTreeNode node) const override;
+  [[nodiscard]] std::size_t PlaceOf(TCTreeNode node) const override;
   void SelectNode(TCTreeNode node) override;
   void FollowNode(TCTreeNode node) override;
   void ExpandNode(TCTreeNode node) override;

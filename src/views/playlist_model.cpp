@@ -128,7 +128,7 @@ QVariant TCPlaylistModel::headerData(int section, Qt::Orientation orientation, i
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
   switch (static_cast<TCPlaylistColumn>(section)) {
     case TCPlaylistColumn::Picture:
-      return QStringLiteral(" ");
+      return ToQString(TextOf(TCTextId::PictureColumn));
     case TCPlaylistColumn::Number:
       return ToQString(TextOf(TCTextId::SongNumberColumn));
     case TCPlaylistColumn::Status:

@@ -111,6 +111,10 @@ TCTreeNode TCSetListTreeModel::ParentOf(TCTreeNode node) const {
   return slot == kRoot ? TCTreeNode::None : HandleOf(nodes[slot].parent);
 }
 
+std::size_t TCSetListTreeModel::PlaceOf(TCTreeNode node) const {
+  return static_cast<std::size_t>(nodes[SlotOf(node)].row);
+}
+
 QString TCSetListTreeModel::TextOf(TCTreeNode node) const {
   return nodes[SlotOf(node)].text;
 }

@@ -40,6 +40,7 @@ class TCSetListTreeModel final : public QAbstractItemModel {
   void ClearNodes();
   void SetText(TCTreeNode node, const QString& text);
   [[nodiscard]] TCTreeNode ParentOf(TCTreeNode node) const;
+  [[nodiscard]] std::size_t PlaceOf(TCTreeNode node) const;
 
   // Whole, as it was given. Empty for a node that is not there.
   [[nodiscard]] QString TextOf(TCTreeNode node) const;

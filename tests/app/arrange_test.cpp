@@ -66,7 +66,8 @@ class Arrange : public TCWholeProgram {
     return names;
   }
   [[nodiscard]] QString CurrentName() {
-    return ToQString(app->Record().setLists.SongAt(app->Record().setLists.currentSong)->fileName);
+    return ToQString(
+        app->Record().setLists.SongInCurrentPlaylist(app->Record().setLists.currentSong)->fileName);
   }
   void SelectNode(const QModelIndex& node) {
     Tree().setFocus();

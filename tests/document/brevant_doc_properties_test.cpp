@@ -122,7 +122,7 @@ TEST_F(BrevantDocProperties, ATotalThatChangedRefreshes) {
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   document.OnCommand(Id::Play);
   EXPECT_TRUE(Refreshes([this] { Poll(1); }));
-  EXPECT_EQ(record.setLists.SongAt(0)->time, u"01:05");
+  EXPECT_EQ(record.setLists.SongInCurrentPlaylist(0)->time, u"01:05");
   EXPECT_FALSE(Refreshes([this] { Poll(1); })) << "a poll that changes nothing shows nothing";
 }
 

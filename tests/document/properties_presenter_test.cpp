@@ -64,7 +64,7 @@ TEST_F(PropertiesPresenter, ShowsHowTheProgramIsSet) {
 }
 
 TEST_F(PropertiesPresenter, ShowsTheTagsOfTheCurrentSongInTheirOrder) {
-  rig.store.SongAt(0)->lyrics = Tagged();
+  rig.store.SongInCurrentPlaylist(0)->lyrics = Tagged();
   presenter.RefreshProperties(u"");
   std::vector<std::u16string> texts;
   for (const P tag : kTags) texts.push_back(pane.Text(tag));
@@ -73,7 +73,7 @@ TEST_F(PropertiesPresenter, ShowsTheTagsOfTheCurrentSongInTheirOrder) {
 }
 
 TEST_F(PropertiesPresenter, ASongWithoutTagsEmptiesAllNine) {
-  rig.store.SongAt(0)->lyrics = Tagged();
+  rig.store.SongInCurrentPlaylist(0)->lyrics = Tagged();
   presenter.RefreshProperties(u"");
   rig.store.currentSong = 1;
   presenter.RefreshLyricProperties();
@@ -81,7 +81,7 @@ TEST_F(PropertiesPresenter, ASongWithoutTagsEmptiesAllNine) {
 }
 
 TEST_F(PropertiesPresenter, TheSongIsTheSelectedOneAndItsTagsAreTheCurrentOnes) {
-  rig.store.SongAt(0)->lyrics = Tagged();
+  rig.store.SongInCurrentPlaylist(0)->lyrics = Tagged();
   rig.view.SelectRow(1);
   presenter.RefreshProperties(u"");
   EXPECT_EQ(Song(), u"two.mp3");
@@ -117,7 +117,7 @@ TEST_F(PropertiesPresenter, WrongIndexesLeaveWhatIsShown) {
 }
 
 TEST_F(PropertiesPresenter, AnotherSongsSelectionLeavesOptionsAndTags) {
-  rig.store.SongAt(0)->lyrics = Tagged();
+  rig.store.SongInCurrentPlaylist(0)->lyrics = Tagged();
   presenter.RefreshProperties(u"D:\\show.brv");
   presenter.RefreshSelectionProperties(1, 0, 0);
   EXPECT_EQ(pane.Text(P::GroupName), u"Duo");

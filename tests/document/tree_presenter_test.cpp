@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "model/set_list_edit.h"
 #include "support/edit_rig.h"
 
 namespace brevant {

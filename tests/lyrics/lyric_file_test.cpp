@@ -6,6 +6,7 @@
 #include <limits>
 #include <random>
 
+#include "support/lyrics_of.h"
 #include "support/memory_files.h"
 
 namespace brevant {
@@ -215,9 +216,9 @@ TEST(LyricLine, ALineFeedInsideIsText) {
 TEST_F(LyricFile, EveryLineEndsWhereTheNextBegins) {
   const TCSongLyrics lyrics = Load("[ti:Song]\r\n[00:10.00]a\r\n\r\n[00:20.00]b\r\n[00:30.00]c\r\n");
   ASSERT_EQ(lyrics.LineCount(), 3U);
-  EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 10'000, 20'000, 0}));
-  EXPECT_EQ(lyrics.LineAt(1), (TCLyric{u"b", 20'000, 30'000, 0}));
-  EXPECT_EQ(lyrics.LineAt(2), (TCLyric{u"c", 30'000, kEndOfLyrics, 0}));
+  EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"a", 10'000, 20'000, 0}));
+  EXPECT_EQ(LineOf(lyrics, 1), (TCLyric{u"b", 20'000, 30'000, 0}));
+  EXPECT_EQ(LineOf(lyrics, 2), (TCLyric{u"c", 30'000, kEndOfLyrics, 0}));
   EXPECT_EQ(lyrics.Headers().title, u"Song");
 }
 
@@ -236,37 +237,37 @@ TEST_F(LyricFile, TagsOfEveryShapeAreReadAlike) {
 TEST_F(LyricFile, TheOffsetMovesEveryLineButTheLast) {
   const TCSongLyrics lyrics = Load("[00:10.00]a\r\n[00:20.00]b\r\n[00:30.00]c\r\n[offset:500]\r\n");
   ASSERT_EQ(lyrics.LineCount(), 3U);
-  EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 9'500, 19'500, 0}));
-  EXPECT_EQ(lyrics.LineAt(1), (TCLyric{u"b", 19'500, 29'500, 0}));
-  EXPECT_EQ(lyrics.LineAt(2), (TCLyric{u"c", 30'000, kEndOfLyrics, 0}));
+  EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"a", 9'500, 19'500, 0}));
+  EXPECT_EQ(LineOf(lyrics, 1), (TCLyric{u"b", 19'500, 29'500, 0}));
+  EXPECT_EQ(LineOf(lyrics, 2), (TCLyric{u"c", 30'000, kEndOfLyrics, 0}));
   EXPECT_EQ(lyrics.Headers().offset, u"500");
 }
 
 TEST_F(LyricFile, ANegativeOffsetMovesLinesBack) {
   const TCSongLyrics lyrics = Load("[offset:-500ms]\r\n[00:10.00]a\r\n[00:20.00]b\r\n");
-  EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 10'500, 20'500, 0}));
-  EXPECT_EQ(lyrics.LineAt(1).start, 20'000);
+  EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"a", 10'500, 20'500, 0}));
+  EXPECT_EQ(LineOf(lyrics, 1).start, 20'000);
 }
 
 TEST_F(LyricFile, AnOffsetThatIsNoNumberMovesNothing) {
   for (const char* offset : {"", "abc", "99999999999", "-2147483649"}) {
     const TCSongLyrics lyrics =
         Load("[offset:" + std::string(offset) + "]\r\n[00:10.00]a\r\n[00:20.00]b\r\n");
-    EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 10'000, 20'000, 0})) << offset;
+    EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"a", 10'000, 20'000, 0})) << offset;
   }
 }
 
 TEST_F(LyricFile, TimesPastThirtyTwoBitsStopAtTheLimit) {
   const TCSongLyrics late = Load("[offset:-2147483648]\r\n[00:10.00]a\r\n[00:20.00]b\r\n");
-  EXPECT_EQ(late.LineAt(0), (TCLyric{u"a", kMost, kMost, 0}));
+  EXPECT_EQ(LineOf(late, 0), (TCLyric{u"a", kMost, kMost, 0}));
   const TCSongLyrics early = Load("[offset:2147483647]\r\n[-2147483648:0.0]a\r\n[-9:00.00]b\r\n");
-  EXPECT_EQ(early.LineAt(0), (TCLyric{u"a", kLeast, kLeast, 0}));
+  EXPECT_EQ(LineOf(early, 0), (TCLyric{u"a", kLeast, kLeast, 0}));
 }
 
 TEST_F(LyricFile, LinesOutOfOrderKeepTheirOrder) {
   const TCSongLyrics lyrics = Load("[00:20.00]a\r\n[00:10.00]b\r\n[00:30.00]c\r\n");
-  EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"a", 20'000, 10'000, 0}));
-  EXPECT_EQ(lyrics.LineAt(1), (TCLyric{u"b", 10'000, 30'000, 0}));
+  EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"a", 20'000, 10'000, 0}));
+  EXPECT_EQ(LineOf(lyrics, 1), (TCLyric{u"b", 10'000, 30'000, 0}));
   EXPECT_EQ(lyrics.FindLineAt(15'000), 1);
   EXPECT_EQ(lyrics.FindLineAt(25'000), 1);
 }
@@ -275,7 +276,7 @@ TEST_F(LyricFile, AnUnfinishedLastLineIsLostUnlessItIsTheOnlyOne) {
   EXPECT_EQ(Load("[00:10.00]a").LineCount(), 1U);
   const TCSongLyrics two = Load("[00:10.00]a\r\n[00:20.00]b");
   ASSERT_EQ(two.LineCount(), 1U);
-  EXPECT_EQ(two.LineAt(0), (TCLyric{u"a", 10'000, kEndOfLyrics, 0}));
+  EXPECT_EQ(LineOf(two, 0), (TCLyric{u"a", 10'000, kEndOfLyrics, 0}));
 }
 
 TEST_F(LyricFile, AMarkGarblesTheFirstLine) {
@@ -299,7 +300,7 @@ TEST_F(LyricFile, TheWideFileIsReadWhereThereIsNoOther) {
   TCSongLyrics lyrics;
   EXPECT_TRUE(LoadLyrics(files, u"C:\\Music\\Song.mp3", lyrics));
   EXPECT_EQ(lyrics.Headers().title, u"\u65E5\u672C");
-  EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"M: \u8A9E", 10'000, kEndOfLyrics, 1}));
+  EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"M: \u8A9E", 10'000, kEndOfLyrics, 1}));
 }
 
 TEST_F(LyricFile, IsNamedLikeTheSong) {
@@ -327,7 +328,7 @@ TEST_F(LyricFile, LoadingAgainReplacesTheLinesAndOnlyTheHeaderValuesThatAreSet) 
   EXPECT_EQ(lyrics.Headers().title, u"Other");
   EXPECT_EQ(lyrics.Headers().album, u"Album");
   ASSERT_EQ(lyrics.LineCount(), 2U);
-  EXPECT_EQ(lyrics.LineAt(0), (TCLyric{u"b", 9'500, 19'500, 0}));
+  EXPECT_EQ(LineOf(lyrics, 0), (TCLyric{u"b", 9'500, 19'500, 0}));
 }
 
 TEST_F(LyricFile, APlainOneWithoutTagsCountsAsRead) {
@@ -339,7 +340,7 @@ TEST_F(LyricFile, APlainOneWithoutTagsCountsAsRead) {
 TEST_F(LyricFile, WithLineFeedsOnlyIsOneLine) {
   const TCSongLyrics lyrics = Load("[00:10.00]a\n[00:20.00]b\n");
   ASSERT_EQ(lyrics.LineCount(), 1U);
-  EXPECT_EQ(lyrics.LineAt(0).text, u"b\n");
+  EXPECT_EQ(LineOf(lyrics, 0).text, u"b\n");
 }
 
 TEST_F(LyricFile, InTheWrongEncodingIsReadAsWhatItLooksLike) {
@@ -361,15 +362,15 @@ TEST_F(LyricFile, OfBinaryDataIsReadAsWhateverLinesItHolds) {
   const TCSongLyrics lyrics = Load(bytes);
   EXPECT_GT(lyrics.LineCount(), 0U);
   for (std::size_t i = 0; i < lyrics.LineCount(); ++i) {
-    EXPECT_EQ(lyrics.LineAt(i).text.find(u']'), std::u16string::npos);
+    EXPECT_EQ(LineOf(lyrics, i).text.find(u']'), std::u16string::npos);
   }
 }
 
 TEST_F(LyricFile, WithAnEnormousLineIsReadWhole) {
   const TCSongLyrics lyrics = Load("[00:10.00]" + std::string(3'000'000, 'x') + "\r\n[00:20.00]b\r\n");
   ASSERT_EQ(lyrics.LineCount(), 2U);
-  EXPECT_EQ(lyrics.LineAt(0).text.size(), 3'000'000U);
-  EXPECT_EQ(lyrics.LineAt(1).text, u"b");
+  EXPECT_EQ(LineOf(lyrics, 0).text.size(), 3'000'000U);
+  EXPECT_EQ(LineOf(lyrics, 1).text, u"b");
 }
 
 TEST_F(LyricFile, PastTheGreatestSizeIsPassedOver) {

@@ -18,7 +18,7 @@ TEST(Lyrics, AreEmptyAtFirst) {
   EXPECT_TRUE(lyrics.Empty());
   EXPECT_TRUE(lyrics.HoldsNothing());
   EXPECT_EQ(lyrics.LineCount(), 0U);
-  EXPECT_EQ(lyrics.LineAt(0), TCLyric());
+  EXPECT_EQ(LineOf(lyrics, 0), TCLyric());
   EXPECT_EQ(lyrics.Headers().artist, u"");
   EXPECT_EQ(lyrics.Headers(), TCLyricHeaders());
   EXPECT_EQ(lyrics.FindLineAt(0), -1);
@@ -35,8 +35,8 @@ TEST(Lyrics, HoldTheirLinesInOrder) {
   const TCSongLyrics lyrics = LyricsOf(lines);
   ASSERT_EQ(lyrics.LineCount(), 3U);
   EXPECT_FALSE(lyrics.Empty());
-  for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(lyrics.LineAt(i), lines[i]);
-  EXPECT_EQ(lyrics.LineAt(3), TCLyric());
+  for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(LineOf(lyrics, i), lines[i]);
+  EXPECT_EQ(LineOf(lyrics, 3), TCLyric());
 }
 
 TEST(Lyrics, HoldTheirHeaderValues) {
@@ -51,7 +51,7 @@ TEST(Lyrics, HoldTheirHeaderValues) {
   EXPECT_EQ(lyrics.Headers().version, u"version");
   EXPECT_EQ(lyrics.Headers().offset, u"offset");
   EXPECT_EQ(lyrics.Headers(), AllHeaders());
-  EXPECT_EQ(lyrics.LineAt(0).text, u"line");
+  EXPECT_EQ(LineOf(lyrics, 0).text, u"line");
 }
 
 TEST(Lyrics, WithHeaderValuesAloneAreEmptyOfLines) {
@@ -66,8 +66,8 @@ TEST(Lyrics, OfEveryScriptComeBackAsTheyWere) {
   headers.title = u"\u65E5\u672C\u8A9E";
   const TCSongLyrics wide = LyricsOf({{u"\u65E5\u672C", 0, 1, 0}, {u"\u8A9E", 1, 2, 0}}, headers);
   EXPECT_EQ(wide.Headers().title, headers.title);
-  EXPECT_EQ(wide.LineAt(0).text, u"\u65E5\u672C");
-  EXPECT_EQ(wide.LineAt(1).text, u"\u8A9E");
+  EXPECT_EQ(LineOf(wide, 0).text, u"\u65E5\u672C");
+  EXPECT_EQ(LineOf(wide, 1).text, u"\u8A9E");
 }
 
 TEST(Lyrics, KeepLoneSurrogatesAndZeros) {
@@ -75,12 +75,12 @@ TEST(Lyrics, KeepLoneSurrogatesAndZeros) {
   const std::u16string high(1, static_cast<char16_t>(0xD83C));
   const std::u16string low(1, static_cast<char16_t>(0xDFB5));
   const TCSongLyrics lyrics = LyricsOf({{u"a" + high, 0, 1, 0}, {low + u"b", 1, 2, 0}, {u"c\0d"s, 2, 3, 0}});
-  EXPECT_EQ(lyrics.LineAt(0).text, u"a" + high);
-  EXPECT_EQ(lyrics.LineAt(1).text, low + u"b");
-  EXPECT_EQ(lyrics.LineAt(2).text, u"c\0d"s);
+  EXPECT_EQ(LineOf(lyrics, 0).text, u"a" + high);
+  EXPECT_EQ(LineOf(lyrics, 1).text, low + u"b");
+  EXPECT_EQ(LineOf(lyrics, 2).text, u"c\0d"s);
 
   const std::u16string halves = low + high + u"\uD7FF\uE000\U0001F3B5" + high + high;
-  EXPECT_EQ(LyricsOf({{halves, 0, 1, 0}}).LineAt(0).text, halves);
+  EXPECT_EQ(LineOf(LyricsOf({{halves, 0, 1, 0}}), 0).text, halves);
 }
 
 TEST(Lyrics, KeepEveryTime) {
@@ -96,8 +96,8 @@ TEST(Lyrics, KeepATextOfAnyLength) {
   for (const std::size_t length : {0U, 1U, 31U, 32U, 4095U, 4096U, 1000000U}) {
     const std::u16string text(length, u'x');
     const TCSongLyrics lyrics = LyricsOf({{text, 0, 1, 3}, {u"after", 1, 2, 0}});
-    EXPECT_EQ(lyrics.LineAt(0).text, text);
-    EXPECT_EQ(lyrics.LineAt(1).text, u"after");
+    EXPECT_EQ(LineOf(lyrics, 0).text, text);
+    EXPECT_EQ(LineOf(lyrics, 1).text, u"after");
   }
 }
 
@@ -111,9 +111,9 @@ TEST(Lyrics, GiveSeveralLinesAtOnce) {
 
 TEST(Lyrics, ASingerThatNobodyKnowsIsNoSinger) {
   const TCSongLyrics lyrics = LyricsOf({{u"a", 0, 1, 4}, {u"b", 0, 1, -1}, {u"c", 0, 1, 3}});
-  EXPECT_EQ(lyrics.LineAt(0).singer, 0);
-  EXPECT_EQ(lyrics.LineAt(1).singer, 0);
-  EXPECT_EQ(lyrics.LineAt(2).singer, 3);
+  EXPECT_EQ(LineOf(lyrics, 0).singer, 0);
+  EXPECT_EQ(LineOf(lyrics, 1).singer, 0);
+  EXPECT_EQ(LineOf(lyrics, 2).singer, 3);
 }
 
 TEST(Lyrics, ACopyHoldsTheSameAndOutlivesTheOriginal) {
@@ -121,7 +121,7 @@ TEST(Lyrics, ACopyHoldsTheSameAndOutlivesTheOriginal) {
   const TCSongLyrics copy = original;
   EXPECT_EQ(copy, original);
   original = TCSongLyrics();
-  EXPECT_EQ(copy.LineAt(0).text, u"line");
+  EXPECT_EQ(LineOf(copy, 0).text, u"line");
   EXPECT_NE(copy, original);
 }
 

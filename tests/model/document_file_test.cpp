@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/memory_files.h"
 #include "support/message_log.h"
 
@@ -323,6 +325,20 @@ TEST_F(DocumentFileTest, SongsThatAreLoadedReplaceWhatStoodThere) {
   ASSERT_TRUE(document.LoadFlatDocument(JoinUtf16Lines({u"\"A\" \"P\" \"x.mp3\" 03:00"})));
   ASSERT_EQ(store.groups.size(), 1u);
   EXPECT_EQ(PlaylistOf(0, 0).items.size(), 1u);
+}
+
+TEST_F(DocumentFileTest, ADocumentIsReadFromTheDiskOnceInEitherForm) {
+  ASSERT_TRUE(Open(u"gone.brvgl\r\n"));
+  EXPECT_EQ(std::count(files.reads.begin(), files.reads.end(), kPath), 1);
+  files.ForgetRequests();
+  ASSERT_TRUE(Open(u"\"A\" \"P\" \"x.mp3\" 03:00\r\n"));
+  EXPECT_EQ(std::count(files.reads.begin(), files.reads.end(), kPath), 1);
+}
+
+TEST(DocumentPath, ADocumentIsToldByItsTypeInAnyCase) {
+  EXPECT_TRUE(IsDocumentPath(u"D:\\Docs\\show.BRV"));
+  EXPECT_FALSE(IsDocumentPath(u"D:\\Docs\\show.brvgl"));
+  EXPECT_FALSE(IsDocumentPath(u"D:\\Docs\\show"));
 }
 
 TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {

@@ -51,11 +51,11 @@ class SetListEditTest : public testing::Test {
     return playlist == nullptr ? std::u16string() : playlist->name;
   }
   [[nodiscard]] std::u16string CurrentSongName() {
-    const TCPlayListItem* song = store.SongAt(store.currentSong);
+    const TCPlayListItem* song = store.SongInCurrentPlaylist(store.currentSong);
     return song == nullptr ? std::u16string() : song->fileName;
   }
   [[nodiscard]] std::u16string ShownName() {
-    const TCPlayList* playlist = PlaylistAt(store, store.shown);
+    const TCPlayList* playlist = store.PlaylistAt(store.shown);
     return playlist == nullptr ? std::u16string() : playlist->name;
   }
 
@@ -105,6 +105,20 @@ TEST_F(SetListEditTest, TheCurrentSongStaysWhenSongsComeAndGoInFrontOfIt) {
   EXPECT_EQ(CurrentSongName(), u"a2");
   ASSERT_TRUE(MoveSong(store, {0, 1, 4}, {0, 0, 0}));
   EXPECT_EQ(CurrentSongName(), u"a2");
+}
+
+TEST_F(SetListEditTest, SeveralSongsComeAtOnceAndPushTheCurrentOneAlong) {
+  std::vector<TCPlayListItem> songs(2);
+  songs[0].fileName = u"x";
+  songs[1].fileName = u"y";
+  store.currentSong = 2;
+  ASSERT_TRUE(InsertSongs(store, {0, 0, 3}, songs));
+  EXPECT_EQ(CurrentSongName(), u"a2");
+  ASSERT_TRUE(InsertSongs(store, {0, 0, 2}, songs));
+  EXPECT_EQ(CurrentSongName(), u"a2");
+  EXPECT_THAT(Songs(0), ElementsAre(u"a0", u"a1", u"x", u"y", u"a2", u"x", u"y", u"a3", u"a4"));
+  EXPECT_FALSE(InsertSongs(store, {0, 0, 10}, songs));
+  EXPECT_FALSE(InsertSongs(store, {0, 9, 0}, songs));
 }
 
 TEST_F(SetListEditTest, SongsOfOtherPlaylistsLeaveTheCurrentSongAlone) {
@@ -180,7 +194,7 @@ TEST_F(SetListEditTest, ThePlaylistThatIsMeasuredIsFollowedToo) {
   store.measured = {0, 1};
   ASSERT_TRUE(MovePlaylist(store, {0, 1}, {1, 0}));
   ASSERT_TRUE(InsertGroup(store, 0, {}));
-  EXPECT_EQ(PlaylistAt(store, store.measured)->name, u"A1");
+  EXPECT_EQ(store.PlaylistAt(store.measured)->name, u"A1");
   ASSERT_TRUE(RemoveGroup(store, 2));
   EXPECT_EQ(store.measured, TCPlaylistPosition());
 }

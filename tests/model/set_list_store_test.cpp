@@ -57,7 +57,7 @@ TEST(SetListStoreTest, IndicesOutsideTheirListsAreInvalidAndNeverFail) {
     store.currentGroup = wrong;
     EXPECT_FALSE(store.IsValidPlaylistIndex(0));
     EXPECT_FALSE(store.IsValidSongIndex(0));
-    EXPECT_EQ(store.SongAt(0), nullptr);
+    EXPECT_EQ(store.SongInCurrentPlaylist(0), nullptr);
     EXPECT_EQ(store.CurrentPlaylist(), nullptr);
     EXPECT_EQ(store.GetSongTreeNode(0), TCTreeNode::None);
     store.currentGroup = 0;

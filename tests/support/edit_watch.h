@@ -73,7 +73,7 @@ class TCEditWatch {
                                             TCTreeNode node) {
     return indent + text + u" #" + FormatDecimal(static_cast<std::int64_t>(node));
   }
-  [[nodiscard]] const TCPlayList* Shown() const { return PlaylistAt(record.setLists, record.setLists.shown); }
+  [[nodiscard]] const TCPlayList* Shown() const { return record.setLists.PlaylistAt(record.setLists.shown); }
 
   // The node of the song that stands at each selected row; none when the rows are what is left of a playlist
   // that was removed or emptied.

@@ -88,6 +88,13 @@ class TCFakeTree final : public TCTreeDisplay {
     const auto found = nodes.find(node);
     return found == nodes.end() ? TCTreeNode::None : found->second.parent;
   }
+  [[nodiscard]] std::size_t PlaceOf(TCTreeNode node) const override {
+    const auto found = nodes.find(node);
+    if (found == nodes.end()) return 0;
+    const TCTreeNode parent = found->second.parent;
+    const std::vector<TCTreeNode>& siblings = parent == TCTreeNode::None ? roots : nodes.at(parent).children;
+    return static_cast<std::size_t>(std::find(siblings.begin(), siblings.end(), node) - siblings.begin());
+  }
   void SelectNode(TCTreeNode node) override {
     if (nodes.count(node) != 0) selected = node;
   }

@@ -40,5 +40,10 @@ TEST(QuotedWords, OfNothingAreNone) {
   EXPECT_THAT(SplitQuotedWords(u" \t\r\n"), IsEmpty());
 }
 
+TEST(QuotedWords, AQuotedWordIsSplitOffAsItWas) {
+  EXPECT_EQ(QuotedWord(u"C:\\My Songs\\a b.mp3"), u"\"C:\\My Songs\\a b.mp3\"");
+  EXPECT_THAT(SplitQuotedWords(QuotedWord(u" a b ") + QuotedWord(u"")), ElementsAre(u" a b ", u""));
+}
+
 }  // namespace
 }  // namespace brevant

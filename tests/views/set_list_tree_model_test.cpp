@@ -60,6 +60,7 @@ TEST_F(TreeModel, NodesComeInTheirOrderEachWithAHandleOfItsOwn) {
     EXPECT_EQ(model.IndexOf(node).row(), row);
     EXPECT_EQ(model.NodeAt(model.index(row, 0)), node);
     EXPECT_EQ(model.ParentOf(node), TCTreeNode::None);
+    EXPECT_EQ(model.PlaceOf(node), static_cast<std::size_t>(row));
     EXPECT_EQ(model.LevelOf(node), 1);
   }
 }
@@ -109,6 +110,7 @@ TEST_F(TreeModel, ADeletedNodeTakesAllUnderItAlongAndItsHandleIsNobodys) {
     EXPECT_FALSE(model.HasNode(gone));
     EXPECT_FALSE(model.IndexOf(gone).isValid());
     EXPECT_EQ(model.ParentOf(gone), TCTreeNode::None);
+    EXPECT_EQ(model.PlaceOf(gone), 0u);
     EXPECT_EQ(model.TextOf(gone), QString());
     model.SetText(gone, QStringLiteral("X"));
     model.DeleteNodes(gone, 1);
@@ -176,6 +178,7 @@ TEST_F(TreeModel, ANodeMovesToAnotherParentWithAllUnderItAndKeepsItsHandle) {
   EXPECT_THAT(TextsUnder(groups[1]), ElementsAre("B1", "A1", "B2"));
   EXPECT_EQ(model.ParentOf(inA[0]), groups[1]);
   EXPECT_EQ(model.ParentOf(song), inA[0]);
+  EXPECT_EQ(model.PlaceOf(inA[0]), 1u);
   EXPECT_EQ(model.IndexOf(inA[1]).row(), 0);
   EXPECT_EQ(model.IndexOf(inB[1]).row(), 2);
   EXPECT_EQ(model.NodeAt(kept), inA[0]);

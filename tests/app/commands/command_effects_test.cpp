@@ -270,7 +270,7 @@ const std::array kEffects = {
              [](Program& p) {
                p.PlayFor(1.0);
                p.Trigger(Id::RefreshSongTime);
-               EXPECT_EQ(p.SetLists().SongAt(0)->time, u"03:20");
+               EXPECT_EQ(p.SetLists().SongInCurrentPlaylist(0)->time, u"03:20");
              }},
     TCEffect{Id::RefreshAllTimes,
              [](Program& p) {

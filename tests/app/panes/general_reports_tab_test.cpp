@@ -96,7 +96,8 @@ TEST_F(TCGeneralReportsTabTest, TheBoxHoldsWhatTheRingHoldsAfterEveryAppend) {
                                          u"a\rb", u"a\nb\n", u"last", u"more", u"and", u"on"}) {
     small.Append(text);
     ring.Append(text, TCLineRole::Normal);
-    QString expected = ToQString(ring.Text());
+    QString expected;
+    for (const TCReportLine& line : ring.Lines()) expected += ToQString(line.text);
     expected.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
     EXPECT_EQ(small.toPlainText(), expected);
