@@ -44,7 +44,7 @@ def steps_a_playlist(run):
     keys = [run.chance.choice(("Right", "r", "Left", "l", "Right"))] * run.chance.choice((1, 1, 2, 4))
     if keys[1:]:
         run.journal.press(*keys[1:])
-    run.stepped_from = run.window.look().header  # where the last step may leave the rows
+    run.notes_the_playlist_it_leaves()
     run.journal.press(keys[0])
 
 
@@ -173,6 +173,7 @@ def walks_in_the_tree(run):
     run.journal.press(*[run.chance.choice(("Down", "Up", "Right", "Left")) for _ in range(run.chance.randrange(1, 8))])
     if run.chance.random() < 0.3:
         run.judge.claim()
+        run.notes_the_playlist_it_leaves()
         run.journal.press("Return")
     run.journal.press("F3")
 

@@ -145,6 +145,7 @@ def opens_a_playlist_in_the_tree(run):
     if not names:
         return
     run.judge.claim()
+    run.notes_the_playlist_it_leaves()
     run.click("an entry of the tree, twice", *run.manager.label(run.chance.choice(names)), times=2)
     run.journal.press("F3")
 

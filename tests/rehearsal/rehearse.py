@@ -160,6 +160,10 @@ class Run:
         """No other playlist bears its name, as far as the document tells."""
         return look.playlist().startswith("Set ")
 
+    def notes_the_playlist_it_leaves(self):
+        """Another one becomes current next, maybe one without songs."""
+        self.stepped_from = self.window.look().header
+
     def may_be_in_an_empty_playlist(self, look):
         """The rows of the last one stay on the screen there, and nothing can be started by Enter."""
         return self.made > 0 and look.header == self.stepped_from
