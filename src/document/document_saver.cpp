@@ -59,8 +59,8 @@ std::shared_future<bool> TCDocumentSaver::WriteBehindOthers(std::u16string_view 
                       old = unread](TCFileSystem& disk) {
     if (before.valid()) before.wait();
     const bool isUnread = EqualIgnoringCase(file, old->path) && !old->replaced;
-    const bool saved = SaveSetListDocument(disk, file, *lines,
-                                           isUnread ? TCKeepOldFile::Always : TCKeepOldFile::IfForeign);
+    const bool saved =
+        SaveSetListDocument(disk, file, *lines, isUnread ? TCKeepOldFile::Always : TCKeepOldFile::IfForeign);
     if (saved && isUnread) old->replaced = true;
     return saved;
   };
@@ -72,9 +72,8 @@ void TCDocumentSaver::KeepRecoveryCopy(std::u16string_view path, const TextLines
 }
 
 const TCDocumentSaver::TCSave* TCDocumentSaver::LastSaveOf(std::u16string_view path) const {
-  const auto last = std::find_if(underWay.rbegin(), underWay.rend(), [path](const TCSave& save) {
-    return EqualIgnoringCase(save.path, path);
-  });
+  const auto last = std::find_if(underWay.rbegin(), underWay.rend(),
+                                 [path](const TCSave& save) { return EqualIgnoringCase(save.path, path); });
   return last == underWay.rend() ? nullptr : &*last;
 }
 

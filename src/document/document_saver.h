@@ -20,16 +20,16 @@ class TCDocumentSaver {
   // `fileSystem` outlives the saver; `recovery` is the recovery folder, with a backslash at its end.
   TCDocumentSaver(TCFileSystem& fileSystem, std::u16string_view recovery);
 
-  // Waits a moment for the disk. What is not on it by then goes to the recovery folder as well, by itself, and
-  // is taken out of there when the save comes through. The saves of one file take effect in the order they
-  // were asked for, those of different files wait for nobody. Without lines nothing is written.
+  // Waits a moment for the disk. What is not on it by then goes to the recovery folder as well, by itself,
+  // and is taken out of there when the save comes through. The saves of one file take effect in the order
+  // they were asked for, those of different files wait for nobody. Without lines nothing is written.
   void Save(std::u16string_view path, TextLines lines);
 
   // Into the recovery folder, at once. Without lines nothing is written.
   void KeepRecoveryCopy(std::u16string_view path, const TextLines& lines);
 
-  // What stands at `path` could not be read, so whoever saves there has not seen it: the first save that comes
-  // through keeps it as "NAME.brv~". Counts until the next call; empty when all was read.
+  // What stands at `path` could not be read, so whoever saves there has not seen it: the first save that
+  // comes through keeps it as "NAME.brv~". Counts until the next call; empty when all was read.
   void SetUnreadFile(std::u16string_view path);
 
   // A save of the file is still under way.
@@ -43,8 +43,8 @@ class TCDocumentSaver {
   void WaitFor(std::u16string_view path);
 
   // For the end of the program; no save counts as under way afterwards. Waits for all saves, together no
-  // longer than `patience`: a slow stick may take seconds. Only for what is not in the recovery folder by then
-  // it waits as long as it takes to get there, or to its disk.
+  // longer than `patience`: a slow stick may take seconds. Only for what is not in the recovery folder by
+  // then it waits as long as it takes to get there, or to its disk.
   void Finish(std::chrono::milliseconds patience = std::chrono::seconds(5));
 
  private:

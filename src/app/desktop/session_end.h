@@ -1,5 +1,5 @@
-// The session manager of the desktop ends the session. The toolkit would close the windows then, and so ask about
-// unsaved changes when the user is on the way out.
+// The session manager of the desktop ends the session. The toolkit would close the windows then, and so ask
+// about unsaved changes when the user is on the way out.
 #pragma once
 
 #include <QCoreApplication>

@@ -1,5 +1,5 @@
-// A library may end the program: the toolkit calls exit() when the display has gone. main() never returns then, and
-// whoever has something to bring to safety has this moment for it.
+// A library may end the program: the toolkit calls exit() when the display has gone. main() never returns
+// then, and whoever has something to bring to safety has this moment for it.
 #pragma once
 
 #include <functional>
@@ -9,8 +9,8 @@ namespace brevant {
 // One at a time.
 class TCSuddenExit {
  public:
-  // Whoever calls exit() while this lives has `lastWork` done first, on its thread. Not at a crash, and not at
-  // a kill.
+  // Whoever calls exit() while this lives has `lastWork` done first, on its thread. Not at a crash, and not
+  // at a kill.
   explicit TCSuddenExit(std::function<void()> lastWork);
   ~TCSuddenExit();
   TCSuddenExit(const TCSuddenExit&) = delete;

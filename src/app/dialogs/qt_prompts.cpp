@@ -37,8 +37,8 @@ void ShowColumnsWhole(const QFileDialog& dialog) {
 
 }  // namespace
 
-TCQtPrompts::TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore,
-                         TCFileSystem& fileSystem, TCNativePaths nativePaths)
+TCQtPrompts::TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore, TCFileSystem& fileSystem,
+                         TCNativePaths nativePaths)
     : frame(mainFrame), setLists(setListStore), files(fileSystem), paths(std::move(nativePaths)) {}
 
 QWidget* TCQtPrompts::Parent() const {
@@ -113,7 +113,8 @@ QString TCQtPrompts::NativeName(std::u16string_view path) const {
   return QFile::decodeName(paths.ToNative(path).c_str());
 }
 
-// The toolkit would wait for a folder whose disk is gone, and Save As is the way out when that is the document's.
+// The toolkit would wait for a folder whose disk is gone, and Save As is the way out when that is the
+// document's.
 QString TCQtPrompts::FirstFolderThere(const QStringList& folders) const {
   for (const QString& folder : folders) {
     if (folder.isEmpty()) continue;
@@ -130,7 +131,8 @@ void TCQtPrompts::SetUp(QFileDialog& dialog) const {
 }
 
 std::optional<std::u16string> TCQtPrompts::ChooseDocumentToOpen() {
-  QFileDialog dialog(Parent(), QStringLiteral("Open"), FirstFolderThere({NativeName(setLists.documentFolder)}));
+  QFileDialog dialog(Parent(), QStringLiteral("Open"),
+                     FirstFolderThere({NativeName(setLists.documentFolder)}));
   dialog.setObjectName(QStringLiteral("OpenDocument"));
   SetUp(dialog);
   dialog.setFileMode(QFileDialog::ExistingFile);

@@ -21,8 +21,8 @@ namespace brevant {
 
 class TCQtPrompts final : public TCPrompts {
  public:
-  // The choosers start in the folder of the document that the set lists were opened from or saved to last, and
-  // in the home folder when that is not there or its disk does not answer.
+  // The choosers start in the folder of the document that the set lists were opened from or saved to last,
+  // and in the home folder when that is not there or its disk does not answer.
   TCQtPrompts(TCMainFrame& mainFrame, const TCSetListStore& setListStore, TCFileSystem& fileSystem,
               TCNativePaths nativePaths);
 
