@@ -7,7 +7,7 @@
 namespace brevant {
 namespace {
 
-class KeptStateTest : public testing::Test {
+class KeptStates : public testing::Test {
  protected:
   void SetUp() override { ASSERT_TRUE(folder.isValid()); }
 
@@ -17,7 +17,7 @@ class KeptStateTest : public testing::Test {
   const QByteArray state = QByteArray("\0\xff\x10 state, \r\n and more", 24);
 };
 
-TEST_F(KeptStateTest, WhatWasKeptComesBack) {
+TEST_F(KeptStates, WhatWasKeptComesBack) {
   {
     QSettings layout(file, QSettings::IniFormat);
     KeepState(layout, name, state);
@@ -28,7 +28,7 @@ TEST_F(KeptStateTest, WhatWasKeptComesBack) {
   EXPECT_EQ(KeptState(layout, QStringLiteral("CommandBars")), QByteArray("other"));
 }
 
-TEST_F(KeptStateTest, WhatIsNotThereOrHasNoCheckIsNothing) {
+TEST_F(KeptStates, WhatIsNotThereOrHasNoCheckIsNothing) {
   QSettings layout(file, QSettings::IniFormat);
   EXPECT_EQ(KeptState(layout, name), QByteArray());
   layout.setValue(name, state);
@@ -37,7 +37,7 @@ TEST_F(KeptStateTest, WhatIsNotThereOrHasNoCheckIsNothing) {
   EXPECT_EQ(KeptState(layout, name), QByteArray());
 }
 
-TEST_F(KeptStateTest, AStateWhoseCheckIsNoughtNeedsItAllTheSame) {
+TEST_F(KeptStates, AStateWhoseCheckIsNoughtNeedsItAllTheSame) {
   QByteArray sumless(3, 'x');
   for (int number = 0; number < 0x10000 && qChecksum(sumless) != 0; ++number) {
     sumless[0] = static_cast<char>(number & 0xFF);
@@ -51,7 +51,7 @@ TEST_F(KeptStateTest, AStateWhoseCheckIsNoughtNeedsItAllTheSame) {
   EXPECT_EQ(KeptState(layout, name), sumless);
 }
 
-TEST_F(KeptStateTest, AStateWithOneBitChangedIsNothing) {
+TEST_F(KeptStates, AStateWithOneBitChangedIsNothing) {
   QSettings layout(file, QSettings::IniFormat);
   KeepState(layout, name, state);
   for (qsizetype place = 0; place < state.size(); ++place) {

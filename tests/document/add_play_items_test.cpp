@@ -11,9 +11,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class AddPlayItemsTest : public testing::Test {
+class AddPlayItems : public testing::Test {
  protected:
-  AddPlayItemsTest() {
+  AddPlayItems() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3"}}, {u"Two", {u"b.mp3"}}});
     rig.AddGroup(u"Club", {{u"Early", {}}, {u"Late", {u"c.mp3"}}});
     rig.Show();
@@ -28,7 +28,7 @@ class AddPlayItemsTest : public testing::Test {
   TCEditRig rig;
 };
 
-TEST_F(AddPlayItemsTest, ItOpensWithAllNamesAndTheGroupAndPlaylistShownLast) {
+TEST_F(AddPlayItems, ItOpensWithAllNamesAndTheGroupAndPlaylistShownLast) {
   const TCAddPlayItems form = Open(u"club", u"LATE");
   ASSERT_EQ(form.Lists().size(), 2u);
   EXPECT_EQ(form.Lists()[1].groupName, u"Club");
@@ -38,20 +38,20 @@ TEST_F(AddPlayItemsTest, ItOpensWithAllNamesAndTheGroupAndPlaylistShownLast) {
   EXPECT_EQ(form.songFiles, u"");
 }
 
-TEST_F(AddPlayItemsTest, OfTwoGroupsWithOneNameTheLaterIsChosen) {
+TEST_F(AddPlayItems, OfTwoGroupsWithOneNameTheLaterIsChosen) {
   rig.AddGroup(u"Sets", {{u"Three", {}}});
   const TCAddPlayItems form = Open(u"Sets", u"Three");
   EXPECT_EQ(form.Group(), 2);
   EXPECT_EQ(form.Playlist(), 0);
 }
 
-TEST_F(AddPlayItemsTest, UnknownNamesChooseTheFirstOnes) {
+TEST_F(AddPlayItems, UnknownNamesChooseTheFirstOnes) {
   EXPECT_EQ(Open(u"gone", u"Two").Group(), 0);
   EXPECT_EQ(Open(u"gone", u"Two").Playlist(), 1);
   EXPECT_EQ(Open(u"Club", u"gone").Playlist(), 0);
 }
 
-TEST_F(AddPlayItemsTest, WithoutGroupsTheListsAreEmptyAndNothingIsChosen) {
+TEST_F(AddPlayItems, WithoutGroupsTheListsAreEmptyAndNothingIsChosen) {
   rig.store.ClearSetLists();
   rig.treePresenter.BuildAll();
   TCAddPlayItems form = Open(u"Sets", u"One");
@@ -64,7 +64,7 @@ TEST_F(AddPlayItemsTest, WithoutGroupsTheListsAreEmptyAndNothingIsChosen) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(AddPlayItemsTest, AChosenGroupOffersItsFirstPlaylist) {
+TEST_F(AddPlayItems, AChosenGroupOffersItsFirstPlaylist) {
   TCAddPlayItems form = Open(u"Sets", u"Two");
   form.ChooseGroup(1);
   EXPECT_EQ(form.Playlist(), 0);
@@ -77,7 +77,7 @@ TEST_F(AddPlayItemsTest, AChosenGroupOffersItsFirstPlaylist) {
   EXPECT_EQ(form.Playlist(), -1);
 }
 
-TEST_F(AddPlayItemsTest, ACreatedGroupIsChosenAndHasNoPlaylistYet) {
+TEST_F(AddPlayItems, ACreatedGroupIsChosenAndHasNoPlaylistYet) {
   TCAddPlayItems form = Open(u"Sets", u"One");
   rig.prompts.texts = {u"New", std::nullopt};
   form.CreateGroup();
@@ -90,7 +90,7 @@ TEST_F(AddPlayItemsTest, ACreatedGroupIsChosenAndHasNoPlaylistYet) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(AddPlayItemsTest, ACreatedPlaylistGoesIntoTheChosenGroupWhateverTheTreeHasSelected) {
+TEST_F(AddPlayItems, ACreatedPlaylistGoesIntoTheChosenGroupWhateverTheTreeHasSelected) {
   TCAddPlayItems form = Open(u"Club", u"Late");
   rig.Select(u"a.mp3");
   rig.prompts.texts = {u"Encore", std::nullopt};
@@ -103,7 +103,7 @@ TEST_F(AddPlayItemsTest, ACreatedPlaylistGoesIntoTheChosenGroupWhateverTheTreeHa
   EXPECT_EQ(form.Playlist(), 2);
 }
 
-TEST_F(AddPlayItemsTest, CreateMakesTheChosenPlaylistCurrentAndAddsTheSongsToIt) {
+TEST_F(AddPlayItems, CreateMakesTheChosenPlaylistCurrentAndAddsTheSongsToIt) {
   TCAddPlayItems form = Open(u"Club", u"Late");
   rig.Select(u"a.mp3");
   form.songFiles = u"\"C:\\x y.mp3\" \"C:\\z.wav\"";
@@ -118,7 +118,7 @@ TEST_F(AddPlayItemsTest, CreateMakesTheChosenPlaylistCurrentAndAddsTheSongsToIt)
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"x y.mp3", u"z.wav"));
 }
 
-TEST_F(AddPlayItemsTest, CreateWithoutSongsChangesOnlyTheCurrentPlaylist) {
+TEST_F(AddPlayItems, CreateWithoutSongsChangesOnlyTheCurrentPlaylist) {
   TCAddPlayItems form = Open(u"Club", u"Early");
   form.Create();
   EXPECT_EQ(rig.store.CurrentPosition(), (TCPlaylistPosition{1, 0}));
@@ -131,14 +131,14 @@ TEST_F(AddPlayItemsTest, CreateWithoutSongsChangesOnlyTheCurrentPlaylist) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"c.mp3"));
 }
 
-TEST_F(AddPlayItemsTest, CreateFillsAnEmptyPlaylist) {
+TEST_F(AddPlayItems, CreateFillsAnEmptyPlaylist) {
   TCAddPlayItems form = Open(u"Club", u"Early");
   form.songFiles = u"C:\\x.mp3";
   form.Create();
   EXPECT_THAT(rig.Rows(), ElementsAre(u"x.mp3"));
 }
 
-TEST_F(AddPlayItemsTest, AChosenPlaylistThatIsNoneIsRefused) {
+TEST_F(AddPlayItems, AChosenPlaylistThatIsNoneIsRefused) {
   TCAddPlayItems form = Open(u"Sets", u"Two");
   form.ChooseGroup(1);
   form.ChoosePlaylist(-1);
@@ -150,7 +150,7 @@ TEST_F(AddPlayItemsTest, AChosenPlaylistThatIsNoneIsRefused) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(AddPlayItemsTest, FoundSongsReplaceTheTextAndACancelledSearchLeavesIt) {
+TEST_F(AddPlayItems, FoundSongsReplaceTheTextAndACancelledSearchLeavesIt) {
   TCAddPlayItems form = Open(u"Sets", u"One");
   form.songFiles = u"typed";
   rig.prompts.mediaAnswers = {std::nullopt, TCFakePrompts::TCPaths{u"C:\\x.mp3", u"C:\\y.mp3"}};
@@ -160,7 +160,7 @@ TEST_F(AddPlayItemsTest, FoundSongsReplaceTheTextAndACancelledSearchLeavesIt) {
   EXPECT_EQ(form.songFiles, u"\"C:\\x.mp3\" \"C:\\y.mp3\"");
 }
 
-TEST_F(AddPlayItemsTest, OkSuggestsTheChosenNamesNextTime) {
+TEST_F(AddPlayItems, OkSuggestsTheChosenNamesNextTime) {
   TCAddPlayItems form = Open(u"Sets", u"One");
   form.ChooseGroup(1);
   form.ChoosePlaylist(1);

@@ -17,26 +17,26 @@ using testing::Not;
 
 using Id = TCCommandId;
 
-class BrevantDocEditingTest : public TCShowDocument {
+class BrevantDocEditing : public TCShowDocument {
  protected:
-  BrevantDocEditingTest() { document.OnOpenDocument(kShow); }
+  BrevantDocEditing() { document.OnOpenDocument(kShow); }
 };
 
-TEST_F(BrevantDocEditingTest, AnOpenedDocumentFillsTheTreeAndANewOneEmptiesIt) {
+TEST_F(BrevantDocEditing, AnOpenedDocumentFillsTheTreeAndANewOneEmptiesIt) {
   EXPECT_THAT(tree.Lines(), ElementsAre(u"Sets", u"  One", u"    a.mp3", u"    b.mp3", u"  Two", u"    c.mp3",
                                         u"Club", u"  Late", u"    d.mp3"));
   document.OnNewDocument();
   EXPECT_THAT(tree.Lines(), IsEmpty());
 }
 
-TEST_F(BrevantDocEditingTest, AnEditMarksTheDocumentModified) {
+TEST_F(BrevantDocEditing, AnEditMarksTheDocumentModified) {
   EXPECT_TRUE(document.OnCommand(Id::NewGroupFolder));
   EXPECT_EQ(tree.Lines().back(), u"New Group Folder");
   EXPECT_TRUE(document.IsModified());
   EXPECT_EQ(frame.mark, TCModifiedMark::Modified);
 }
 
-TEST_F(BrevantDocEditingTest, FoldersAreMadeUnaskedAndNamesAreAskedFor) {
+TEST_F(BrevantDocEditing, FoldersAreMadeUnaskedAndNamesAreAskedFor) {
   Select(u"Club");
   document.OnCommand(Id::NewPlaylistFolder);
   EXPECT_EQ(tree.Lines().back(), u"  New Playlist Folder");
@@ -48,7 +48,7 @@ TEST_F(BrevantDocEditingTest, FoldersAreMadeUnaskedAndNamesAreAskedFor) {
   EXPECT_EQ(tree.Lines()[11], u"  R");
 }
 
-TEST_F(BrevantDocEditingTest, TwoNewGroupFoldersHaveOneName) {
+TEST_F(BrevantDocEditing, TwoNewGroupFoldersHaveOneName) {
   tree.selected = TCTreeNode::None;
   document.OnCommand(Id::NewGroupFolder);
   document.OnCommand(Id::NewGroupFolder);
@@ -57,7 +57,7 @@ TEST_F(BrevantDocEditingTest, TwoNewGroupFoldersHaveOneName) {
   EXPECT_EQ(record.setLists.groups[3].name, u"New Group Folder");
 }
 
-TEST_F(BrevantDocEditingTest, RemoveTakesTheSelectedRowsUnlessTheTreeHasTheFocus) {
+TEST_F(BrevantDocEditing, RemoveTakesTheSelectedRowsUnlessTheTreeHasTheFocus) {
   view.selected = {0};
   Select(u"d.mp3");
   document.OnCommand(Id::Remove);
@@ -70,7 +70,7 @@ TEST_F(BrevantDocEditingTest, RemoveTakesTheSelectedRowsUnlessTheTreeHasTheFocus
   EXPECT_THAT(Rows(), ElementsAre(u"b.mp3"));
 }
 
-TEST_F(BrevantDocEditingTest, RemoveWithoutSelectedRowsTakesTheTreesNodeWithTheQuestion) {
+TEST_F(BrevantDocEditing, RemoveWithoutSelectedRowsTakesTheTreesNodeWithTheQuestion) {
   Select(u"Two");
   prompts.removeAnswers = {false};
   document.OnCommand(Id::Remove);
@@ -78,7 +78,7 @@ TEST_F(BrevantDocEditingTest, RemoveWithoutSelectedRowsTakesTheTreesNodeWithTheQ
   EXPECT_FALSE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, CopyBelongsToTheTreeWhileItHasTheFocus) {
+TEST_F(BrevantDocEditing, CopyBelongsToTheTreeWhileItHasTheFocus) {
   view.selected = {0, 1};
   Select(u"d.mp3");
   document.OnCommand(Id::Copy);
@@ -88,7 +88,7 @@ TEST_F(BrevantDocEditingTest, CopyBelongsToTheTreeWhileItHasTheFocus) {
   EXPECT_EQ(document.Placement().CopyText(), u"\"C:\\d.mp3\"");
 }
 
-TEST_F(BrevantDocEditingTest, PropertiesAreTheSelectedRowsOrElseTheTreesSong) {
+TEST_F(BrevantDocEditing, PropertiesAreTheSelectedRowsOrElseTheTreesSong) {
   std::vector<std::u16string> names;
   const auto look = [&names](TCSongPropertiesForm& form) {
     names.push_back(form.songName);
@@ -107,7 +107,7 @@ TEST_F(BrevantDocEditingTest, PropertiesAreTheSelectedRowsOrElseTheTreesSong) {
   EXPECT_FALSE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, OnlySongsHaveProperties) {
+TEST_F(BrevantDocEditing, OnlySongsHaveProperties) {
   for (const std::u16string_view node : {u"Sets", u"Two", u"no node"}) {
     Select(node);
     document.OnCommand(Id::SongProperties);  // nobody is asked
@@ -115,7 +115,7 @@ TEST_F(BrevantDocEditingTest, OnlySongsHaveProperties) {
   EXPECT_FALSE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, PropertiesClosedWithOkAreApplied) {
+TEST_F(BrevantDocEditing, PropertiesClosedWithOkAreApplied) {
   view.selected = {0};
   prompts.songEdits = {[](TCSongPropertiesForm& form) {
     form.songName = u"x.mp3";
@@ -126,7 +126,7 @@ TEST_F(BrevantDocEditingTest, PropertiesClosedWithOkAreApplied) {
   EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, AddSongsSuggestsWhatWasShownLastAndCancelKeepsTheSuggestion) {
+TEST_F(BrevantDocEditing, AddSongsSuggestsWhatWasShownLastAndCancelKeepsTheSuggestion) {
   prompts.setListEdits = {[](TCAddPlayItems& form) {
                             EXPECT_EQ(form.Group(), 0);
                             EXPECT_EQ(form.Playlist(), 0);
@@ -145,7 +145,7 @@ TEST_F(BrevantDocEditingTest, AddSongsSuggestsWhatWasShownLastAndCancelKeepsTheS
   EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, WhatTheDialogPlacedIsAChangeEvenWhenItIsCancelledThen) {
+TEST_F(BrevantDocEditing, WhatTheDialogPlacedIsAChangeEvenWhenItIsCancelledThen) {
   prompts.setListEdits = {[](TCAddPlayItems& form) {
     form.songFiles = u"C:\\d.mp3";
     form.Create();
@@ -156,7 +156,7 @@ TEST_F(BrevantDocEditingTest, WhatTheDialogPlacedIsAChangeEvenWhenItIsCancelledT
   EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, MovesAndDuplicatesAreCommands) {
+TEST_F(BrevantDocEditing, MovesAndDuplicatesAreCommands) {
   view.selected = {1};
   document.OnCommand(Id::MoveSongUp);
   EXPECT_THAT(Rows(), ElementsAre(u"b.mp3", u"a.mp3"));
@@ -173,7 +173,7 @@ TEST_F(BrevantDocEditingTest, MovesAndDuplicatesAreCommands) {
   EXPECT_EQ(tree.Lines()[0], u"Club");
 }
 
-TEST_F(BrevantDocEditingTest, APickedPlaylistBecomesCurrentAndTheSongsNumberStays) {
+TEST_F(BrevantDocEditing, APickedPlaylistBecomesCurrentAndTheSongsNumberStays) {
   record.setLists.currentSong = 1;
   document.PickNode(tree.NodeNamed(u"Late"));
   EXPECT_THAT(Rows(), ElementsAre(u"d.mp3"));
@@ -183,7 +183,7 @@ TEST_F(BrevantDocEditingTest, APickedPlaylistBecomesCurrentAndTheSongsNumberStay
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(BrevantDocEditingTest, APickedSongBecomesCurrentAndPlaysOnlyWhenBothOptionsAreOn) {
+TEST_F(BrevantDocEditing, APickedSongBecomesCurrentAndPlaysOnlyWhenBothOptionsAreOn) {
   document.PickNode(tree.NodeNamed(u"b.mp3"));
   EXPECT_EQ(record.setLists.currentSong, 1);
   EXPECT_EQ(record.setLists.lastSongName, u"b.mp3");
@@ -199,7 +199,7 @@ TEST_F(BrevantDocEditingTest, APickedSongBecomesCurrentAndPlaysOnlyWhenBothOptio
   EXPECT_EQ(player.GetUrl(), u"C:\\c.mp3");
 }
 
-TEST_F(BrevantDocEditingTest, EnterPicksTheSelectedNodeAndOpensItsPlaylist) {
+TEST_F(BrevantDocEditing, EnterPicksTheSelectedNodeAndOpensItsPlaylist) {
   Select(u"d.mp3");
   document.EnterOnNode();
   EXPECT_THAT(Rows(), ElementsAre(u"d.mp3"));
@@ -214,7 +214,7 @@ TEST_F(BrevantDocEditingTest, EnterPicksTheSelectedNodeAndOpensItsPlaylist) {
   EXPECT_THAT(Rows(), ElementsAre(u"c.mp3"));
 }
 
-TEST_F(BrevantDocEditingTest, EnterOnASongPlaysItOnlyWhenBothOptionsAreOn) {
+TEST_F(BrevantDocEditing, EnterOnASongPlaysItOnlyWhenBothOptionsAreOn) {
   for (const bool inTheTree : {false, true}) {
     for (const bool immediate : {false, true}) {
       document.OnOpenDocument(kShow);
@@ -229,7 +229,7 @@ TEST_F(BrevantDocEditingTest, EnterOnASongPlaysItOnlyWhenBothOptionsAreOn) {
   }
 }
 
-TEST_F(BrevantDocEditingTest, TheSelectedNodesPlaylistIsCopiedIntoThePlaylistWindow) {
+TEST_F(BrevantDocEditing, TheSelectedNodesPlaylistIsCopiedIntoThePlaylistWindow) {
   Select(u"d.mp3");
   document.OnCommand(Id::ShowTreeSelection);
   EXPECT_THAT(Rows(), ElementsAre(u"d.mp3"));
@@ -239,12 +239,12 @@ TEST_F(BrevantDocEditingTest, TheSelectedNodesPlaylistIsCopiedIntoThePlaylistWin
   EXPECT_THAT(Rows(), ElementsAre(u"d.mp3"));
 }
 
-TEST_F(BrevantDocEditingTest, TheTreeFollowsTheCurrentSong) {
+TEST_F(BrevantDocEditing, TheTreeFollowsTheCurrentSong) {
   document.OnCommand(Id::NextSong);
   EXPECT_EQ(tree.nodes.at(tree.followed).text, u"b.mp3");
 }
 
-TEST_F(BrevantDocEditingTest, RowsDroppedOnThePlaylistAreCopiedIntoItself) {
+TEST_F(BrevantDocEditing, RowsDroppedOnThePlaylistAreCopiedIntoItself) {
   Select(u"Late");
   view.selected = {0};
   document.DropRowsOnPlaylist();
@@ -255,7 +255,7 @@ TEST_F(BrevantDocEditingTest, RowsDroppedOnThePlaylistAreCopiedIntoItself) {
   EXPECT_EQ(tree.Lines().back(), u"    a.mp3");
 }
 
-TEST_F(BrevantDocEditingTest, DroppedSongsWaitForTheClickThatPlacesThem) {
+TEST_F(BrevantDocEditing, DroppedSongsWaitForTheClickThatPlacesThem) {
   document.DropFiles({u"D:\\x.mp3", u"D:\\y.mp3"});
   EXPECT_EQ(frame.placing, TCPlacing::Waiting);
   EXPECT_FALSE(document.IsModified());
@@ -265,14 +265,14 @@ TEST_F(BrevantDocEditingTest, DroppedSongsWaitForTheClickThatPlacesThem) {
   EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(BrevantDocEditingTest, ADroppedDocumentIsOpenedAndTheFilesBesideItAreNotPlaced) {
+TEST_F(BrevantDocEditing, ADroppedDocumentIsOpenedAndTheFilesBesideItAreNotPlaced) {
   files.PutUtf16(u"D:\\other.BRV", u"\"X\" \"Y\" \"C:\\a.mp3\" 03:00\r\n");
   document.DropFiles({u"D:\\x.mp3", u"D:\\other.BRV", u"D:\\y.mp3"});
   EXPECT_EQ(document.GetPathName(), u"D:\\other.BRV");
   EXPECT_EQ(frame.placing, TCPlacing::Nothing);
 }
 
-TEST_F(BrevantDocEditingTest, ADroppedDocumentAsksAboutUnsavedChangesFirst) {
+TEST_F(BrevantDocEditing, ADroppedDocumentAsksAboutUnsavedChangesFirst) {
   document.SetModified();
   prompts.saveAnswers = {TCSaveAnswer::Cancel};
   document.DropFiles({u"D:\\other.brv"});
@@ -280,12 +280,12 @@ TEST_F(BrevantDocEditingTest, ADroppedDocumentAsksAboutUnsavedChangesFirst) {
   EXPECT_EQ(tree.Lines().size(), 9u);
 }
 
-TEST_F(BrevantDocEditingTest, ADropOfNothingWaitsForNothing) {
+TEST_F(BrevantDocEditing, ADropOfNothingWaitsForNothing) {
   document.DropFiles({});
   EXPECT_EQ(frame.placing, TCPlacing::Nothing);
 }
 
-TEST_F(BrevantDocEditingTest, CancelEndsAPendingPlacementAndEveryDrag) {
+TEST_F(BrevantDocEditing, CancelEndsAPendingPlacementAndEveryDrag) {
   view.selected = {0};
   document.OnCommand(Id::Copy);
   document.OnCommand(Id::Paste);
@@ -297,18 +297,18 @@ TEST_F(BrevantDocEditingTest, CancelEndsAPendingPlacementAndEveryDrag) {
   EXPECT_THAT(messages.lines.back(), u"Command canceled");
 }
 
-TEST_F(BrevantDocEditingTest, ANodeIsRenamedInPlace) {
+TEST_F(BrevantDocEditing, ANodeIsRenamedInPlace) {
   EXPECT_TRUE(document.RenameNode(tree.NodeNamed(u"Late"), u" Later "));
   EXPECT_EQ(tree.Lines()[7], u"  Later");
   EXPECT_FALSE(document.RenameNode(tree.NodeNamed(u"Later"), u"  "));
 }
 
-TEST_F(BrevantDocEditingTest, TheTreeTakesTheFocus) {
+TEST_F(BrevantDocEditing, TheTreeTakesTheFocus) {
   document.OnCommand(Id::FocusPlaylistManager);
   EXPECT_EQ(tree.focuses, 1);
 }
 
-TEST_F(BrevantDocEditingTest, EditingOptionsAreToggled) {
+TEST_F(BrevantDocEditing, EditingOptionsAreToggled) {
   EXPECT_TRUE(document.IsChecked(Id::ConfirmFileRemove));
   document.OnCommand(Id::ConfirmFileRemove);
   EXPECT_FALSE(record.settings.confirmFileRemove);
@@ -319,7 +319,7 @@ TEST_F(BrevantDocEditingTest, EditingOptionsAreToggled) {
   EXPECT_EQ(record.settings.disableEditing, 0);
 }
 
-TEST_F(BrevantDocEditingTest, RemovingOrMovingTheSoundingSongLeavesTheSound) {
+TEST_F(BrevantDocEditing, RemovingOrMovingTheSoundingSongLeavesTheSound) {
   document.OnCommand(Id::Play);
   view.selected = {0};
   document.OnCommand(Id::Remove);
@@ -330,7 +330,7 @@ TEST_F(BrevantDocEditingTest, RemovingOrMovingTheSoundingSongLeavesTheSound) {
   EXPECT_THAT(player.Calls(), Not(Contains("Stop")));
 }
 
-TEST_F(BrevantDocEditingTest, MeasuredTimesAreShownInTheRowsThatStandThereWhileAnEmptyPlaylistIsCurrent) {
+TEST_F(BrevantDocEditing, MeasuredTimesAreShownInTheRowsThatStandThereWhileAnEmptyPlaylistIsCurrent) {
   record.settings.confirmFileRemove = false;
   tree.focused = true;
   Select(u"c.mp3");
@@ -345,7 +345,7 @@ TEST_F(BrevantDocEditingTest, MeasuredTimesAreShownInTheRowsThatStandThereWhileA
   EXPECT_EQ(view.header, u"One - Total Playlist Time: 03:15");
 }
 
-TEST_F(BrevantDocEditingTest, ATickTakesOverWhatAHangingDiskSaysOfPlacedSongs) {
+TEST_F(BrevantDocEditing, ATickTakesOverWhatAHangingDiskSaysOfPlacedSongs) {
   files.Put(u"E:\\x.mp3");
   files.hangs = true;
   document.DropFiles({u"E:\\x.mp3"});

@@ -12,9 +12,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class BrevantDocTest : public TCShowDocument {};
+class BrevantDoc : public TCShowDocument {};
 
-TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
+TEST_F(BrevantDoc, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
   EXPECT_TRUE(document.OnOpenDocument(kShow));
   EXPECT_EQ(document.GetPathName(), kShow);
   EXPECT_EQ(frame.name, u"show.brv");
@@ -26,13 +26,13 @@ TEST_F(BrevantDocTest, AnOpenedDocumentShowsItsFirstPlaylistWithItsTotal) {
   EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
 }
 
-TEST_F(BrevantDocTest, WhatTheLoadersReportIsClearedByTheOpen) {
+TEST_F(BrevantDoc, WhatTheLoadersReportIsClearedByTheOpen) {
   files.PutUtf16(kShow, u"Gone.brvgl\r\n");
   document.OnOpenDocument(kShow);
   EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
 }
 
-TEST_F(BrevantDocTest, AnUnreadableDocumentOpensEmptyUnderItsNameAndSaysNothing) {
+TEST_F(BrevantDoc, AnUnreadableDocumentOpensEmptyUnderItsNameAndSaysNothing) {
   document.OnOpenDocument(kShow);
   EXPECT_TRUE(document.OnOpenDocument(u"D:\\Docs\\none.brv"));
   EXPECT_EQ(frame.name, u"none.brv");
@@ -41,7 +41,7 @@ TEST_F(BrevantDocTest, AnUnreadableDocumentOpensEmptyUnderItsNameAndSaysNothing)
   EXPECT_THAT(messages.lines, ElementsAre(u"...Brevant..."));
 }
 
-TEST_F(BrevantDocTest, ASaveOverADocumentThatCouldNotBeReadKeepsIt) {
+TEST_F(BrevantDoc, ASaveOverADocumentThatCouldNotBeReadKeepsIt) {
   const std::string old = *files.BytesOf(kShow);
   files.MakeUnreadable(kShow);
   document.OnOpenDocument(kShow);
@@ -57,7 +57,7 @@ TEST_F(BrevantDocTest, ASaveOverADocumentThatCouldNotBeReadKeepsIt) {
   EXPECT_EQ(files.BytesOf(kShow), saved);
 }
 
-TEST_F(BrevantDocTest, ANewDocumentIsEmptyAndHasNoName) {
+TEST_F(BrevantDoc, ANewDocumentIsEmptyAndHasNoName) {
   document.OnOpenDocument(kShow);
   document.SetModified();
   EXPECT_TRUE(document.OnNewDocument());
@@ -69,7 +69,7 @@ TEST_F(BrevantDocTest, ANewDocumentIsEmptyAndHasNoName) {
   EXPECT_EQ(record.setLists.documentFileName, u"show.brv");  // New leaves the last path
 }
 
-TEST_F(BrevantDocTest, ASavedDocumentIsUnmodifiedUnderItsName) {
+TEST_F(BrevantDoc, ASavedDocumentIsUnmodifiedUnderItsName) {
   document.OnOpenDocument(kShow);
   document.SetModified();
   EXPECT_EQ(frame.mark, TCModifiedMark::Modified);
@@ -79,7 +79,7 @@ TEST_F(BrevantDocTest, ASavedDocumentIsUnmodifiedUnderItsName) {
   EXPECT_FALSE(files.BytesOf(u"\\state\\recovery\\show.brv").has_value());
 }
 
-TEST_F(BrevantDocTest, AFailedSaveIsSilentAndLosesNothing) {
+TEST_F(BrevantDoc, AFailedSaveIsSilentAndLosesNothing) {
   document.OnOpenDocument(kShow);
   document.SetModified();
   messages.Clear();
@@ -92,13 +92,13 @@ TEST_F(BrevantDocTest, AFailedSaveIsSilentAndLosesNothing) {
   EXPECT_EQ(files.BytesOf(u"\\state\\recovery\\show.brv"), expected.BytesOf(kShow));
 }
 
-TEST_F(BrevantDocTest, ADocumentWithoutSongsLeavesNoRecoveryCopy) {
+TEST_F(BrevantDoc, ADocumentWithoutSongsLeavesNoRecoveryCopy) {
   document.OnNewDocument();
   EXPECT_TRUE(document.OnSaveDocument(u"D:\\Docs\\new.brv"));
   EXPECT_THAT(files.writes, IsEmpty());
 }
 
-TEST_F(BrevantDocTest, ASaveOnADiskThatHangsIsShownAsDoneWhenItIs) {
+TEST_F(BrevantDoc, ASaveOnADiskThatHangsIsShownAsDoneWhenItIs) {
   document.OnOpenDocument(kShow);
   record.setLists.groups[0].playlists[0].items.pop_back();
   document.SetModified();
@@ -115,7 +115,7 @@ TEST_F(BrevantDocTest, ASaveOnADiskThatHangsIsShownAsDoneWhenItIs) {
   EXPECT_EQ(view.rows.size(), 1u);
 }
 
-TEST_F(BrevantDocTest, AnotherDocumentIsCleanWhileTheFirstIsStillBeingSaved) {
+TEST_F(BrevantDoc, AnotherDocumentIsCleanWhileTheFirstIsStillBeingSaved) {
   document.OnOpenDocument(kShow);
   files.hangs = true;
   document.OnCommand(TCCommandId::FileSave);
@@ -124,7 +124,7 @@ TEST_F(BrevantDocTest, AnotherDocumentIsCleanWhileTheFirstIsStillBeingSaved) {
   files.Wake();
 }
 
-TEST_F(BrevantDocTest, OpeningTheOpenFileReadsItFromDiskAgain) {
+TEST_F(BrevantDoc, OpeningTheOpenFileReadsItFromDiskAgain) {
   document.OpenDocumentFile(kShow);
   files.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\c.mp3\" 01:00\r\n");
   document.OpenDocumentFile(kShow);
@@ -132,7 +132,7 @@ TEST_F(BrevantDocTest, OpeningTheOpenFileReadsItFromDiskAgain) {
   EXPECT_EQ(view.rows[0].texts.name, u"c.mp3");
 }
 
-TEST_F(BrevantDocTest, OnlyWhatIsOpenedThroughTheProgramOrSavedUnderANewNameIsARecentFile) {
+TEST_F(BrevantDoc, OnlyWhatIsOpenedThroughTheProgramOrSavedUnderANewNameIsARecentFile) {
   document.OnOpenDocument(kShow);  // as the last file is at a start
   document.OnCommand(TCCommandId::FileSave);
   EXPECT_THAT(rig.recent.paths, IsEmpty());
@@ -148,7 +148,7 @@ TEST_F(BrevantDocTest, OnlyWhatIsOpenedThroughTheProgramOrSavedUnderANewNameIsAR
   EXPECT_THAT(rig.recent.paths, ElementsAre(kShow, u"D:\\Docs\\copy.brv"));
 }
 
-TEST_F(BrevantDocTest, TheOpenFileIsNotReadAgainWhileItsUnsavedChangesAreHeldOnTo) {
+TEST_F(BrevantDoc, TheOpenFileIsNotReadAgainWhileItsUnsavedChangesAreHeldOnTo) {
   document.OpenDocumentFile(kShow);
   document.SetModified();
   files.PutUtf16(kShow, u"\"Sets\" \"One\" \"C:\\c.mp3\" 01:00\r\n");
@@ -158,7 +158,7 @@ TEST_F(BrevantDocTest, TheOpenFileIsNotReadAgainWhileItsUnsavedChangesAreHeldOnT
   EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(BrevantDocTest, UnsavedChangesAreAskedForBeforeTheyWouldBeLost) {
+TEST_F(BrevantDoc, UnsavedChangesAreAskedForBeforeTheyWouldBeLost) {
   document.OnOpenDocument(kShow);
   document.SetModified();
   prompts.saveAnswers = {TCSaveAnswer::Cancel};
@@ -170,7 +170,7 @@ TEST_F(BrevantDocTest, UnsavedChangesAreAskedForBeforeTheyWouldBeLost) {
   EXPECT_EQ(document.GetPathName(), u"");
 }
 
-TEST_F(BrevantDocTest, SavingFromTheQuestionWritesTheFileFirst) {
+TEST_F(BrevantDoc, SavingFromTheQuestionWritesTheFileFirst) {
   document.OnOpenDocument(kShow);
   record.setLists.groups[0].playlists[0].items.pop_back();
   document.SetModified();
@@ -180,14 +180,14 @@ TEST_F(BrevantDocTest, SavingFromTheQuestionWritesTheFileFirst) {
   EXPECT_EQ(view.rows.size(), 1u);
 }
 
-TEST_F(BrevantDocTest, AnUnchangedDocumentIsNeverAskedAbout) {
+TEST_F(BrevantDoc, AnUnchangedDocumentIsNeverAskedAbout) {
   document.OnOpenDocument(kShow);
   EXPECT_TRUE(document.SaveModified());
   document.OnCommand(TCCommandId::FileNew);
   EXPECT_EQ(document.GetPathName(), u"");
 }
 
-TEST_F(BrevantDocTest, SaveOfANewDocumentAsksForItsName) {
+TEST_F(BrevantDoc, SaveOfANewDocumentAsksForItsName) {
   document.OnOpenDocument(kShow);
   const auto groups = record.setLists.groups;
   document.OnNewDocument();
@@ -202,7 +202,7 @@ TEST_F(BrevantDocTest, SaveOfANewDocumentAsksForItsName) {
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\copy.brv"), files.BytesOf(kShow));
 }
 
-TEST_F(BrevantDocTest, SaveAsGoesOnUnderTheNewName) {
+TEST_F(BrevantDoc, SaveAsGoesOnUnderTheNewName) {
   document.OnOpenDocument(kShow);
   prompts.saveAsAnswers = {std::u16string(u"D:\\Docs\\copy.brv")};
   document.OnCommand(TCCommandId::FileSaveAs);
@@ -211,7 +211,7 @@ TEST_F(BrevantDocTest, SaveAsGoesOnUnderTheNewName) {
   EXPECT_EQ(record.setLists.documentFileName, u"copy.brv");
 }
 
-TEST_F(BrevantDocTest, ACancelledOpenChangesNothing) {
+TEST_F(BrevantDoc, ACancelledOpenChangesNothing) {
   document.OnOpenDocument(kShow);
   document.SetModified();
   prompts.openAnswers = {std::nullopt};
@@ -220,7 +220,7 @@ TEST_F(BrevantDocTest, ACancelledOpenChangesNothing) {
   EXPECT_TRUE(document.IsModified());
 }
 
-TEST_F(BrevantDocTest, OpeningAnotherDocumentLeavesTheSoundAloneButItsEndStartsNothing) {
+TEST_F(BrevantDoc, OpeningAnotherDocumentLeavesTheSoundAloneButItsEndStartsNothing) {
   record.settings.autoPlayPlayList = true;
   player.SetDefaultSong({.length = 5.0});
   document.OnOpenDocument(kShow);
@@ -236,7 +236,7 @@ TEST_F(BrevantDocTest, OpeningAnotherDocumentLeavesTheSoundAloneButItsEndStartsN
   EXPECT_EQ(record.setLists.currentSong, 0);
 }
 
-TEST_F(BrevantDocTest, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
+TEST_F(BrevantDoc, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
   struct Case {
     TCCommandId command;
     bool TCSettings::*option;
@@ -266,7 +266,7 @@ TEST_F(BrevantDocTest, EveryOptionCommandTurnsItsOptionAndItsCheckMark) {
   EXPECT_FALSE(document.IsModified());  // options are no part of the document
 }
 
-TEST_F(BrevantDocTest, TheHierarchicalFormatIsReadAndNeverWrittenWhateverTheOptionSays) {
+TEST_F(BrevantDoc, TheHierarchicalFormatIsReadAndNeverWrittenWhateverTheOptionSays) {
   files.PutUtf16(u"D:\\Docs\\Sets.brvgl", u"One.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\One.brvpl", u"C:\\a.mp3*02:00\r\n");
   TCMemoryFiles flat;
@@ -281,7 +281,7 @@ TEST_F(BrevantDocTest, TheHierarchicalFormatIsReadAndNeverWrittenWhateverTheOpti
   }
 }
 
-TEST_F(BrevantDocTest, WhiteOnBlackSwapsTheColoursAtOnce) {
+TEST_F(BrevantDoc, WhiteOnBlackSwapsTheColoursAtOnce) {
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::WhiteOnBlack);
   EXPECT_EQ(record.settings.backgroundColour, kWhite);
@@ -290,7 +290,7 @@ TEST_F(BrevantDocTest, WhiteOnBlackSwapsTheColoursAtOnce) {
   EXPECT_EQ(view.rows[0].colours.text, kBlack);
 }
 
-TEST_F(BrevantDocTest, TransportCommandsReachTheTransport) {
+TEST_F(BrevantDoc, TransportCommandsReachTheTransport) {
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::NextSong);
   EXPECT_EQ(record.setLists.currentSong, 1);
@@ -307,14 +307,14 @@ TEST_F(BrevantDocTest, TransportCommandsReachTheTransport) {
   EXPECT_EQ(record.setLists.currentPlaylist, 0);
 }
 
-TEST_F(BrevantDocTest, EnterPlaysTheCurrentSongNotTheRowThatIsSelected) {
+TEST_F(BrevantDoc, EnterPlaysTheCurrentSongNotTheRowThatIsSelected) {
   document.OnOpenDocument(kShow);
   view.SelectRow(1);
   document.OnCommand(TCCommandId::LoadSong);
   EXPECT_EQ(player.GetUrl(), u"C:\\a.mp3");
 }
 
-TEST_F(BrevantDocTest, ADoubleClickedRowBecomesCurrentAndPlays) {
+TEST_F(BrevantDoc, ADoubleClickedRowBecomesCurrentAndPlays) {
   document.OnOpenDocument(kShow);
   document.PickRow(1);
   EXPECT_EQ(record.setLists.currentSong, 1);
@@ -323,13 +323,13 @@ TEST_F(BrevantDocTest, ADoubleClickedRowBecomesCurrentAndPlays) {
   EXPECT_EQ(record.setLists.currentSong, 1);
 }
 
-TEST_F(BrevantDocTest, CancelSaysSoAndDropsTheMouseState) {
+TEST_F(BrevantDoc, CancelSaysSoAndDropsTheMouseState) {
   document.OnCommand(TCCommandId::Cancel);
   EXPECT_THAT(messages.lines, ElementsAre(u"Command canceled"));
   EXPECT_EQ(view.mouseResets, 1);
 }
 
-TEST_F(BrevantDocTest, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
+TEST_F(BrevantDoc, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
   player.SetDefaultSong({.length = 65.0, .opensAfter = 0.0});
   probe.defaultLength = 65;
   document.OnOpenDocument(kShow);
@@ -348,13 +348,13 @@ TEST_F(BrevantDocTest, CancelEndsATimeRunLeavesTheTimesAndTouchesNoSound) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(BrevantDocTest, ClearInformationEmptiesTheMessages) {
+TEST_F(BrevantDoc, ClearInformationEmptiesTheMessages) {
   messages.Append(u"old");
   document.OnCommand(TCCommandId::ClearInformation);
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
-TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) {
+TEST_F(BrevantDoc, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) {
   probe.defaultLength = 65;
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
@@ -368,7 +368,7 @@ TEST_F(BrevantDocTest, ATimeRunShowsHowFarItHasComeAndMarksTheDocumentModified) 
   EXPECT_EQ(view.rows[1].texts.time, u"01:05");
 }
 
-TEST_F(BrevantDocTest, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
+TEST_F(BrevantDoc, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
   document.OnOpenDocument(kShow);
   document.DropFiles({u"C:\\a.mp3"});
   document.OnCommand(TCCommandId::RefreshAllTimes);
@@ -377,7 +377,7 @@ TEST_F(BrevantDocTest, WhatAPlacingWaitsForStandsBeforeHowFarATimeRunHasCome) {
   EXPECT_EQ(frame.status, u"");
 }
 
-TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {
+TEST_F(BrevantDoc, OpeningAnotherDocumentEndsATimeRun) {
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshAllTimes);
   Poll(1);
@@ -386,7 +386,7 @@ TEST_F(BrevantDocTest, OpeningAnotherDocumentEndsATimeRun) {
   EXPECT_EQ(frame.status, u"");
 }
 
-TEST_F(BrevantDocTest, ARunOverThePlaylistLeavesTheOthersAlone) {
+TEST_F(BrevantDoc, ARunOverThePlaylistLeavesTheOthersAlone) {
   probe.defaultLength = 65;
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::RefreshPlaylistTimes);
@@ -395,7 +395,7 @@ TEST_F(BrevantDocTest, ARunOverThePlaylistLeavesTheOthersAlone) {
   EXPECT_EQ(record.setLists.groups[0].playlists[0].items[0].time, u"01:05");
 }
 
-TEST_F(BrevantDocTest, ANewLatencyMovesEveryTotal) {
+TEST_F(BrevantDoc, ANewLatencyMovesEveryTotal) {
   document.OnOpenDocument(kShow);
   prompts.texts = {u"0"};
   document.OnCommand(TCCommandId::SongLatency);
@@ -403,7 +403,7 @@ TEST_F(BrevantDocTest, ANewLatencyMovesEveryTotal) {
   EXPECT_FALSE(document.IsModified());
 }
 
-TEST_F(BrevantDocTest, ATypedOptionIsShownAtOnceAndACancelledPromptShowsNothing) {
+TEST_F(BrevantDoc, ATypedOptionIsShownAtOnceAndACancelledPromptShowsNothing) {
   prompts.texts = {u"44", std::nullopt};
   document.OnCommand(TCCommandId::PlaylistFontSize);
   EXPECT_EQ(frame.optionShows, 1);
@@ -412,7 +412,7 @@ TEST_F(BrevantDocTest, ATypedOptionIsShownAtOnceAndACancelledPromptShowsNothing)
   EXPECT_EQ(record.settings.playListFontSize, 44);
 }
 
-TEST_F(BrevantDocTest, ANewLyricFontSizeAndANewNumberOfLinesAreDrawnAtTheNextPoll) {
+TEST_F(BrevantDoc, ANewLyricFontSizeAndANewNumberOfLinesAreDrawnAtTheNextPoll) {
   files.Put(u"C:\\a.lrc", "[00:00.000]one\r\n[01:00.000]two\r\n[02:00.000]three\r\n");
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::Play);
@@ -439,7 +439,7 @@ TEST_F(BrevantDocTest, ANewLyricFontSizeAndANewNumberOfLinesAreDrawnAtTheNextPol
   EXPECT_EQ(messages.clears, 2) << "no other prompt draws them anew";
 }
 
-TEST_F(BrevantDocTest, VolumeKeysReachThePlayer) {
+TEST_F(BrevantDoc, VolumeKeysReachThePlayer) {
   player.SetVolume(50);
   document.OnCommand(TCCommandId::VolumeUp);
   document.OnCommand(TCCommandId::MediaVolumeUp);
@@ -449,7 +449,7 @@ TEST_F(BrevantDocTest, VolumeKeysReachThePlayer) {
   EXPECT_EQ(player.GetVolume(), 50);
 }
 
-TEST_F(BrevantDocTest, SeekAndRepeatKeysReachThePlayerAndTheTimeFields) {
+TEST_F(BrevantDoc, SeekAndRepeatKeysReachThePlayerAndTheTimeFields) {
   document.OnOpenDocument(kShow);
   document.OnCommand(TCCommandId::Play);
   player.Advance(10.0);
@@ -464,7 +464,7 @@ TEST_F(BrevantDocTest, SeekAndRepeatKeysReachThePlayerAndTheTimeFields) {
   EXPECT_EQ(static_cast<int>(player.GetPosition().value_or(0.0)), 9);
 }
 
-TEST_F(BrevantDocTest, WithoutAPlayerEveryKeyOfAPerformanceAndEveryPollRunsWithoutEffect) {
+TEST_F(BrevantDoc, WithoutAPlayerEveryKeyOfAPerformanceAndEveryPollRunsWithoutEffect) {
   TCDocumentRig silent(files, nullptr);
   TCBrevantDoc& mute = silent.document;
   mute.OnOpenDocument(kShow);
@@ -481,7 +481,7 @@ TEST_F(BrevantDocTest, WithoutAPlayerEveryKeyOfAPerformanceAndEveryPollRunsWitho
   EXPECT_THAT(silent.messages.lines, ElementsAre(u"...Brevant..."));
 }
 
-TEST_F(BrevantDocTest, ACommandOfSomebodyElseIsNotTaken) {
+TEST_F(BrevantDoc, ACommandOfSomebodyElseIsNotTaken) {
   EXPECT_FALSE(TCBrevantDoc::Handles(TCCommandId::About));
   EXPECT_FALSE(document.OnCommand(TCCommandId::About));
   EXPECT_FALSE(document.OnCommand(TCCommandId::None));

@@ -31,7 +31,7 @@ std::string BytesOf(const TextLines& lines) {
 }
 
 // With a disk that answers when the test wants it.
-class DocumentSaverTest : public testing::Test {
+class DocumentSaver : public testing::Test {
  protected:
   static constexpr std::u16string_view kShow = u"E:\\Show.brv";
   static constexpr std::u16string_view kRecovered = u"\\recovery\\Show.brv";
@@ -40,7 +40,7 @@ class DocumentSaverTest : public testing::Test {
   TCDocumentSaver saver{files, u"\\recovery\\"};
 };
 
-TEST_F(DocumentSaverTest, ADiskThatAnswersHasTheDocumentAtOnce) {
+TEST_F(DocumentSaver, ADiskThatAnswersHasTheDocumentAtOnce) {
   saver.Save(kShow, ASong(u"a.mp3"));
   EXPECT_EQ(files.BytesOf(kShow), BytesOf(ASong(u"a.mp3")));
   EXPECT_FALSE(saver.IsSaving(kShow));
@@ -48,7 +48,7 @@ TEST_F(DocumentSaverTest, ADiskThatAnswersHasTheDocumentAtOnce) {
   EXPECT_EQ(files.FileCount(), 1u);
 }
 
-TEST_F(DocumentSaverTest, WithoutASongNothingIsWritten) {
+TEST_F(DocumentSaver, WithoutASongNothingIsWritten) {
   files.Put(kShow, "as it was");
   saver.Save(kShow, {});
   saver.KeepRecoveryCopy(kShow, {});
@@ -56,7 +56,7 @@ TEST_F(DocumentSaverTest, WithoutASongNothingIsWritten) {
   EXPECT_EQ(files.FileCount(), 1u);
 }
 
-TEST_F(DocumentSaverTest, OnADiskThatHangsTheSaveGoesOnByItself) {
+TEST_F(DocumentSaver, OnADiskThatHangsTheSaveGoesOnByItself) {
   files.hangs = true;
   saver.Save(kShow, ASong(u"a.mp3"));
   EXPECT_TRUE(saver.IsSaving(u"e:\\SHOW.brv")) << "one file, whatever its case";
@@ -69,7 +69,7 @@ TEST_F(DocumentSaverTest, OnADiskThatHangsTheSaveGoesOnByItself) {
   EXPECT_FALSE(saver.DropEndedSaves()) << "told once";
 }
 
-TEST_F(DocumentSaverTest, WhatFailsGoesToTheRecoveryFolderHoweverLate) {
+TEST_F(DocumentSaver, WhatFailsGoesToTheRecoveryFolderHoweverLate) {
   files.MakeUnwritable(kShow);
   saver.Save(kShow, ASong(u"a.mp3"));
   EXPECT_EQ(files.BytesOf(kRecovered), BytesOf(ASong(u"a.mp3")));
@@ -80,7 +80,7 @@ TEST_F(DocumentSaverTest, WhatFailsGoesToTheRecoveryFolderHoweverLate) {
   EXPECT_EQ(files.BytesOf(u"\\recovery\\Show (2).brv"), BytesOf(ASong(u"b.mp3")));
 }
 
-TEST_F(DocumentSaverTest, AtTheEndOfTheProgramWhatIsOnTheDiskIsNotCopied) {
+TEST_F(DocumentSaver, AtTheEndOfTheProgramWhatIsOnTheDiskIsNotCopied) {
   files.hangs = true;
   saver.Save(kShow, ASong(u"a.mp3"));
   files.Wake();
@@ -88,14 +88,14 @@ TEST_F(DocumentSaverTest, AtTheEndOfTheProgramWhatIsOnTheDiskIsNotCopied) {
   EXPECT_EQ(files.FileCount(), 1u);
 }
 
-TEST_F(DocumentSaverTest, WhatFailsOnBothDisksHoldsNobodyUp) {
+TEST_F(DocumentSaver, WhatFailsOnBothDisksHoldsNobodyUp) {
   files.failWrites = true;
   saver.Save(kShow, ASong(u"a.mp3"));
   saver.Finish();
   EXPECT_EQ(files.FileCount(), 0u);
 }
 
-TEST_F(DocumentSaverTest, AFileThatCouldNotBeReadIsKeptByTheFirstSaveThatComesThrough) {
+TEST_F(DocumentSaver, AFileThatCouldNotBeReadIsKeptByTheFirstSaveThatComesThrough) {
   const std::string old = BytesOf(ASong(u"old.mp3"));
   files.Put(kShow, old);
   saver.SetUnreadFile(kShow);
@@ -109,7 +109,7 @@ TEST_F(DocumentSaverTest, AFileThatCouldNotBeReadIsKeptByTheFirstSaveThatComesTh
   EXPECT_EQ(files.BytesOf(kShow), BytesOf(ASong(u"c.mp3")));
 }
 
-TEST_F(DocumentSaverTest, AFileThatWasReadIsReplaced) {
+TEST_F(DocumentSaver, AFileThatWasReadIsReplaced) {
   files.Put(kShow, BytesOf(ASong(u"old.mp3")));
   saver.SetUnreadFile(kShow);
   saver.SetUnreadFile({});

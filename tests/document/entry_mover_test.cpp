@@ -10,9 +10,9 @@ namespace {
 
 using testing::ElementsAre;
 
-class EntryMoverTest : public testing::Test {
+class EntryMover : public testing::Test {
  protected:
-  EntryMoverTest() {
+  EntryMover() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3", u"b.mp3", u"c.mp3"}}, {u"Two", {u"d.mp3"}}});
     rig.AddGroup(u"Club", {{u"Late", {u"e.mp3"}}});
     rig.Show();
@@ -32,7 +32,7 @@ class EntryMoverTest : public testing::Test {
   TCEntryMover& mover = rig.mover;
 };
 
-TEST_F(EntryMoverTest, ASongMovesToItsTargetsPlaceAndStaysSelected) {
+TEST_F(EntryMover, ASongMovesToItsTargetsPlaceAndStaysSelected) {
   Move(u"a.mp3", u"c.mp3");
   EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
   EXPECT_EQ(Lines()[4], u"    a.mp3");
@@ -41,21 +41,21 @@ TEST_F(EntryMoverTest, ASongMovesToItsTargetsPlaceAndStaysSelected) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(EntryMoverTest, ADraggedRowIsSelectedWhereItWasDropped) {
+TEST_F(EntryMover, ADraggedRowIsSelectedWhereItWasDropped) {
   rig.view.selected = {2};
   mover.MoveRow(0, 2);
   EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
   EXPECT_THAT(rig.view.selected, ElementsAre(2));
 }
 
-TEST_F(EntryMoverTest, AWalkThatWouldLeaveTheListStaysWithWhatItWalkedAlong) {
+TEST_F(EntryMover, AWalkThatWouldLeaveTheListStaysWithWhatItWalkedAlong) {
   rig.Select(u"Two");  // the key has moved the selection from the song above already
   Move(u"c.mp3", u"Two");
   EXPECT_EQ(rig.tree.SelectedText(), u"c.mp3");
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(EntryMoverTest, ASongMovesIntoAPlaylistOfAnotherGroup) {
+TEST_F(EntryMover, ASongMovesIntoAPlaylistOfAnotherGroup) {
   Move(u"b.mp3", u"e.mp3");
   EXPECT_THAT(Lines(), ElementsAre(u"Sets", u"  One", u"    a.mp3", u"    c.mp3", u"  Two", u"    d.mp3",
                                    u"Club", u"  Late", u"    b.mp3", u"    e.mp3"));
@@ -64,12 +64,12 @@ TEST_F(EntryMoverTest, ASongMovesIntoAPlaylistOfAnotherGroup) {
   EXPECT_EQ(rig.view.header, u"One - Total Playlist Time: 02:15");
 }
 
-TEST_F(EntryMoverTest, ASongThatComesFromElsewhereShowsInTheCurrentPlaylist) {
+TEST_F(EntryMover, ASongThatComesFromElsewhereShowsInTheCurrentPlaylist) {
   Move(u"e.mp3", u"a.mp3");
   EXPECT_THAT(rig.Rows(), ElementsAre(u"e.mp3", u"a.mp3", u"b.mp3", u"c.mp3"));
 }
 
-TEST_F(EntryMoverTest, WhileAnEmptyPlaylistIsCurrentTheRowsOnTheScreenFollowTheirOwn) {
+TEST_F(EntryMover, WhileAnEmptyPlaylistIsCurrentTheRowsOnTheScreenFollowTheirOwn) {
   rig.store.groups[0].playlists[1].items.clear();
   rig.store.currentPlaylist = 1;
   rig.Show();
@@ -78,7 +78,7 @@ TEST_F(EntryMoverTest, WhileAnEmptyPlaylistIsCurrentTheRowsOnTheScreenFollowThei
   EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"c.mp3", u"a.mp3"));
 }
 
-TEST_F(EntryMoverTest, APlaylistMovesAcrossGroupsAndStaysOnTheScreen) {
+TEST_F(EntryMover, APlaylistMovesAcrossGroupsAndStaysOnTheScreen) {
   Move(u"One", u"Late");
   EXPECT_THAT(Lines(), ElementsAre(u"Sets", u"  Two", u"    d.mp3", u"Club", u"  One", u"    a.mp3",
                                    u"    b.mp3", u"    c.mp3", u"  Late", u"    e.mp3"));
@@ -89,7 +89,7 @@ TEST_F(EntryMoverTest, APlaylistMovesAcrossGroupsAndStaysOnTheScreen) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(EntryMoverTest, AGroupThatMovesIsFollowedOnlyWhenItIsTheCurrentOne) {
+TEST_F(EntryMover, AGroupThatMovesIsFollowedOnlyWhenItIsTheCurrentOne) {
   Move(u"Sets", u"Club");
   EXPECT_EQ(Lines()[0], u"Club");
   EXPECT_EQ(rig.store.currentGroup, 1);
@@ -101,7 +101,7 @@ TEST_F(EntryMoverTest, AGroupThatMovesIsFollowedOnlyWhenItIsTheCurrentOne) {
   EXPECT_EQ(rig.modified, 2);
 }
 
-TEST_F(EntryMoverTest, OnlyEntriesOfOneKindChangePlaces) {
+TEST_F(EntryMover, OnlyEntriesOfOneKindChangePlaces) {
   Move(u"One", u"a.mp3");
   Move(u"a.mp3", u"Two");
   Move(u"One", u"Club");
@@ -110,7 +110,7 @@ TEST_F(EntryMoverTest, OnlyEntriesOfOneKindChangePlaces) {
   EXPECT_EQ(Lines().size(), 10u);
 }
 
-TEST_F(EntryMoverTest, AnEntryMovedOntoItselfOrOntoNothingStays) {
+TEST_F(EntryMover, AnEntryMovedOntoItselfOrOntoNothingStays) {
   Move(u"a.mp3", u"a.mp3");
   Move(u"Sets", u"Sets");
   Move(u"a.mp3", u"no such node");
@@ -118,7 +118,7 @@ TEST_F(EntryMoverTest, AnEntryMovedOntoItselfOrOntoNothingStays) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(EntryMoverTest, DisableEditingStopsEveryMove) {
+TEST_F(EntryMover, DisableEditingStopsEveryMove) {
   rig.record.settings.disableEditing = 1;
   Move(u"a.mp3", u"c.mp3");
   Move(u"One", u"Late");
@@ -128,7 +128,7 @@ TEST_F(EntryMoverTest, DisableEditingStopsEveryMove) {
   EXPECT_EQ(Lines()[2], u"    a.mp3");
 }
 
-TEST_F(EntryMoverTest, TheSelectedRowsSongMovesUpAndDownWithItsSelection) {
+TEST_F(EntryMover, TheSelectedRowsSongMovesUpAndDownWithItsSelection) {
   rig.view.selected = {1};
   mover.MoveSongUp();
   EXPECT_THAT(rig.Rows(), ElementsAre(u"b.mp3", u"a.mp3", u"c.mp3"));
@@ -139,7 +139,7 @@ TEST_F(EntryMoverTest, TheSelectedRowsSongMovesUpAndDownWithItsSelection) {
   EXPECT_THAT(rig.view.selected, ElementsAre(2));
 }
 
-TEST_F(EntryMoverTest, TheFirstRowMovesNotUpAndTheLastNotDown) {
+TEST_F(EntryMover, TheFirstRowMovesNotUpAndTheLastNotDown) {
   rig.view.selected = {0};
   mover.MoveSongUp();
   EXPECT_THAT(rig.view.selected, ElementsAre(0));
@@ -149,7 +149,7 @@ TEST_F(EntryMoverTest, TheFirstRowMovesNotUpAndTheLastNotDown) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(EntryMoverTest, WithoutASelectedRowUpDoesNothingAndDownSelectsTheFirst) {
+TEST_F(EntryMover, WithoutASelectedRowUpDoesNothingAndDownSelectsTheFirst) {
   mover.MoveSongUp();
   EXPECT_EQ(rig.view.SelectedRow(), -1);
   mover.MoveSongDown();
@@ -157,7 +157,7 @@ TEST_F(EntryMoverTest, WithoutASelectedRowUpDoesNothingAndDownSelectsTheFirst) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(EntryMoverTest, WithDisableEditingTheSelectionStillMoves) {
+TEST_F(EntryMover, WithDisableEditingTheSelectionStillMoves) {
   rig.record.settings.disableEditing = 1;
   rig.view.selected = {1};
   mover.MoveSongUp();
@@ -168,7 +168,7 @@ TEST_F(EntryMoverTest, WithDisableEditingTheSelectionStillMoves) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3"));
 }
 
-TEST_F(EntryMoverTest, OnTheRowsOfAnEmptiedPlaylistOnlyTheSelectionMovesAndOnlyUp) {
+TEST_F(EntryMover, OnTheRowsOfAnEmptiedPlaylistOnlyTheSelectionMovesAndOnlyUp) {
   rig.view.selected = {0, 1, 2};
   rig.editor.RemoveSelectedRows();
   ASSERT_EQ(rig.view.rows.size(), 3u);
@@ -182,7 +182,7 @@ TEST_F(EntryMoverTest, OnTheRowsOfAnEmptiedPlaylistOnlyTheSelectionMovesAndOnlyU
   EXPECT_EQ(Lines().size(), 7u);
 }
 
-TEST_F(EntryMoverTest, TheCurrentSongsRowIsSelectedToBeMoved) {
+TEST_F(EntryMover, TheCurrentSongsRowIsSelectedToBeMoved) {
   rig.store.currentSong = 2;
   rig.presenter.HighlightCurrentSong();
   rig.view.scrolledTo = -1;  // the user looked elsewhere since
@@ -191,7 +191,7 @@ TEST_F(EntryMoverTest, TheCurrentSongsRowIsSelectedToBeMoved) {
   EXPECT_EQ(rig.view.scrolledTo, 2);
 }
 
-TEST_F(EntryMoverTest, TheSongToMoveIsTheOneThatWasCurrentWhenTheRowsWereColouredLast) {
+TEST_F(EntryMover, TheSongToMoveIsTheOneThatWasCurrentWhenTheRowsWereColouredLast) {
   rig.store.currentSong = 1;
   rig.presenter.HighlightCurrentSong();
   rig.store.currentSong = 2;
@@ -199,14 +199,14 @@ TEST_F(EntryMoverTest, TheSongToMoveIsTheOneThatWasCurrentWhenTheRowsWereColoure
   EXPECT_THAT(rig.view.selected, ElementsAre(1));
 }
 
-TEST_F(EntryMoverTest, DisableEditingStopsNoDuplicate) {
+TEST_F(EntryMover, DisableEditingStopsNoDuplicate) {
   rig.record.settings.disableEditing = 1;
   rig.Select(u"d.mp3");
   mover.Duplicate();
   EXPECT_EQ(rig.store.groups[0].playlists[1].items.size(), 2u);
 }
 
-TEST_F(EntryMoverTest, ADuplicatedSongStandsAtTheEndOfItsPlaylist) {
+TEST_F(EntryMover, ADuplicatedSongStandsAtTheEndOfItsPlaylist) {
   TCPlayListItem& song = rig.store.groups[0].playlists[0].items[0];
   song.option1 = TCSharedText(u"7");
   rig.Select(u"a.mp3");
@@ -221,7 +221,7 @@ TEST_F(EntryMoverTest, ADuplicatedSongStandsAtTheEndOfItsPlaylist) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(EntryMoverTest, ADuplicatedPlaylistOrGroupStandsRightBehindWithAllUnderIt) {
+TEST_F(EntryMover, ADuplicatedPlaylistOrGroupStandsRightBehindWithAllUnderIt) {
   rig.Select(u"One");
   mover.Duplicate();
   EXPECT_THAT(Lines(), ElementsAre(u"Sets", u"  One", u"    a.mp3", u"    b.mp3", u"    c.mp3", u"  One",
@@ -235,12 +235,12 @@ TEST_F(EntryMoverTest, ADuplicatedPlaylistOrGroupStandsRightBehindWithAllUnderIt
   EXPECT_EQ(rig.modified, 2);
 }
 
-TEST_F(EntryMoverTest, NothingSelectedDuplicatesNothing) {
+TEST_F(EntryMover, NothingSelectedDuplicatesNothing) {
   mover.Duplicate();
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(EntryMoverTest, DraggedRowsAreCopiedToTheEndOfTheTargetInTheirOrder) {
+TEST_F(EntryMover, DraggedRowsAreCopiedToTheEndOfTheTargetInTheirOrder) {
   rig.view.selected = {0, 2};
   rig.Select(u"e.mp3");  // a song stands for its playlist
   mover.CopySelectedRowsToNode();
@@ -252,14 +252,14 @@ TEST_F(EntryMoverTest, DraggedRowsAreCopiedToTheEndOfTheTargetInTheirOrder) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(EntryMoverTest, RowsDraggedIntoTheirOwnPlaylistShowThere) {
+TEST_F(EntryMover, RowsDraggedIntoTheirOwnPlaylistShowThere) {
   rig.view.selected = {1};
   rig.Select(u"One");
   mover.CopySelectedRowsToNode();
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3", u"b.mp3"));
 }
 
-TEST_F(EntryMoverTest, NoRowNoPlaylistOrDisableEditingCopiesNothing) {
+TEST_F(EntryMover, NoRowNoPlaylistOrDisableEditingCopiesNothing) {
   rig.Select(u"Late");
   mover.CopySelectedRowsToNode();
   rig.view.selected = {0};

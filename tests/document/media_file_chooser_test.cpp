@@ -10,14 +10,14 @@ namespace {
 
 using testing::ElementsAre;
 
-class MediaFileChooserTest : public testing::Test {
+class MediaFileChooser : public testing::Test {
  protected:
   TCAppRecord record;
   TCFakePrompts prompts;
   TCMediaFileChooser chooser{record, prompts};
 };
 
-TEST_F(MediaFileChooserTest, SeveralSongsAreQuotedWithBlanksBetweenAndTheFirstIsRemembered) {
+TEST_F(MediaFileChooser, SeveralSongsAreQuotedWithBlanksBetweenAndTheFirstIsRemembered) {
   prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"C:\\My Music\\a.Wav", u"C:\\b.mp3"}};
   EXPECT_EQ(chooser.ChooseSongs(), u"\"C:\\My Music\\a.Wav\" \"C:\\b.mp3\"");
   EXPECT_EQ(record.settings.lastMediaFileName, u"C:\\My Music\\a.Wav");
@@ -25,7 +25,7 @@ TEST_F(MediaFileChooserTest, SeveralSongsAreQuotedWithBlanksBetweenAndTheFirstIs
   EXPECT_EQ(prompts.lastMediaQuestion.count, TCChooseFiles::Several);
 }
 
-TEST_F(MediaFileChooserTest, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) {
+TEST_F(MediaFileChooser, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) {
   record.setLists.validMediaExtensions = u"MP3 \"wav\"";
   record.settings.lastMediaFileName = u"C:\\a.mp3";
   record.settings.lastMediaFileExtSpec = u"mp3";
@@ -37,14 +37,14 @@ TEST_F(MediaFileChooserTest, TheChooserBeginsWithTheLastFileAndTheAllowedTypes) 
   EXPECT_EQ(prompts.lastMediaQuestion.defaultType, u"mp3");
 }
 
-TEST_F(MediaFileChooserTest, BeforeTheFirstChoiceTheDefaultTypeIsThatOfTheFileSpec) {
+TEST_F(MediaFileChooser, BeforeTheFirstChoiceTheDefaultTypeIsThatOfTheFileSpec) {
   record.settings.lastMediaFileExtSpec = u"*.mp3";
   prompts.mediaAnswers = {std::nullopt};
   EXPECT_EQ(chooser.ChooseSongs(), u"");
   EXPECT_EQ(prompts.lastMediaQuestion.defaultType, u"mp3");
 }
 
-TEST_F(MediaFileChooserTest, CancellingForgetsTheLastFileSoThatTheNextChooserHasNone) {
+TEST_F(MediaFileChooser, CancellingForgetsTheLastFileSoThatTheNextChooserHasNone) {
   record.settings.lastMediaFileName = u"C:\\a.mp3";
   record.settings.lastMediaFileExtSpec = u"mp3";
   prompts.mediaAnswers = {std::nullopt, std::nullopt};
@@ -56,7 +56,7 @@ TEST_F(MediaFileChooserTest, CancellingForgetsTheLastFileSoThatTheNextChooserHas
   EXPECT_EQ(record.settings.lastMediaFileName, u"");
 }
 
-TEST_F(MediaFileChooserTest, AChoiceOfWhichNothingCanBeUsedKeepsTheLastFile) {
+TEST_F(MediaFileChooser, AChoiceOfWhichNothingCanBeUsedKeepsTheLastFile) {
   record.settings.lastMediaFileName = u"C:\\a.mp3";
   record.settings.lastMediaFileExtSpec = u"mp3";
   prompts.mediaAnswers = {TCFakePrompts::TCPaths(), TCFakePrompts::TCPaths()};
@@ -66,7 +66,7 @@ TEST_F(MediaFileChooserTest, AChoiceOfWhichNothingCanBeUsedKeepsTheLastFile) {
   EXPECT_EQ(record.settings.lastMediaFileExtSpec, u"mp3");
 }
 
-TEST_F(MediaFileChooserTest, OfOneSongOnlyTheTypeIsRemembered) {
+TEST_F(MediaFileChooser, OfOneSongOnlyTheTypeIsRemembered) {
   prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"D:\\Backup\\a.mid"}};
   EXPECT_EQ(chooser.ChooseSong(), u"D:\\Backup\\a.mid");
   EXPECT_EQ(prompts.lastMediaQuestion.count, TCChooseFiles::One);

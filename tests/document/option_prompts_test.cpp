@@ -7,7 +7,7 @@
 namespace brevant {
 namespace {
 
-class OptionPromptsTest : public testing::Test {
+class OptionPrompts : public testing::Test {
  protected:
   bool Ask(TCCommandId command, std::optional<std::u16string> answer) {
     prompts.texts = {std::move(answer)};
@@ -18,7 +18,7 @@ class OptionPromptsTest : public testing::Test {
   TCFakePrompts prompts;
 };
 
-TEST_F(OptionPromptsTest, EachPromptShowsItsWordsAndTheValueAsItStands) {
+TEST_F(OptionPrompts, EachPromptShowsItsWordsAndTheValueAsItStands) {
   struct Case {
     TCCommandId command;
     TCTextPromptMode mode;
@@ -56,7 +56,7 @@ TEST_F(OptionPromptsTest, EachPromptShowsItsWordsAndTheValueAsItStands) {
   }
 }
 
-TEST_F(OptionPromptsTest, ANumberIsTakenWithWhiteSpaceRoundItAndWithoutARange) {
+TEST_F(OptionPrompts, ANumberIsTakenWithWhiteSpaceRoundItAndWithoutARange) {
   EXPECT_TRUE(Ask(TCCommandId::PlaylistFontSize, u"  40\t"));
   EXPECT_EQ(record.settings.playListFontSize, 40);
   EXPECT_TRUE(Ask(TCCommandId::PlaylistFontSize, u"-5"));
@@ -73,21 +73,21 @@ TEST_F(OptionPromptsTest, ANumberIsTakenWithWhiteSpaceRoundItAndWithoutARange) {
   EXPECT_EQ(record.settings.numberLyricLines, 4);
 }
 
-TEST_F(OptionPromptsTest, WhatIsNoNumberLeavesTheValue) {
+TEST_F(OptionPrompts, WhatIsNoNumberLeavesTheValue) {
   for (const std::u16string_view answer : {u"abc", u"", u"   ", u"99999999999", u"-"}) {
     EXPECT_FALSE(Ask(TCCommandId::PlaylistFontSize, std::u16string(answer)));
     EXPECT_EQ(record.settings.playListFontSize, 14);
   }
 }
 
-TEST_F(OptionPromptsTest, TheMediaTypesAreTakenTrimmedUnlessEmpty) {
+TEST_F(OptionPrompts, TheMediaTypesAreTakenTrimmedUnlessEmpty) {
   EXPECT_FALSE(Ask(TCCommandId::MediaFileTypes, u"   "));
   EXPECT_EQ(record.setLists.validMediaExtensions, u"mid mp3 wav wma");
   EXPECT_TRUE(Ask(TCCommandId::MediaFileTypes, u"  MP3 Wav "));
   EXPECT_EQ(record.setLists.validMediaExtensions, u"MP3 Wav");
 }
 
-TEST_F(OptionPromptsTest, OtherCommandsAskNothing) {
+TEST_F(OptionPrompts, OtherCommandsAskNothing) {
   EXPECT_FALSE(IsOptionPrompt(TCCommandId::Play));
   EXPECT_FALSE(AskForOption(TCCommandId::Play, record, prompts));
 }

@@ -11,9 +11,9 @@
 namespace brevant {
 namespace {
 
-class PlaylistPresenterTest : public testing::Test {
+class PlaylistPresenter : public testing::Test {
  protected:
-  PlaylistPresenterTest() {
+  PlaylistPresenter() {
     TCPlayGroups& group = store.groups.emplace_back();
     group.name = u"Sets";
     group.playlists.resize(3);
@@ -46,7 +46,7 @@ class PlaylistPresenterTest : public testing::Test {
   TCPlaylistPresenter presenter{record, view, tree};
 };
 
-TEST_F(PlaylistPresenterTest, APlaylistIsShownWithItsRowsAndItsTotal) {
+TEST_F(PlaylistPresenter, APlaylistIsShownWithItsRowsAndItsTotal) {
   presenter.ShowPlaylist(0, 0);
   ASSERT_EQ(view.rows.size(), 3u);
   EXPECT_EQ(view.rows[1].texts.number, u"2");
@@ -62,7 +62,7 @@ TEST_F(PlaylistPresenterTest, APlaylistIsShownWithItsRowsAndItsTotal) {
   EXPECT_EQ(presenter.RowToMove(), 0);
 }
 
-TEST_F(PlaylistPresenterTest, ASongWithLyricLinesSaysSoBehindItsStatus) {
+TEST_F(PlaylistPresenter, ASongWithLyricLinesSaysSoBehindItsStatus) {
   store.groups[0].playlists[0].items[0].lyrics = LyricsOf({{u"Sing", 0, kEndOfLyrics, 0}});
   TCLyricHeaders titleAlone;
   titleAlone.title = u"Song";
@@ -72,7 +72,7 @@ TEST_F(PlaylistPresenterTest, ASongWithLyricLinesSaysSoBehindItsStatus) {
   EXPECT_EQ(view.rows[1].texts.status, u"Found");
 }
 
-TEST_F(PlaylistPresenterTest, AnEmptyPlaylistLeavesThePreviousRowsOnTheScreen) {
+TEST_F(PlaylistPresenter, AnEmptyPlaylistLeavesThePreviousRowsOnTheScreen) {
   presenter.ShowPlaylist(0, 0);
   store.currentPlaylist = 2;
   presenter.ShowPlaylist(0, 2);
@@ -81,7 +81,7 @@ TEST_F(PlaylistPresenterTest, AnEmptyPlaylistLeavesThePreviousRowsOnTheScreen) {
   EXPECT_EQ(store.lastPlayListName, u"Opener");
 }
 
-TEST_F(PlaylistPresenterTest, IndicesOutsideTheModelShowNothing) {
+TEST_F(PlaylistPresenter, IndicesOutsideTheModelShowNothing) {
   for (const std::int32_t wrong : {-1, 3, 99}) {
     presenter.ShowPlaylist(wrong, 0);
     presenter.ShowPlaylist(0, wrong);
@@ -89,7 +89,7 @@ TEST_F(PlaylistPresenterTest, IndicesOutsideTheModelShowNothing) {
   EXPECT_EQ(view.shows, 0);
 }
 
-TEST_F(PlaylistPresenterTest, ShowingThePlaylistThatStandsThereKeepsItsPlace) {
+TEST_F(PlaylistPresenter, ShowingThePlaylistThatStandsThereKeepsItsPlace) {
   presenter.ShowPlaylist(0, 0);
   EXPECT_EQ(view.lastMode, TCShowRows::Afresh);
   presenter.ShowPlaylist(0, 0);
@@ -101,13 +101,13 @@ TEST_F(PlaylistPresenterTest, ShowingThePlaylistThatStandsThereKeepsItsPlace) {
   EXPECT_EQ(view.lastMode, TCShowRows::Afresh);
 }
 
-TEST_F(PlaylistPresenterTest, AnOnlySongIsGreenAndNothingElse) {
+TEST_F(PlaylistPresenter, AnOnlySongIsGreenAndNothingElse) {
   store.currentPlaylist = 1;
   presenter.ShowPlaylist(0, 1);
   EXPECT_EQ(TextColours(), (std::vector<TCRgb>{kCurrentColour}));
 }
 
-TEST_F(PlaylistPresenterTest, TheLastSongIsGreenBehindARedOne) {
+TEST_F(PlaylistPresenter, TheLastSongIsGreenBehindARedOne) {
   presenter.ShowPlaylist(0, 0);
   store.currentSong = 2;
   presenter.HighlightCurrentSong();
@@ -116,13 +116,13 @@ TEST_F(PlaylistPresenterTest, TheLastSongIsGreenBehindARedOne) {
   EXPECT_EQ(presenter.RowToMove(), 2);
 }
 
-TEST_F(PlaylistPresenterTest, WithoutDynamicColoursEveryRowHasTheTextColour) {
+TEST_F(PlaylistPresenter, WithoutDynamicColoursEveryRowHasTheTextColour) {
   record.settings.dynamicPlayColours = false;
   presenter.ShowPlaylist(0, 0);
   EXPECT_EQ(TextColours(), (std::vector<TCRgb>{kWhite, kWhite, kWhite}));
 }
 
-TEST_F(PlaylistPresenterTest, ASongThatNamesNothingRecoloursNothing) {
+TEST_F(PlaylistPresenter, ASongThatNamesNothingRecoloursNothing) {
   presenter.ShowPlaylist(0, 0);
   const std::vector<TCRgb> before = TextColours();
   store.currentSong = 3;
@@ -132,7 +132,7 @@ TEST_F(PlaylistPresenterTest, ASongThatNamesNothingRecoloursNothing) {
   EXPECT_EQ(view.scrolledTo, -1);
 }
 
-TEST_F(PlaylistPresenterTest, AnOptionRecoloursAlsoWhenNoSongIsCurrent) {
+TEST_F(PlaylistPresenter, AnOptionRecoloursAlsoWhenNoSongIsCurrent) {
   presenter.ShowPlaylist(0, 0);
   store.currentSong = 99;
   record.settings.SetWhiteOnBlack(false);
@@ -141,7 +141,7 @@ TEST_F(PlaylistPresenterTest, AnOptionRecoloursAlsoWhenNoSongIsCurrent) {
   EXPECT_EQ(view.rows[2].colours.text, kBlack);
 }
 
-TEST_F(PlaylistPresenterTest, AnOptionRecoloursTheRowsThatAnEmptyPlaylistLeft) {
+TEST_F(PlaylistPresenter, AnOptionRecoloursTheRowsThatAnEmptyPlaylistLeft) {
   presenter.ShowPlaylist(0, 0);
   store.currentPlaylist = 2;
   presenter.ShowPlaylist(0, 2);
@@ -151,7 +151,7 @@ TEST_F(PlaylistPresenterTest, AnOptionRecoloursTheRowsThatAnEmptyPlaylistLeft) {
   EXPECT_EQ(view.rows[2].colours.text, kBlack);
 }
 
-TEST_F(PlaylistPresenterTest, AClearedViewNamesNoPlaylist) {
+TEST_F(PlaylistPresenter, AClearedViewNamesNoPlaylist) {
   presenter.ShowPlaylist(0, 0);
   presenter.Clear();
   EXPECT_TRUE(view.rows.empty());
@@ -159,7 +159,7 @@ TEST_F(PlaylistPresenterTest, AClearedViewNamesNoPlaylist) {
   EXPECT_EQ(presenter.RowToMove(), -1);
 }
 
-TEST_F(PlaylistPresenterTest, ARowIsRewrittenInAllItsTextsAndKeepsItsColour) {
+TEST_F(PlaylistPresenter, ARowIsRewrittenInAllItsTextsAndKeepsItsColour) {
   presenter.ShowPlaylist(0, 0);
   TCPlayListItem song = store.groups[0].playlists[0].items[1];
   song.SetPath(u"C:\\other.wav");
@@ -173,7 +173,7 @@ TEST_F(PlaylistPresenterTest, ARowIsRewrittenInAllItsTextsAndKeepsItsColour) {
   EXPECT_EQ(TextColours(), (std::vector<TCRgb>{kCurrentColour, kNextColour, kWhite}));
 }
 
-TEST_F(PlaylistPresenterTest, AnEmptySongTimeIsIgnored) {
+TEST_F(PlaylistPresenter, AnEmptySongTimeIsIgnored) {
   presenter.ShowPlaylist(0, 0);
   presenter.SetSongTime(1, u"");
   EXPECT_EQ(view.rows[1].texts.time, u"01:00");
@@ -181,7 +181,7 @@ TEST_F(PlaylistPresenterTest, AnEmptySongTimeIsIgnored) {
   EXPECT_EQ(view.rows[1].texts.time, u"02:02");
 }
 
-TEST_F(PlaylistPresenterTest, ATotalThatChangedShowsInTheHeader) {
+TEST_F(PlaylistPresenter, ATotalThatChangedShowsInTheHeader) {
   presenter.ShowPlaylist(0, 0);
   store.groups[0].playlists[0].totalTime = u"09:09";
   presenter.RefreshPlaylistTotal();

@@ -20,9 +20,9 @@
 namespace brevant {
 namespace {
 
-class RandomEditsTest : public testing::TestWithParam<std::uint32_t> {
+class RandomEdits : public testing::TestWithParam<std::uint32_t> {
  protected:
-  RandomEditsTest() {
+  RandomEdits() {
     for (const std::u16string_view path : {u"C:\\a.mp3", u"C:\\b c.wav", u"\\home\\me\\d.mid"})
       files.Put(path);
     files.Put(u"C:\\a.lrc", "[00:01.0]Hello");
@@ -105,7 +105,7 @@ class RandomEditsTest : public testing::TestWithParam<std::uint32_t> {
                      [this] { return view.selected; }}};
 };
 
-TEST_P(RandomEditsTest, TreeAndRowsAgreeWithTheSetListsAfterEveryCommand) {
+TEST_P(RandomEdits, TreeAndRowsAgreeWithTheSetListsAfterEveryCommand) {
   constexpr int kCommands = 10'000;
   std::cout << "seed " << GetParam() << ", " << kCommands << " commands\n";
   for (int i = 0; i < kCommands; ++i) {
@@ -129,7 +129,7 @@ TEST_P(RandomEditsTest, TreeAndRowsAgreeWithTheSetListsAfterEveryCommand) {
   CheckSavedAgain();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomEditsTest, testing::Range<std::uint32_t>(1, 11));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomEdits, testing::Range<std::uint32_t>(1, 11));
 
 }  // namespace
 }  // namespace brevant

@@ -15,14 +15,14 @@ namespace {
 
 constexpr std::u16string_view kFolder = u"\\home\\me\\recovery\\";
 
-TEST(RecoveryCopyTest, TheCopyBearsTheDocumentsNameAndIsADocument) {
+TEST(RecoveryCopy, TheCopyBearsTheDocumentsNameAndIsADocument) {
   TCMemoryFiles files;
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"show.brv", {u"one"}), u"\\home\\me\\recovery\\show.brv");
   EXPECT_EQ(files.BytesOf(u"\\home\\me\\recovery\\show.brv"), JoinUtf16Lines({u"one"}));
   EXPECT_EQ(files.foldersMade.size(), 1u);
 }
 
-TEST(RecoveryCopyTest, AnEarlierCopyIsNeverReplaced) {
+TEST(RecoveryCopy, AnEarlierCopyIsNeverReplaced) {
   TCMemoryFiles files;
   WriteRecoveryCopy(files, kFolder, u"show.brv", {u"one"});
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"show.brv", {u"two"}), u"\\home\\me\\recovery\\show (2).brv");
@@ -31,12 +31,12 @@ TEST(RecoveryCopyTest, AnEarlierCopyIsNeverReplaced) {
   EXPECT_EQ(files.BytesOf(u"\\home\\me\\recovery\\show.brv"), JoinUtf16Lines({u"one"}));
 }
 
-TEST(RecoveryCopyTest, ADocumentWithoutANameGetsOne) {
+TEST(RecoveryCopy, ADocumentWithoutANameGetsOne) {
   TCMemoryFiles files;
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"", {u"one"}), u"\\home\\me\\recovery\\Brevant.brv");
 }
 
-TEST(RecoveryCopyTest, OfTwoThreadsNeitherReplacesTheOthersCopy) {
+TEST(RecoveryCopy, OfTwoThreadsNeitherReplacesTheOthersCopy) {
   const TCTempFolder folder;
   const auto keep = [&folder] {
     TCDiskFiles files{TCNativePaths()};
@@ -50,13 +50,13 @@ TEST(RecoveryCopyTest, OfTwoThreadsNeitherReplacesTheOthersCopy) {
   EXPECT_EQ(std::distance(begin(copies), end(copies)), 40);
 }
 
-TEST(RecoveryCopyTest, ANameThatCannotBeWrittenIsPassedOver) {
+TEST(RecoveryCopy, ANameThatCannotBeWrittenIsPassedOver) {
   TCMemoryFiles files;
   files.MakeUnwritable(u"\\home\\me\\recovery\\show.brv");  // a folder of that name, say
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"show.brv", {u"one"}), u"\\home\\me\\recovery\\show (2).brv");
 }
 
-TEST(RecoveryCopyTest, WhenNothingCanBeWrittenTheAnswerIsEmpty) {
+TEST(RecoveryCopy, WhenNothingCanBeWrittenTheAnswerIsEmpty) {
   TCMemoryFiles files;
   files.failWrites = true;
   EXPECT_EQ(WriteRecoveryCopy(files, kFolder, u"show.brv", {u"one"}), u"");

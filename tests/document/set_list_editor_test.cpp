@@ -13,9 +13,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class SetListEditorTest : public testing::Test {
+class SetListEditor : public testing::Test {
  protected:
-  SetListEditorTest() {
+  SetListEditor() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3", u"b.mp3", u"c.mp3"}}, {u"Two", {u"d.mp3"}}});
     rig.AddGroup(u"Club", {{u"Late", {u"e.mp3"}}});
     rig.Show();
@@ -31,14 +31,14 @@ class SetListEditorTest : public testing::Test {
   TCSetListEditor& editor = rig.editor;
 };
 
-TEST_F(SetListEditorTest, WithoutASelectionAGroupIsAppended) {
+TEST_F(SetListEditor, WithoutASelectionAGroupIsAppended) {
   EXPECT_TRUE(editor.CreateGroup(u"New"));
   EXPECT_EQ(Lines().back(), u"New");
   EXPECT_EQ(rig.tree.SelectedText(), u"New");
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SetListEditorTest, AGroupStandsRightBehindTheSelectedNodesGroup) {
+TEST_F(SetListEditor, AGroupStandsRightBehindTheSelectedNodesGroup) {
   for (const std::u16string_view selected : {u"Sets", u"Two", u"b.mp3"}) {
     rig.Select(selected);
     EXPECT_TRUE(editor.CreateGroup(u"New"));
@@ -50,7 +50,7 @@ TEST_F(SetListEditorTest, AGroupStandsRightBehindTheSelectedNodesGroup) {
   }
 }
 
-TEST_F(SetListEditorTest, ASelectedNodeOfNoGroupCreatesNothing) {
+TEST_F(SetListEditor, ASelectedNodeOfNoGroupCreatesNothing) {
   rig.tree.selected = rig.tree.AddNodes(TCTreeNode::None, 9, {u"stray"}).front();
   EXPECT_FALSE(editor.CreateGroup(u"New"));
   EXPECT_FALSE(editor.CreatePlaylist(u"New"));
@@ -58,20 +58,20 @@ TEST_F(SetListEditorTest, ASelectedNodeOfNoGroupCreatesNothing) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SetListEditorTest, TwoGroupsMayHaveOneName) {
+TEST_F(SetListEditor, TwoGroupsMayHaveOneName) {
   EXPECT_TRUE(editor.CreateGroup(u"New Group Folder"));
   EXPECT_TRUE(editor.CreateGroup(u"New Group Folder"));
   const std::vector<std::u16string> lines = Lines();
   EXPECT_EQ(std::count(lines.begin(), lines.end(), u"New Group Folder"), 2);
 }
 
-TEST_F(SetListEditorTest, APlaylistNeedsASelectedNode) {
+TEST_F(SetListEditor, APlaylistNeedsASelectedNode) {
   EXPECT_FALSE(editor.CreatePlaylist(u"New"));
   EXPECT_FALSE(editor.AskForPlaylist());  // and nobody is asked for a name in vain
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SetListEditorTest, APlaylistIsAppendedToASelectedGroup) {
+TEST_F(SetListEditor, APlaylistIsAppendedToASelectedGroup) {
   rig.Select(u"Sets");
   EXPECT_TRUE(editor.CreatePlaylist(u"New"));
   EXPECT_EQ(Lines()[7], u"  New");
@@ -79,7 +79,7 @@ TEST_F(SetListEditorTest, APlaylistIsAppendedToASelectedGroup) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SetListEditorTest, APlaylistStandsRightBehindTheSelectedOneOrTheSelectedSongsOwn) {
+TEST_F(SetListEditor, APlaylistStandsRightBehindTheSelectedOneOrTheSelectedSongsOwn) {
   rig.Select(u"One");
   EXPECT_TRUE(editor.CreatePlaylist(u"New"));
   rig.Select(u"c.mp3");
@@ -88,14 +88,14 @@ TEST_F(SetListEditorTest, APlaylistStandsRightBehindTheSelectedOneOrTheSelectedS
                                    u"  New", u"  Two", u"    d.mp3", u"Club", u"  Late", u"    e.mp3"));
 }
 
-TEST_F(SetListEditorTest, TheCurrentPlaylistStaysCurrentBehindANewOne) {
+TEST_F(SetListEditor, TheCurrentPlaylistStaysCurrentBehindANewOne) {
   rig.store.currentPlaylist = 1;
   rig.Select(u"One");
   EXPECT_TRUE(editor.CreatePlaylist(u"New"));
   EXPECT_EQ(rig.store.CurrentPlaylist()->name, u"Two");
 }
 
-TEST_F(SetListEditorTest, NamesAreAskedForWithTheirExamples) {
+TEST_F(SetListEditor, NamesAreAskedForWithTheirExamples) {
   rig.prompts.texts = {u"  Mariner Sets ", u"\tFirst "};
   EXPECT_TRUE(editor.AskForGroup());
   EXPECT_EQ(rig.prompts.lastPrompt, u"Enter the name of the group of play lists");
@@ -110,7 +110,7 @@ TEST_F(SetListEditorTest, NamesAreAskedForWithTheirExamples) {
   EXPECT_EQ(Lines()[11], u"  First");
 }
 
-TEST_F(SetListEditorTest, ACancelledOrBlankNameCreatesNothing) {
+TEST_F(SetListEditor, ACancelledOrBlankNameCreatesNothing) {
   rig.Select(u"Sets");
   rig.prompts.texts = {std::nullopt, u" \t", std::nullopt, u"\"\""};
   EXPECT_FALSE(editor.AskForGroup());
@@ -121,17 +121,17 @@ TEST_F(SetListEditorTest, ACancelledOrBlankNameCreatesNothing) {
   EXPECT_EQ(Lines().size(), 10u);
 }
 
-TEST_F(SetListEditorTest, DoubleQuotesAreDroppedFromANameAndItsEndsAreTrimmed) {
+TEST_F(SetListEditor, DoubleQuotesAreDroppedFromANameAndItsEndsAreTrimmed) {
   EXPECT_EQ(CleanName(u" \"Mariner\" Sets\" "), u"Mariner Sets");
   EXPECT_EQ(CleanName(u"\" x \""), u"x");
   EXPECT_EQ(CleanName(u"\t \""), u"");
 }
 
-TEST_F(SetListEditorTest, APastedLineBreakBecomesABlank) {
+TEST_F(SetListEditor, APastedLineBreakBecomesABlank) {
   EXPECT_EQ(CleanName(u"\r\nMariner\nSets\r2\n"), u"Mariner Sets 2");
 }
 
-TEST_F(SetListEditorTest, EveryKindOfEntryIsRenamed) {
+TEST_F(SetListEditor, EveryKindOfEntryIsRenamed) {
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Club"), u" Clubs "));
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Two"), u"Second"));
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"b.mp3"), u"bee.wav"));
@@ -140,7 +140,7 @@ TEST_F(SetListEditorTest, EveryKindOfEntryIsRenamed) {
   EXPECT_EQ(rig.modified, 3);
 }
 
-TEST_F(SetListEditorTest, ARenamedSongIsCheckedAgainWithItsLyrics) {
+TEST_F(SetListEditor, ARenamedSongIsCheckedAgainWithItsLyrics) {
   rig.files.Put(u"C:\\bee.wav");
   rig.files.Put(u"C:\\bee.lrc", "[00:01.0]Hello");
   TCPlayListItem& song = rig.store.groups[0].playlists[0].items[1];
@@ -154,17 +154,17 @@ TEST_F(SetListEditorTest, ARenamedSongIsCheckedAgainWithItsLyrics) {
   EXPECT_EQ(rig.view.rows[1].texts.status, u"Not found");
 }
 
-TEST_F(SetListEditorTest, ARenamedSongElsewhereLeavesTheRowsAlone) {
+TEST_F(SetListEditor, ARenamedSongElsewhereLeavesTheRowsAlone) {
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"d.mp3"), u"dee.mp3"));
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3"));
 }
 
-TEST_F(SetListEditorTest, TheCurrentPlaylistsNewNameStandsInTheHeader) {
+TEST_F(SetListEditor, TheCurrentPlaylistsNewNameStandsInTheHeader) {
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"One"), u"Opener"));
   EXPECT_EQ(rig.view.header, u"Opener - Total Playlist Time: 03:30");
 }
 
-TEST_F(SetListEditorTest, WhileAnEmptyPlaylistIsCurrentNewNamesStandInTheRowsAndHeaderOnTheScreen) {
+TEST_F(SetListEditor, WhileAnEmptyPlaylistIsCurrentNewNamesStandInTheRowsAndHeaderOnTheScreen) {
   rig.store.groups[0].playlists[1].items.clear();
   rig.store.currentPlaylist = 1;
   rig.Show();
@@ -176,14 +176,14 @@ TEST_F(SetListEditorTest, WhileAnEmptyPlaylistIsCurrentNewNamesStandInTheRowsAnd
   EXPECT_EQ(rig.view.header, u"Opener - Total Playlist Time: 03:30");
 }
 
-TEST_F(SetListEditorTest, RenamingToBlanksOrANodeOfNothingChangesNothing) {
+TEST_F(SetListEditor, RenamingToBlanksOrANodeOfNothingChangesNothing) {
   EXPECT_FALSE(editor.Rename(rig.tree.NodeNamed(u"One"), u"  "));
   EXPECT_FALSE(editor.Rename(TCTreeNode::None, u"x"));
   EXPECT_EQ(rig.modified, 0);
   EXPECT_EQ(Lines()[1], u"  One");
 }
 
-TEST_F(SetListEditorTest, TheSelectedNodesNewNameIsAskedFor) {
+TEST_F(SetListEditor, TheSelectedNodesNewNameIsAskedFor) {
   rig.Select(u"Two");
   rig.prompts.texts = {u"Second", std::nullopt, u" "};
   editor.AskForNewName();
@@ -199,7 +199,7 @@ TEST_F(SetListEditorTest, TheSelectedNodesNewNameIsAskedFor) {
   editor.AskForNewName();  // without a node nobody is asked
 }
 
-TEST_F(SetListEditorTest, SelectedRowsAreRemovedUnaskedWithTheirNodes) {
+TEST_F(SetListEditor, SelectedRowsAreRemovedUnaskedWithTheirNodes) {
   rig.view.selected = {0, 2};
   rig.store.currentSong = 1;
   editor.RemoveSelectedRows();
@@ -211,7 +211,7 @@ TEST_F(SetListEditorTest, SelectedRowsAreRemovedUnaskedWithTheirNodes) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SetListEditorTest, NothingIsSelectedAfterARemovalSoThatASecondOneRemovesNothing) {
+TEST_F(SetListEditor, NothingIsSelectedAfterARemovalSoThatASecondOneRemovesNothing) {
   rig.view.selected = {0};
   editor.RemoveSelectedRows();
   editor.RemoveSelectedRows();
@@ -223,7 +223,7 @@ TEST_F(SetListEditorTest, NothingIsSelectedAfterARemovalSoThatASecondOneRemovesN
   EXPECT_EQ(rig.view.SelectedRow(), -1);  // row 1 is another song now
 }
 
-TEST_F(SetListEditorTest, WhatWasSelectedWhenTheUserAskedCountsWhateverTheTreeFollowsMeanwhile) {
+TEST_F(SetListEditor, WhatWasSelectedWhenTheUserAskedCountsWhateverTheTreeFollowsMeanwhile) {
   const auto selectMeanwhile = [this](std::u16string_view followed, std::u16string_view answer) {
     return [this, followed, answer](const TCTextPrompt&) {
       rig.Select(followed);
@@ -243,12 +243,12 @@ TEST_F(SetListEditorTest, WhatWasSelectedWhenTheUserAskedCountsWhateverTheTreeFo
   EXPECT_EQ(Lines().back(), u"R");
 }
 
-TEST_F(SetListEditorTest, TheShownGroupsNewNameIsSuggestedNext) {
+TEST_F(SetListEditor, TheShownGroupsNewNameIsSuggestedNext) {
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"Sets"), u"Tour"));
   EXPECT_EQ(rig.store.lastGroupListName, u"Tour");
 }
 
-TEST_F(SetListEditorTest, ANameWithABackslashIsKeptAsASavedDocumentReadsIt) {
+TEST_F(SetListEditor, ANameWithABackslashIsKeptAsASavedDocumentReadsIt) {
   EXPECT_TRUE(editor.Rename(rig.tree.NodeNamed(u"b.mp3"), u"live\\bee.mp3"));
   const TCPlayListItem& song = rig.store.groups[0].playlists[0].items[1];
   EXPECT_EQ(song.FullPath(), u"C:\\live\\bee.mp3");
@@ -256,7 +256,7 @@ TEST_F(SetListEditorTest, ANameWithABackslashIsKeptAsASavedDocumentReadsIt) {
   EXPECT_EQ(Lines()[3], u"    bee.mp3");
 }
 
-TEST_F(SetListEditorTest, AnEmptiedPlaylistStaysOnTheScreen) {
+TEST_F(SetListEditor, AnEmptiedPlaylistStaysOnTheScreen) {
   rig.view.selected = {0, 1, 2};
   editor.RemoveSelectedRows();
   EXPECT_EQ(rig.Rows().size(), 3u);
@@ -266,13 +266,13 @@ TEST_F(SetListEditorTest, AnEmptiedPlaylistStaysOnTheScreen) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SetListEditorTest, NoSelectedRowRemovesNothing) {
+TEST_F(SetListEditor, NoSelectedRowRemovesNothing) {
   editor.RemoveSelectedRows();
   EXPECT_EQ(rig.Rows().size(), 3u);
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SetListEditorTest, TheQuestionNamesWhatWouldGoAndNoLeavesEverything) {
+TEST_F(SetListEditor, TheQuestionNamesWhatWouldGoAndNoLeavesEverything) {
   rig.Select(u"Two");
   rig.prompts.removeAnswers = {false};
   editor.RemoveSelectedNode();
@@ -285,7 +285,7 @@ TEST_F(SetListEditorTest, TheQuestionNamesWhatWouldGoAndNoLeavesEverything) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SetListEditorTest, WithoutConfirmFileRemoveNobodyIsAsked) {
+TEST_F(SetListEditor, WithoutConfirmFileRemoveNobodyIsAsked) {
   rig.record.settings.confirmFileRemove = false;
   rig.Select(u"a.mp3");
   editor.RemoveSelectedNode();
@@ -295,7 +295,7 @@ TEST_F(SetListEditorTest, WithoutConfirmFileRemoveNobodyIsAsked) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SetListEditorTest, WhatWasAskedAboutIsRemovedWhereverItIsByThen) {
+TEST_F(SetListEditor, WhatWasAskedAboutIsRemovedWhereverItIsByThen) {
   rig.prompts.removeAnswers = {true};
   rig.prompts.whileRemoveIsAsked = [this] {
     rig.mover.Move(rig.tree.NodeNamed(u"c.mp3"), rig.tree.NodeNamed(u"a.mp3"));
@@ -307,7 +307,7 @@ TEST_F(SetListEditorTest, WhatWasAskedAboutIsRemovedWhereverItIsByThen) {
   EXPECT_EQ(Lines().size(), 9u);
 }
 
-TEST_F(SetListEditorTest, DisableEditingStopsNoCreatingRenamingOrRemoving) {
+TEST_F(SetListEditor, DisableEditingStopsNoCreatingRenamingOrRemoving) {
   rig.record.settings.disableEditing = 1;
   rig.record.settings.confirmFileRemove = false;
   rig.Select(u"Club");
@@ -322,7 +322,7 @@ TEST_F(SetListEditorTest, DisableEditingStopsNoCreatingRenamingOrRemoving) {
                                    u"Club", u"New", u"  First"));
 }
 
-TEST_F(SetListEditorTest, BehindARemovedCurrentPlaylistTheNextOneIsShown) {
+TEST_F(SetListEditor, BehindARemovedCurrentPlaylistTheNextOneIsShown) {
   rig.record.settings.confirmFileRemove = false;
   rig.Select(u"One");
   editor.RemoveSelectedNode();
@@ -336,7 +336,7 @@ TEST_F(SetListEditorTest, BehindARemovedCurrentPlaylistTheNextOneIsShown) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"e.mp3"));  // nothing else is there to be shown
 }
 
-TEST_F(SetListEditorTest, RemovingElsewhereLeavesTheShownRowsAndTheirSelection) {
+TEST_F(SetListEditor, RemovingElsewhereLeavesTheShownRowsAndTheirSelection) {
   rig.record.settings.confirmFileRemove = false;
   const int shows = rig.view.shows;
   rig.Select(u"e.mp3");

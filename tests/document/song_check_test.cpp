@@ -11,9 +11,9 @@ namespace {
 
 using testing::ElementsAre;
 
-class SongCheckTest : public testing::Test {
+class SongCheck : public testing::Test {
  protected:
-  SongCheckTest() {
+  SongCheck() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3", u"b.mp3"}}, {u"Two", {u"c.mp3"}}});
     rig.Show();
     rig.files.Put(u"D:\\x.mp3");
@@ -40,21 +40,21 @@ class SongCheckTest : public testing::Test {
   TCEditRig rig;
 };
 
-TEST_F(SongCheckTest, StatusAndLyricsOfAllSongsAreThereAtOnce) {
+TEST_F(SongCheck, StatusAndLyricsOfAllSongsAreThereAtOnce) {
   rig.files.Put(u"C:\\b.mp3");
   rig.check.CheckSongFiles({0, 0, 0}, 2);
   EXPECT_EQ(Song(0, 0).status, TCSongStatus::NotFound);
   EXPECT_EQ(Song(0, 1).status, TCSongStatus::Found);
 }
 
-TEST_F(SongCheckTest, SongsThatAreNotThereAreNotLookedFor) {
+TEST_F(SongCheck, SongsThatAreNotThereAreNotLookedFor) {
   rig.check.CheckSongFiles({0, 0, 1}, 2);
   rig.check.CheckSongFiles({0, 7, 0}, 1);
   EXPECT_EQ(Song(0, 0).status, TCSongStatus::Pending);
   EXPECT_EQ(rig.files.existenceAsked.size(), 0u);
 }
 
-TEST_F(SongCheckTest, SongsPlacedOnADiskThatHangsArePendingUntilItAnswers) {
+TEST_F(SongCheck, SongsPlacedOnADiskThatHangsArePendingUntilItAnswers) {
   rig.files.hangs = true;
   Place(u"One", u"D:\\x.mp3 D:\\gone.mp3");
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"x.mp3", u"gone.mp3"));
@@ -67,7 +67,7 @@ TEST_F(SongCheckTest, SongsPlacedOnADiskThatHangsArePendingUntilItAnswers) {
   EXPECT_EQ(rig.modified, modified) << "no document keeps what the disk says";
 }
 
-TEST_F(SongCheckTest, ARenameOnADiskThatHangsLeavesNothingOfTheOldFile) {
+TEST_F(SongCheck, ARenameOnADiskThatHangsLeavesNothingOfTheOldFile) {
   rig.check.CheckSongFiles({0, 0, 0}, 1);
   Song(0, 0).SetPath(u"D:\\x.mp3");
   rig.check.CheckSongFiles({0, 0, 0}, 1);
@@ -80,7 +80,7 @@ TEST_F(SongCheckTest, ARenameOnADiskThatHangsLeavesNothingOfTheOldFile) {
   EXPECT_EQ(rig.view.rows[0].texts.status, u"Not found");
 }
 
-TEST_F(SongCheckTest, ARepairOnADiskThatHangsReachesTheWholePlaylistLater) {
+TEST_F(SongCheck, ARepairOnADiskThatHangsReachesTheWholePlaylistLater) {
   rig.files.Put(u"E:\\b.mp3");
   rig.files.hangs = true;
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
@@ -92,7 +92,7 @@ TEST_F(SongCheckTest, ARepairOnADiskThatHangsReachesTheWholePlaylistLater) {
   EXPECT_THAT(StatusColumn(), ElementsAre(u"Not found", u"Found"));
 }
 
-TEST_F(SongCheckTest, ALateAnswerFindsItsSongWhereItWasMoved) {
+TEST_F(SongCheck, ALateAnswerFindsItsSongWhereItWasMoved) {
   rig.files.hangs = true;
   Place(u"One", u"D:\\x.mp3");
   rig.mover.Move(Song(0, 2).treeNode, Song(1, 0).treeNode);
@@ -102,7 +102,7 @@ TEST_F(SongCheckTest, ALateAnswerFindsItsSongWhereItWasMoved) {
   EXPECT_THAT(StatusColumn(), ElementsAre(u"Pending", u"Pending")) << "the rows of the other playlist";
 }
 
-TEST_F(SongCheckTest, ALateAnswerAboutAnotherFileIsPassedOver) {
+TEST_F(SongCheck, ALateAnswerAboutAnotherFileIsPassedOver) {
   rig.files.hangs = true;
   Place(u"One", u"D:\\x.mp3");
   rig.editor.Rename(Song(0, 2).treeNode, u"gone.mp3");
@@ -111,7 +111,7 @@ TEST_F(SongCheckTest, ALateAnswerAboutAnotherFileIsPassedOver) {
   EXPECT_TRUE(Song(0, 2).lyrics.Empty());
 }
 
-TEST_F(SongCheckTest, ALateAnswerAboutASongThatWasRemovedIsPassedOver) {
+TEST_F(SongCheck, ALateAnswerAboutASongThatWasRemovedIsPassedOver) {
   rig.files.hangs = true;
   Place(u"One", u"D:\\x.mp3");
   rig.view.selected = {2};

@@ -12,9 +12,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class SongPlacementTest : public testing::Test {
+class SongPlacement : public testing::Test {
  protected:
-  SongPlacementTest() {
+  SongPlacement() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3", u"b.mp3", u"c.mp3"}}, {u"Two", {u"d.mp3"}}});
     rig.Show();
   }
@@ -34,7 +34,7 @@ class SongPlacementTest : public testing::Test {
   TCSongPlacement& placement = rig.placement;
 };
 
-TEST_F(SongPlacementTest, CopiedRowsAreQuotedOneDirectlyBehindTheOther) {
+TEST_F(SongPlacement, CopiedRowsAreQuotedOneDirectlyBehindTheOther) {
   rig.view.selected = {0, 1, 2};
   placement.CopySelectedRows();
   EXPECT_EQ(placement.CopyText(), u"\"C:\\a.mp3\"\"C:\\b.mp3\"\"C:\\c.mp3\"");
@@ -46,7 +46,7 @@ TEST_F(SongPlacementTest, CopiedRowsAreQuotedOneDirectlyBehindTheOther) {
   EXPECT_EQ(placement.CopyText(), u"\"C:\\b.mp3\"");
 }
 
-TEST_F(SongPlacementTest, RowsThatStandForNoSongAnyMoreLeaveNothingCopied) {
+TEST_F(SongPlacement, RowsThatStandForNoSongAnyMoreLeaveNothingCopied) {
   rig.view.selected = {0};
   placement.CopySelectedRows();
   rig.store.groups[0].playlists[0].items.clear();
@@ -56,7 +56,7 @@ TEST_F(SongPlacementTest, RowsThatStandForNoSongAnyMoreLeaveNothingCopied) {
   EXPECT_EQ(placement.CopyText(), u"");
 }
 
-TEST_F(SongPlacementTest, OfTheTreeOnlyASongIsCopied) {
+TEST_F(SongPlacement, OfTheTreeOnlyASongIsCopied) {
   rig.Select(u"d.mp3");
   placement.CopySelectedNode();
   EXPECT_EQ(placement.CopyText(), u"\"C:\\d.mp3\"");
@@ -67,7 +67,7 @@ TEST_F(SongPlacementTest, OfTheTreeOnlyASongIsCopied) {
   EXPECT_EQ(placement.CopyText(), u"\"C:\\d.mp3\"");
 }
 
-TEST_F(SongPlacementTest, ASongWithoutANameIsNotCopiedFromTheTree) {
+TEST_F(SongPlacement, ASongWithoutANameIsNotCopiedFromTheTree) {
   rig.Select(u"d.mp3");
   placement.CopySelectedNode();
   rig.store.groups[0].playlists[0].items[0].SetPath(u"");
@@ -76,7 +76,7 @@ TEST_F(SongPlacementTest, ASongWithoutANameIsNotCopiedFromTheTree) {
   EXPECT_EQ(placement.CopyText(), u"\"C:\\d.mp3\"");
 }
 
-TEST_F(SongPlacementTest, PasteAloneHasNothingToPlaceAndWaitsUntilCancelled) {
+TEST_F(SongPlacement, PasteAloneHasNothingToPlaceAndWaitsUntilCancelled) {
   rig.view.selected = {0};
   placement.CopySelectedRows();
   placement.Paste();
@@ -92,7 +92,7 @@ TEST_F(SongPlacementTest, PasteAloneHasNothingToPlaceAndWaitsUntilCancelled) {
   EXPECT_EQ(rig.frame.placing, TCPlacing::Nothing);
 }
 
-TEST_F(SongPlacementTest, DroppedFilesArePlacedInOrderAtTheClickedPlaylistsEnd) {
+TEST_F(SongPlacement, DroppedFilesArePlacedInOrderAtTheClickedPlaylistsEnd) {
   rig.files.Put(u"D:\\x y.mp3");
   rig.files.Put(u"D:\\x y.lrc", "[00:01.0]Hello");
   Drop({u"D:\\x y.mp3", u"D:\\gone.wav"});
@@ -114,20 +114,20 @@ TEST_F(SongPlacementTest, DroppedFilesArePlacedInOrderAtTheClickedPlaylistsEnd) 
   EXPECT_EQ(rig.modified, 1) << "once for all files";
 }
 
-TEST_F(SongPlacementTest, FilesPlacedAtASongStandRightBehindItInOrder) {
+TEST_F(SongPlacement, FilesPlacedAtASongStandRightBehindItInOrder) {
   Drop({u"D:\\x.mp3", u"D:\\y.mp3"});
   rig.Select(u"a.mp3");
   placement.PlacePendingFiles();
   EXPECT_THAT(Songs(0), ElementsAre(u"a.mp3", u"x.mp3", u"y.mp3", u"b.mp3", u"c.mp3"));
 }
 
-TEST_F(SongPlacementTest, OneDroppedFileIsAskedForInTheSingular) {
+TEST_F(SongPlacement, OneDroppedFileIsAskedForInTheSingular) {
   Drop({u"D:\\x.mp3"});
   EXPECT_EQ(rig.frame.placingHint,
             u"Click a playlist in the Play List Manager to place 1 file, Esc to cancel");
 }
 
-TEST_F(SongPlacementTest, TheFirstWrongTypeIsReportedAndEndsTheRun) {
+TEST_F(SongPlacement, TheFirstWrongTypeIsReportedAndEndsTheRun) {
   Drop({u"D:\\x.MP3", u"D:\\notes.txt", u"D:\\y.mp3"});
   rig.Select(u"Two");
   placement.PlacePendingFiles();
@@ -136,7 +136,7 @@ TEST_F(SongPlacementTest, TheFirstWrongTypeIsReportedAndEndsTheRun) {
   EXPECT_FALSE(placement.Pending());
 }
 
-TEST_F(SongPlacementTest, AfterAPlacementPasteAndAClickPlaceTheSameFilesAgain) {
+TEST_F(SongPlacement, AfterAPlacementPasteAndAClickPlaceTheSameFilesAgain) {
   Drop({u"D:\\x.mp3"});
   rig.Select(u"Two");
   placement.PlacePendingFiles();
@@ -147,7 +147,7 @@ TEST_F(SongPlacementTest, AfterAPlacementPasteAndAClickPlaceTheSameFilesAgain) {
   EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"x.mp3", u"x.mp3"));
 }
 
-TEST_F(SongPlacementTest, CancelForgetsTheDroppedFiles) {
+TEST_F(SongPlacement, CancelForgetsTheDroppedFiles) {
   Drop({u"D:\\x.mp3"});
   placement.Cancel();
   placement.Paste();
@@ -157,7 +157,7 @@ TEST_F(SongPlacementTest, CancelForgetsTheDroppedFiles) {
   EXPECT_TRUE(placement.Pending());
 }
 
-TEST_F(SongPlacementTest, ASecondDropReplacesTheFilesOfTheFirst) {
+TEST_F(SongPlacement, ASecondDropReplacesTheFilesOfTheFirst) {
   Drop({u"D:\\x.mp3", u"D:\\y.mp3"});
   Drop({u"D:\\z.mp3"});
   rig.Select(u"Two");
@@ -165,7 +165,7 @@ TEST_F(SongPlacementTest, ASecondDropReplacesTheFilesOfTheFirst) {
   EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"z.mp3"));
 }
 
-TEST_F(SongPlacementTest, ADropWhileANameIsAskedForWaitsForItsOwnClick) {
+TEST_F(SongPlacement, ADropWhileANameIsAskedForWaitsForItsOwnClick) {
   Drop({u"D:\\x.mp3", u"D:\\y.mp3"});
   rig.Select(u"Sets");
   rig.prompts.textAnswers = {[this](const TCTextPrompt&) {
@@ -182,7 +182,7 @@ TEST_F(SongPlacementTest, ADropWhileANameIsAskedForWaitsForItsOwnClick) {
   EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"z.mp3"));
 }
 
-TEST_F(SongPlacementTest, TheCurrentPlaylistIsShownAgainWhateverTheClickPlaced) {
+TEST_F(SongPlacement, TheCurrentPlaylistIsShownAgainWhateverTheClickPlaced) {
   Drop({u"D:\\notes.txt"});
   rig.Select(u"Two");
   const int shows = rig.view.shows;
@@ -191,7 +191,7 @@ TEST_F(SongPlacementTest, TheCurrentPlaylistIsShownAgainWhateverTheClickPlaced) 
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a.mp3", u"b.mp3", u"c.mp3"));
 }
 
-TEST_F(SongPlacementTest, DisableEditingStopsNoPlacing) {
+TEST_F(SongPlacement, DisableEditingStopsNoPlacing) {
   rig.record.settings.disableEditing = 1;
   Drop({u"D:\\x.mp3"});
   rig.Select(u"Two");
@@ -199,7 +199,7 @@ TEST_F(SongPlacementTest, DisableEditingStopsNoPlacing) {
   EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"x.mp3"));
 }
 
-TEST_F(SongPlacementTest, AClickWithoutPendingFilesPlacesNothing) {
+TEST_F(SongPlacement, AClickWithoutPendingFilesPlacesNothing) {
   Drop({u"D:\\x.mp3"});
   rig.Select(u"Two");
   placement.PlacePendingFiles();
@@ -207,7 +207,7 @@ TEST_F(SongPlacementTest, AClickWithoutPendingFilesPlacesNothing) {
   EXPECT_EQ(Songs(1).size(), 2u);
 }
 
-TEST_F(SongPlacementTest, WithoutASelectedNodeNothingIsPlacedAndNoTypeIsBlamed) {
+TEST_F(SongPlacement, WithoutASelectedNodeNothingIsPlacedAndNoTypeIsBlamed) {
   Drop({u"D:\\x.txt"});
   placement.PlacePendingFiles();
   Drop({u"D:\\x.mp3"});
@@ -217,7 +217,7 @@ TEST_F(SongPlacementTest, WithoutASelectedNodeNothingIsPlacedAndNoTypeIsBlamed) 
   EXPECT_FALSE(placement.Pending());
 }
 
-TEST_F(SongPlacementTest, AtAGroupAPlaylistIsAskedForAndTakesAllFiles) {
+TEST_F(SongPlacement, AtAGroupAPlaylistIsAskedForAndTakesAllFiles) {
   Drop({u"D:\\x.mp3", u"D:\\y.mp3"});
   rig.Select(u"Sets");
   rig.prompts.texts = {u"New"};
@@ -226,7 +226,7 @@ TEST_F(SongPlacementTest, AtAGroupAPlaylistIsAskedForAndTakesAllFiles) {
   EXPECT_THAT(Songs(2), ElementsAre(u"x.mp3", u"y.mp3"));
 }
 
-TEST_F(SongPlacementTest, AWrongTypeAtAGroupAsksForNoPlaylist) {
+TEST_F(SongPlacement, AWrongTypeAtAGroupAsksForNoPlaylist) {
   Drop({u"D:\\notes.txt"});
   rig.Select(u"Sets");
   placement.PlacePendingFiles();
@@ -234,7 +234,7 @@ TEST_F(SongPlacementTest, AWrongTypeAtAGroupAsksForNoPlaylist) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SongPlacementTest, ACancelledPlaylistPromptPlacesNothing) {
+TEST_F(SongPlacement, ACancelledPlaylistPromptPlacesNothing) {
   Drop({u"D:\\x.mp3"});
   rig.Select(u"Sets");
   rig.prompts.texts = {std::nullopt};
@@ -243,7 +243,7 @@ TEST_F(SongPlacementTest, ACancelledPlaylistPromptPlacesNothing) {
   EXPECT_FALSE(placement.Pending());
 }
 
-TEST_F(SongPlacementTest, AnEmptyDocumentAsksForGroupAndPlaylistFirst) {
+TEST_F(SongPlacement, AnEmptyDocumentAsksForGroupAndPlaylistFirst) {
   rig.store.ClearSetLists();
   rig.treePresenter.BuildAll();
   Drop({u"D:\\x.mp3"});
@@ -253,7 +253,7 @@ TEST_F(SongPlacementTest, AnEmptyDocumentAsksForGroupAndPlaylistFirst) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"x.mp3"));
 }
 
-TEST_F(SongPlacementTest, AnEmptyDocumentStaysEmptyWhenAPromptIsCancelled) {
+TEST_F(SongPlacement, AnEmptyDocumentStaysEmptyWhenAPromptIsCancelled) {
   rig.store.ClearSetLists();
   rig.treePresenter.BuildAll();
   Drop({u"D:\\x.mp3"});
@@ -266,7 +266,7 @@ TEST_F(SongPlacementTest, AnEmptyDocumentStaysEmptyWhenAPromptIsCancelled) {
   EXPECT_THAT(rig.tree.Lines(), ElementsAre(u"Mariner Sets"));
 }
 
-TEST_F(SongPlacementTest, AFirstGroupWithoutPlaylistsHasOneAskedForEvenWhenAnotherGroupHasSome) {
+TEST_F(SongPlacement, AFirstGroupWithoutPlaylistsHasOneAskedForEvenWhenAnotherGroupHasSome) {
   InsertGroup(rig.store, 0, {});
   rig.treePresenter.BuildAll();
   Drop({u"D:\\x.mp3"});
@@ -277,7 +277,7 @@ TEST_F(SongPlacementTest, AFirstGroupWithoutPlaylistsHasOneAskedForEvenWhenAnoth
   EXPECT_EQ(rig.store.groups[1].playlists[2].items.size(), 1u);
 }
 
-TEST_F(SongPlacementTest, TypedWordsArePlacedWithTheirSlashesTurned) {
+TEST_F(SongPlacement, TypedWordsArePlacedWithTheirSlashesTurned) {
   rig.Select(u"Two");
   placement.PlaceText(u" \"C:/My Music/x.mp3\" D:\\y.wav \"/home/me/z.mid\"");
   EXPECT_THAT(Songs(1), ElementsAre(u"d.mp3", u"x.mp3", u"y.wav", u"z.mid"));
@@ -285,21 +285,21 @@ TEST_F(SongPlacementTest, TypedWordsArePlacedWithTheirSlashesTurned) {
   EXPECT_EQ(std::u16string_view(rig.store.groups[0].playlists[1].items[3].folder), u"\\home\\me\\");
 }
 
-TEST_F(SongPlacementTest, NoWordPlacesNothingAndAsksNobody) {
+TEST_F(SongPlacement, NoWordPlacesNothingAndAsksNobody) {
   rig.store.ClearSetLists();
   rig.treePresenter.BuildAll();
   placement.PlaceText(u"  \t ");
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SongPlacementTest, DroppedNamesAreNeverSplitAgain) {
+TEST_F(SongPlacement, DroppedNamesAreNeverSplitAgain) {
   Drop({u"D:\\My Songs\\x > y.mp3"});
   rig.Select(u"Two");
   placement.PlacePendingFiles();
   EXPECT_EQ(rig.store.groups[0].playlists[1].items[1].FullPath(), u"D:\\My Songs\\x > y.mp3");
 }
 
-TEST_F(SongPlacementTest, TwoHundredFilesArePlacedInOrder) {
+TEST_F(SongPlacement, TwoHundredFilesArePlacedInOrder) {
   std::vector<std::u16string> paths;
   std::vector<std::u16string> names = {u"d.mp3"};
   for (int i = 0; i < 200; ++i) {

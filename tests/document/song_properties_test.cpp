@@ -11,9 +11,9 @@ namespace {
 
 using testing::ElementsAre;
 
-class SongPropertiesTest : public testing::Test {
+class SongPropertiesForm : public testing::Test {
  protected:
-  SongPropertiesTest() {
+  SongPropertiesForm() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3", u"b.wav"}}, {u"Two", {u"c.mp3"}}});
     rig.store.groups[0].folder = u"D:\\Lists\\";
     rig.store.groups[0].playlists[1].folder = u"D:\\Sub\\";
@@ -27,7 +27,7 @@ class SongPropertiesTest : public testing::Test {
   TCEditRig rig;
 };
 
-TEST_F(SongPropertiesTest, ItShowsTheSongItsPlaylistAndItsGroup) {
+TEST_F(SongPropertiesForm, ItShowsTheSongItsPlaylistAndItsGroup) {
   const TCSongPropertiesForm form(rig.parts, {0, 1, 0});
   EXPECT_EQ(form.songPath, u"C:\\");
   EXPECT_EQ(form.songName, u"c.mp3");
@@ -38,7 +38,7 @@ TEST_F(SongPropertiesTest, ItShowsTheSongItsPlaylistAndItsGroup) {
   EXPECT_FALSE(form.extensionForAll);
 }
 
-TEST_F(SongPropertiesTest, OkMovesTheOneSongAndChecksIt) {
+TEST_F(SongPropertiesForm, OkMovesTheOneSongAndChecksIt) {
   rig.files.Put(u"E:\\New\\x.wav");
   rig.files.Put(u"E:\\New\\x.lrc", "[00:01.0]Hello");
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
@@ -55,7 +55,7 @@ TEST_F(SongPropertiesTest, OkMovesTheOneSongAndChecksIt) {
   EXPECT_EQ(rig.modified, 1);
 }
 
-TEST_F(SongPropertiesTest, AMissingFileIsNotFoundAndItsOldLyricsGo) {
+TEST_F(SongPropertiesForm, AMissingFileIsNotFoundAndItsOldLyricsGo) {
   rig.files.Put(u"C:\\a.lrc", "[ti:Old]\r\n[00:01.0]Hello\r\n");
   TCPlayListItem& song = rig.store.groups[0].playlists[0].items[0];
   rig.editor.Rename(song.treeNode, u"a.mp3");
@@ -68,7 +68,7 @@ TEST_F(SongPropertiesTest, AMissingFileIsNotFoundAndItsOldLyricsGo) {
   EXPECT_EQ(song.lyrics.Headers().title, u"");
 }
 
-TEST_F(SongPropertiesTest, AnEmptyNameLeavesTheSongsOwnAndAnEmptyFolderIsKept) {
+TEST_F(SongPropertiesForm, AnEmptyNameLeavesTheSongsOwnAndAnEmptyFolderIsKept) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songPath = u"";
   form.songName = u"  ";
@@ -76,7 +76,7 @@ TEST_F(SongPropertiesTest, AnEmptyNameLeavesTheSongsOwnAndAnEmptyFolderIsKept) {
   EXPECT_EQ(Song(0, 0).FullPath(), u"a.mp3");
 }
 
-TEST_F(SongPropertiesTest, TheFolderIsAppliedToTheWholePlaylist) {
+TEST_F(SongPropertiesForm, TheFolderIsAppliedToTheWholePlaylist) {
   rig.files.Put(u"E:\\Backup\\a.mp3");
   rig.files.Put(u"E:\\Backup\\a.lrcx");
   rig.store.groups[0].playlists[0].totalTime = u"99:99";
@@ -93,7 +93,7 @@ TEST_F(SongPropertiesTest, TheFolderIsAppliedToTheWholePlaylist) {
   EXPECT_EQ(rig.view.rows[0].texts.status, u"Found");
 }
 
-TEST_F(SongPropertiesTest, TheFileTypeIsAppliedToTheWholePlaylistAndToItsNodes) {
+TEST_F(SongPropertiesForm, TheFileTypeIsAppliedToTheWholePlaylistAndToItsNodes) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songName = u"a.mid";
   form.extensionForAll = true;
@@ -103,7 +103,7 @@ TEST_F(SongPropertiesTest, TheFileTypeIsAppliedToTheWholePlaylistAndToItsNodes) 
   EXPECT_EQ(rig.tree.Lines(), rig.ModelLines());
 }
 
-TEST_F(SongPropertiesTest, TheFileTypeAloneLeavesTheFoldersOfTheOthers) {
+TEST_F(SongPropertiesForm, TheFileTypeAloneLeavesTheFoldersOfTheOthers) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songPath = u"E:\\";
   form.songName = u"a.mid";
@@ -113,7 +113,7 @@ TEST_F(SongPropertiesTest, TheFileTypeAloneLeavesTheFoldersOfTheOthers) {
   EXPECT_EQ(Song(0, 1).FullPath(), u"C:\\b.mid");
 }
 
-TEST_F(SongPropertiesTest, ARepairReadsTheLyricsOfEverySongAgain) {
+TEST_F(SongPropertiesForm, ARepairReadsTheLyricsOfEverySongAgain) {
   rig.files.Put(u"E:\\b.lrc", "[00:01.0]Hello");
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songPath = u"E:\\";
@@ -123,7 +123,7 @@ TEST_F(SongPropertiesTest, ARepairReadsTheLyricsOfEverySongAgain) {
   EXPECT_EQ(rig.view.rows[1].texts.status, u"Not found\\Lyrics");
 }
 
-TEST_F(SongPropertiesTest, ThePlaylistRemembersTheTwoBoxes) {
+TEST_F(SongPropertiesForm, ThePlaylistRemembersTheTwoBoxes) {
   TCSongPropertiesForm form(rig.parts, {0, 1, 0});
   form.pathForAll = true;
   form.Apply();
@@ -141,7 +141,7 @@ TEST_F(SongPropertiesTest, ThePlaylistRemembersTheTwoBoxes) {
   EXPECT_TRUE(TCSongPropertiesForm(rig.parts, {0, 1, 0}).extensionForAll);
 }
 
-TEST_F(SongPropertiesTest, ASongOfAnotherPlaylistIsRepairedWithoutTouchingTheView) {
+TEST_F(SongPropertiesForm, ASongOfAnotherPlaylistIsRepairedWithoutTouchingTheView) {
   const int shows = rig.view.shows;
   TCSongPropertiesForm form(rig.parts, {0, 1, 0});
   form.songName = u"x.mp3";
@@ -151,7 +151,7 @@ TEST_F(SongPropertiesTest, ASongOfAnotherPlaylistIsRepairedWithoutTouchingTheVie
   EXPECT_EQ(rig.view.shows, shows);
 }
 
-TEST_F(SongPropertiesTest, SetDirTakesTheFolderOfAnySongAndLeavesTheRest) {
+TEST_F(SongPropertiesForm, SetDirTakesTheFolderOfAnySongAndLeavesTheRest) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"E:\\Backup\\other.mid"}, std::nullopt};
   form.SetDir();
@@ -161,7 +161,7 @@ TEST_F(SongPropertiesTest, SetDirTakesTheFolderOfAnySongAndLeavesTheRest) {
   EXPECT_EQ(form.songPath, u"E:\\Backup\\");
 }
 
-TEST_F(SongPropertiesTest, TheSongIsTheSameWhenEntriesWereMovedMeanwhile) {
+TEST_F(SongPropertiesForm, TheSongIsTheSameWhenEntriesWereMovedMeanwhile) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   ASSERT_TRUE(MoveSong(rig.store, {0, 0, 0}, {0, 0, 1}));
   rig.treePresenter.MoveSongNode({0, 0, 1});
@@ -171,7 +171,7 @@ TEST_F(SongPropertiesTest, TheSongIsTheSameWhenEntriesWereMovedMeanwhile) {
   EXPECT_EQ(Song(0, 1).fileName, u"x.mp3");
 }
 
-TEST_F(SongPropertiesTest, ASongThatIsGoneChangesNothing) {
+TEST_F(SongPropertiesForm, ASongThatIsGoneChangesNothing) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   rig.tree.DeleteNode(Song(0, 0).treeNode);
   ASSERT_TRUE(RemoveSong(rig.store, {0, 0, 0}));
@@ -181,7 +181,7 @@ TEST_F(SongPropertiesTest, ASongThatIsGoneChangesNothing) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SongPropertiesTest, ANameWithoutATypeLeavesTheTypesOfTheOthers) {
+TEST_F(SongPropertiesForm, ANameWithoutATypeLeavesTheTypesOfTheOthers) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songName = u"a";
   form.extensionForAll = true;
@@ -189,7 +189,7 @@ TEST_F(SongPropertiesTest, ANameWithoutATypeLeavesTheTypesOfTheOthers) {
   EXPECT_THAT(rig.Rows(), ElementsAre(u"a", u"b.wav"));
 }
 
-TEST_F(SongPropertiesTest, NothingIsChangedBeforeOk) {
+TEST_F(SongPropertiesForm, NothingIsChangedBeforeOk) {
   TCSongPropertiesForm form(rig.parts, {0, 0, 0});
   form.songPath = u"E:\\";
   form.pathForAll = true;

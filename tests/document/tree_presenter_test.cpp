@@ -12,9 +12,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TreePresenterTest : public testing::Test {
+class TreePresenter : public testing::Test {
  protected:
-  TreePresenterTest() {
+  TreePresenter() {
     rig.AddGroup(u"Sets", {{u"One", {u"a.mp3", u"b.mp3"}}, {u"Two", {}}});
     rig.AddGroup(u"Club", {{u"Late", {u"c.mp3"}}});
     tree.BuildAll();
@@ -25,27 +25,27 @@ class TreePresenterTest : public testing::Test {
   TCFakeTree& shown = rig.tree;
 };
 
-TEST_F(TreePresenterTest, EveryEntryHasItsNodeInModelOrder) {
+TEST_F(TreePresenter, EveryEntryHasItsNodeInModelOrder) {
   EXPECT_THAT(shown.Lines(), ElementsAre(u"Sets", u"  One", u"    a.mp3", u"    b.mp3", u"  Two", u"Club",
                                          u"  Late", u"    c.mp3"));
   const TCPlayListItem& song = rig.store.groups[0].playlists[0].items[1];
   EXPECT_EQ(shown.nodes.at(song.treeNode).text, u"b.mp3");
 }
 
-TEST_F(TreePresenterTest, BuildingAgainReplacesEveryNode) {
+TEST_F(TreePresenter, BuildingAgainReplacesEveryNode) {
   tree.BuildAll();
   EXPECT_EQ(shown.Lines(), rig.ModelLines());
   EXPECT_EQ(shown.roots.size(), 2u);
 }
 
-TEST_F(TreePresenterTest, TheKindOfANodeFollowsFromItsDepth) {
+TEST_F(TreePresenter, TheKindOfANodeFollowsFromItsDepth) {
   EXPECT_EQ(tree.KindOf(shown.NodeNamed(u"Sets")), TCNodeKind::Group);
   EXPECT_EQ(tree.KindOf(shown.NodeNamed(u"Two")), TCNodeKind::Playlist);
   EXPECT_EQ(tree.KindOf(shown.NodeNamed(u"b.mp3")), TCNodeKind::Song);
   EXPECT_EQ(tree.KindOf(TCTreeNode::None), TCNodeKind::None);
 }
 
-TEST_F(TreePresenterTest, ANodeIsLedBackToItsEntry) {
+TEST_F(TreePresenter, ANodeIsLedBackToItsEntry) {
   const TCNodeEntry song = tree.EntryOf(shown.NodeNamed(u"c.mp3"));
   EXPECT_EQ(song.kind, TCNodeKind::Song);
   EXPECT_EQ(song.Song(), (TCSongPosition{1, 0, 0}));
@@ -56,7 +56,7 @@ TEST_F(TreePresenterTest, ANodeIsLedBackToItsEntry) {
   EXPECT_EQ(tree.EntryOf(shown.NodeNamed(u"Club")).group, 1);
 }
 
-TEST_F(TreePresenterTest, ANodeThatNoEntryHasStandsForNothing) {
+TEST_F(TreePresenter, ANodeThatNoEntryHasStandsForNothing) {
   const TCTreeNode stray = shown.AddNodes(shown.NodeNamed(u"One"), 0, {u"stray"}).front();
   EXPECT_EQ(tree.KindOf(stray), TCNodeKind::Song);
   EXPECT_EQ(tree.EntryOf(stray).kind, TCNodeKind::None);
@@ -65,7 +65,7 @@ TEST_F(TreePresenterTest, ANodeThatNoEntryHasStandsForNothing) {
   EXPECT_EQ(tree.EntryOf(shown.NodeNamed(u"c.mp3")).kind, TCNodeKind::None);
 }
 
-TEST_F(TreePresenterTest, ANewNodeStandsAtItsEntrysPlaceWithAllUnderItAndIsSelected) {
+TEST_F(TreePresenter, ANewNodeStandsAtItsEntrysPlaceWithAllUnderItAndIsSelected) {
   TCPlayGroups group;
   group.name = u"New";
   group.playlists.resize(1);
@@ -91,7 +91,7 @@ TEST_F(TreePresenterTest, ANewNodeStandsAtItsEntrysPlaceWithAllUnderItAndIsSelec
   EXPECT_EQ(shown.SelectedText(), u"x.mp3");
 }
 
-TEST_F(TreePresenterTest, NoNodeIsAddedForAnEntryThatIsNotThere) {
+TEST_F(TreePresenter, NoNodeIsAddedForAnEntryThatIsNotThere) {
   EXPECT_FALSE(tree.AddGroupNode(2));
   EXPECT_FALSE(tree.AddGroupNode(-1));
   EXPECT_FALSE(tree.AddPlaylistNode({0, 2}));
@@ -101,7 +101,7 @@ TEST_F(TreePresenterTest, NoNodeIsAddedForAnEntryThatIsNotThere) {
   EXPECT_EQ(shown.Lines(), rig.ModelLines());
 }
 
-TEST_F(TreePresenterTest, AMovedEntrysNodeFollowsAndIsSelected) {
+TEST_F(TreePresenter, AMovedEntrysNodeFollowsAndIsSelected) {
   const TCTreeNode song = shown.NodeNamed(u"a.mp3");
   ASSERT_TRUE(MoveSong(rig.store, {0, 0, 0}, {1, 0, 0}));
   tree.MoveSongNode({1, 0, 0});
@@ -119,7 +119,7 @@ TEST_F(TreePresenterTest, AMovedEntrysNodeFollowsAndIsSelected) {
   EXPECT_EQ(shown.SelectedText(), u"Club");
 }
 
-TEST_F(TreePresenterTest, AClearedTreeHasNoNodes) {
+TEST_F(TreePresenter, AClearedTreeHasNoNodes) {
   tree.Clear();
   EXPECT_THAT(shown.Lines(), IsEmpty());
 }

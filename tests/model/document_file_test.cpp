@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::u16string_view kPath = u"D:\\Docs\\show.brv";
 
-class DocumentFileTest : public testing::Test {
+class DocumentFile : public testing::Test {
  protected:
   TCMemoryFiles files;
   TCSetListStore store;
@@ -37,7 +37,7 @@ class DocumentFileTest : public testing::Test {
   }
 };
 
-TEST_F(DocumentFileTest, ASongIsReadWithItsPathTimeAndStatus) {
+TEST_F(DocumentFile, ASongIsReadWithItsPathTimeAndStatus) {
   files.Put(u"C:\\Music\\Open Road.mp3");
   ASSERT_TRUE(Open(u"\"Mariner Sets\" \"Set 1\" \"C:\\Music\\Open Road.mp3\" 03:25\r\n"));
   ASSERT_EQ(store.groups.size(), 1u);
@@ -54,7 +54,7 @@ TEST_F(DocumentFileTest, ASongIsReadWithItsPathTimeAndStatus) {
   EXPECT_EQ(store.documentExtension, u"brv");
 }
 
-TEST_F(DocumentFileTest, ASongsLyricFileIsReadWithIt) {
+TEST_F(DocumentFile, ASongsLyricFileIsReadWithIt) {
   files.Put(u"C:\\a.lrc", "[ti:Title]\r\n[00:01.00]First line\r\n");
   ASSERT_TRUE(Open(u"\"A\" \"P\" \"C:\\a.mp3\" 03:00\r\n\"A\" \"P\" \"C:\\b.mp3\" 03:00\r\n"));
   EXPECT_EQ(PlaylistOf(0, 0).items.at(0).lyrics.LineCount(), 1u);
@@ -62,7 +62,7 @@ TEST_F(DocumentFileTest, ASongsLyricFileIsReadWithIt) {
   EXPECT_TRUE(PlaylistOf(0, 0).items.at(1).lyrics.Empty());
 }
 
-TEST_F(DocumentFileTest, LinesOfOneGroupAreMergedWhateverTheirCaseAndPlace) {
+TEST_F(DocumentFile, LinesOfOneGroupAreMergedWhateverTheirCaseAndPlace) {
   ASSERT_TRUE(
       Open(u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n\"B\" \"Q\" \"z.mp3\" 01:00\r\n\"a\" \"P2\" \"y.mp3\" 02:00\r\n"
            u"\"A\" \"p1\" \"w.mp3\" 02:00\r\n"));
@@ -74,31 +74,31 @@ TEST_F(DocumentFileTest, LinesOfOneGroupAreMergedWhateverTheirCaseAndPlace) {
   EXPECT_EQ(PlaylistOf(0, 1).name, u"P2");
 }
 
-TEST_F(DocumentFileTest, ALineWithoutATimeGivesAnEmptyTime) {
+TEST_F(DocumentFile, ALineWithoutATimeGivesAnEmptyTime) {
   ASSERT_TRUE(Open(u"\"A\" \"P1\" \"C:\\My Songs\\z.wav\"\r\n"));
   EXPECT_EQ(PlaylistOf(0, 0).items.at(0).time, u"");
 }
 
-TEST_F(DocumentFileTest, AMissingFileIsRefusedAndTheDocumentsPathStays) {
+TEST_F(DocumentFile, AMissingFileIsRefusedAndTheDocumentsPathStays) {
   store.documentFileName = u"before.brv";
   EXPECT_FALSE(document.OpenSetListDocument(u"D:\\none.brv"));
   EXPECT_EQ(store.documentFileName, u"before.brv");
 }
 
-TEST_F(DocumentFileTest, AnEmptyFileIsAnEmptyDocumentAndTheDocumentsPathStays) {
+TEST_F(DocumentFile, AnEmptyFileIsAnEmptyDocumentAndTheDocumentsPathStays) {
   store.documentFileName = u"before.brv";
   EXPECT_TRUE(Open(u""));
   EXPECT_TRUE(store.groups.empty());
   EXPECT_EQ(store.documentFileName, u"before.brv");
 }
 
-TEST_F(DocumentFileTest, ADocumentInAnotherEncodingIsOneUnreadableGroup) {
+TEST_F(DocumentFile, ADocumentInAnotherEncodingIsOneUnreadableGroup) {
   files.Put(kPath, "\"A\" \"P1\" \"x.mp3\" 03:00\r\n\"A\" \"P1\" \"y.mp3\" 03:00\r\n");
   EXPECT_TRUE(document.OpenSetListDocument(kPath));
   EXPECT_EQ(store.groups.size(), 1u);
 }
 
-TEST_F(DocumentFileTest, AFirstLineWithAGroupListMakesTheFolderForm) {
+TEST_F(DocumentFile, AFirstLineWithAGroupListMakesTheFolderForm) {
   files.PutUtf16(u"D:\\Shows\\Summer.brvgl", u"Set 1.brvpl\r\n");
   files.PutUtf16(u"D:\\Shows\\Set 1.brvpl", u"a.mp3*03:00\r\nb.mp3*01:00\r\n");
   ASSERT_TRUE(Open(u"D:\\Shows\\Summer.brvgl\r\n"));
@@ -109,7 +109,7 @@ TEST_F(DocumentFileTest, AFirstLineWithAGroupListMakesTheFolderForm) {
   EXPECT_EQ(PlaylistOf(0, 0).totalTime, u"04:15");
 }
 
-TEST_F(DocumentFileTest, GroupListNamesAreResolvedAgainstTheDocumentsFolder) {
+TEST_F(DocumentFile, GroupListNamesAreResolvedAgainstTheDocumentsFolder) {
   files.PutUtf16(u"D:\\Docs\\Bare.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\Tour.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
@@ -123,7 +123,7 @@ TEST_F(DocumentFileTest, GroupListNamesAreResolvedAgainstTheDocumentsFolder) {
   EXPECT_EQ(store.groups[1].playlists.size(), 1u);
 }
 
-TEST_F(DocumentFileTest, AnotherRelativeFolderIsUsedAsWrittenAndTheTypeCountsInAnyCase) {
+TEST_F(DocumentFile, AnotherRelativeFolderIsUsedAsWrittenAndTheTypeCountsInAnyCase) {
   files.PutUtf16(u"Sub\\X.BRVGL", u"p.brvpl\r\n");
   files.PutUtf16(u"Sub\\p.brvpl", u"a.mp3\r\n");
   ASSERT_TRUE(Open(u"Sub\\X.BRVGL\r\n"));
@@ -132,7 +132,7 @@ TEST_F(DocumentFileTest, AnotherRelativeFolderIsUsedAsWrittenAndTheTypeCountsInA
   EXPECT_EQ(store.groups[0].playlists.size(), 1u);
 }
 
-TEST_F(DocumentFileTest, ADotAndABackslashAnywhereInALinesFolderCostItsFirstTwoCharacters) {
+TEST_F(DocumentFile, ADotAndABackslashAnywhereInALinesFolderCostItsFirstTwoCharacters) {
   files.PutUtf16(u"D:\\Docs\\\\Old.\\Tour.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\\\Up.brvgl", u"p.brvpl\r\n");
   ASSERT_TRUE(Open(u"E:\\Old.\\Tour.brvgl\r\n..\\Up.brvgl\r\n"));
@@ -143,7 +143,7 @@ TEST_F(DocumentFileTest, ADotAndABackslashAnywhereInALinesFolderCostItsFirstTwoC
   EXPECT_EQ(store.groups[1].folder.str(), u"..\\");
 }
 
-TEST_F(DocumentFileTest, AnEmptyGroupListLeavesItsGroupNamedAfterTheWholeFileName) {
+TEST_F(DocumentFile, AnEmptyGroupListLeavesItsGroupNamedAfterTheWholeFileName) {
   files.Put(u"D:\\Docs\\Empty.brvgl");
   ASSERT_TRUE(Open(u"Empty.brvgl\r\n"));
   ASSERT_EQ(store.groups.size(), 1u);
@@ -154,7 +154,7 @@ TEST_F(DocumentFileTest, AnEmptyGroupListLeavesItsGroupNamedAfterTheWholeFileNam
   EXPECT_TRUE(messages.lines.empty());
 }
 
-TEST_F(DocumentFileTest, ALineOfAnotherTypeIsReportedInThreeMessages) {
+TEST_F(DocumentFile, ALineOfAnotherTypeIsReportedInThreeMessages) {
   files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\notes.txt", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
@@ -168,7 +168,7 @@ TEST_F(DocumentFileTest, ALineOfAnotherTypeIsReportedInThreeMessages) {
                 u"Unable to load play list lists file: notes.txt"}));
 }
 
-TEST_F(DocumentFileTest, AMissingGroupListIsReportedAndStaysEmptyWhileTheRestLoads) {
+TEST_F(DocumentFile, AMissingGroupListIsReportedAndStaysEmptyWhileTheRestLoads) {
   files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
   ASSERT_TRUE(Open(u"Gone.brvgl\r\nThere.brvgl\r\n"));
   ASSERT_EQ(store.groups.size(), 2u);
@@ -180,14 +180,14 @@ TEST_F(DocumentFileTest, AMissingGroupListIsReportedAndStaysEmptyWhileTheRestLoa
   EXPECT_EQ(messages.lines.at(0), u"Unable to load play list lists file: Gone.brvgl");
 }
 
-TEST_F(DocumentFileTest, ASongPathWithTheGroupListTypeInItIsTakenForTheFolderForm) {
+TEST_F(DocumentFile, ASongPathWithTheGroupListTypeInItIsTakenForTheFolderForm) {
   ASSERT_TRUE(Open(u"\"X\" \"Y\" \"C:\\brvgl\\a.mp3\" 01:00\r\n"));
   ASSERT_EQ(store.groups.size(), 1u);
   EXPECT_TRUE(store.groups[0].playlists.empty());
   EXPECT_FALSE(messages.lines.empty());
 }
 
-TEST_F(DocumentFileTest, SongsOfTheFolderFormCarryNoLyrics) {
+TEST_F(DocumentFile, SongsOfTheFolderFormCarryNoLyrics) {
   files.PutUtf16(u"D:\\Docs\\T.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"C:\\a.mp3\r\n");
   files.Put(u"C:\\a.lrc", "[00:01.00]First line\r\n");
@@ -195,7 +195,7 @@ TEST_F(DocumentFileTest, SongsOfTheFolderFormCarryNoLyrics) {
   EXPECT_TRUE(PlaylistOf(0, 0).items.at(0).lyrics.Empty());
 }
 
-TEST_F(DocumentFileTest, WhatIsSavedIsReadAgainAsItWas) {
+TEST_F(DocumentFile, WhatIsSavedIsReadAgainAsItWas) {
   const std::u16string text =
       u"\"A\" \"P1\" \"C:\\x.mp3\" 03:00\r\n\"A\" \"P2\" \"y.mp3\" 02:00\r\n\"B\" \"P1\" \"D:\\z.mid\" "
       u"00:00\r\n";
@@ -206,7 +206,7 @@ TEST_F(DocumentFileTest, WhatIsSavedIsReadAgainAsItWas) {
   EXPECT_EQ(store.documentExtension, u"brv");
 }
 
-TEST_F(DocumentFileTest, SongsThatAreSavedStandThereAgainAfterTheNextOpen) {
+TEST_F(DocumentFile, SongsThatAreSavedStandThereAgainAfterTheNextOpen) {
   store.groups.resize(2);
   store.groups[0].name = u"Mariner\rSets";  // a return would end the line
   store.groups[0].playlists.resize(2);
@@ -234,14 +234,14 @@ TEST_F(DocumentFileTest, SongsThatAreSavedStandThereAgainAfterTheNextOpen) {
   EXPECT_EQ(PlaylistOf(1, 0).items.at(0).time, u"01:02:03");
 }
 
-TEST_F(DocumentFileTest, APlaylistWithoutSongsHasNoLine) {
+TEST_F(DocumentFile, APlaylistWithoutSongsHasNoLine) {
   ASSERT_TRUE(Open(u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n"));
   store.groups[0].playlists.emplace_back().name = u"Empty";
   ASSERT_TRUE(Save(kPath));
   EXPECT_EQ(LinesOf(kPath).size(), 1u);
 }
 
-TEST_F(DocumentFileTest, GroupsWithoutASongLeaveTheFileAsItWas) {
+TEST_F(DocumentFile, GroupsWithoutASongLeaveTheFileAsItWas) {
   files.PutUtf16(kPath, u"\"A\" \"P\" \"x.mp3\" 01:00\r\n");
   const auto before = files.BytesOf(kPath);
   store.groups.resize(1);
@@ -253,20 +253,20 @@ TEST_F(DocumentFileTest, GroupsWithoutASongLeaveTheFileAsItWas) {
   EXPECT_EQ(PlaylistOf(0, 0).items.size(), 1u);
 }
 
-TEST_F(DocumentFileTest, AStoreWithoutGroupsLeavesTheFileUntouchedButSetsThePath) {
+TEST_F(DocumentFile, AStoreWithoutGroupsLeavesTheFileUntouchedButSetsThePath) {
   files.PutUtf16(kPath, u"kept");
   EXPECT_FALSE(Save(kPath));
   EXPECT_TRUE(files.writes.empty());
   EXPECT_EQ(store.documentFileName, u"show.brv");
 }
 
-TEST_F(DocumentFileTest, AFailedWriteIsAnsweredWithFalse) {
+TEST_F(DocumentFile, AFailedWriteIsAnsweredWithFalse) {
   ASSERT_TRUE(Open(u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n"));
   files.failWrites = true;
   EXPECT_FALSE(Save(kPath));
 }
 
-TEST_F(DocumentFileTest, AFileThatWasNotReadWholeIsKeptBesideTheNewOne) {
+TEST_F(DocumentFile, AFileThatWasNotReadWholeIsKeptBesideTheNewOne) {
   const std::vector<std::string> foreign = {
       "\"A\" \"P1\" \"x.mp3\" 03:00\r\n",  // 8-bit text
       std::string("a\0\n\0b\0\n\0", 8),    // lone line feeds
@@ -284,7 +284,7 @@ TEST_F(DocumentFileTest, AFileThatWasNotReadWholeIsKeptBesideTheNewOne) {
   }
 }
 
-TEST_F(DocumentFileTest, SongsThatWereTakenForGroupListsAreKeptBesideTheNewFile) {
+TEST_F(DocumentFile, SongsThatWereTakenForGroupListsAreKeptBesideTheNewFile) {
   files.PutUtf16(u"D:\\Docs\\1.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
   ASSERT_TRUE(Open(u"\"X\" \"Y\" \"C:\\brvgl\\a.mp3\" 01:00\r\n1.brvgl\r\n"));
@@ -293,7 +293,7 @@ TEST_F(DocumentFileTest, SongsThatWereTakenForGroupListsAreKeptBesideTheNewFile)
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
 }
 
-TEST_F(DocumentFileTest, AWholeDocumentLeavesNoCopyBehind) {
+TEST_F(DocumentFile, AWholeDocumentLeavesNoCopyBehind) {
   for (const std::u16string_view text :
        {u"\"A\" \"P1\" \"x.mp3\" 03:00\r\n", u"\uFEFF\"A\" \"P1\" \"x.mp3\" 03:00\r\n"}) {
     ASSERT_TRUE(Open(text));
@@ -302,7 +302,7 @@ TEST_F(DocumentFileTest, AWholeDocumentLeavesNoCopyBehind) {
   }
 }
 
-TEST_F(DocumentFileTest, TheListOfGroupFilesIsKeptBesideTheSongsThatReplaceIt) {
+TEST_F(DocumentFile, TheListOfGroupFilesIsKeptBesideTheSongsThatReplaceIt) {
   files.PutUtf16(u"D:\\Docs\\There.brvgl", u"p.brvpl\r\n");
   files.PutUtf16(u"D:\\Docs\\p.brvpl", u"a.mp3\r\n");
   ASSERT_TRUE(Open(u"Gone.brvgl\r\nThere.brvgl\r\n"));
@@ -311,7 +311,7 @@ TEST_F(DocumentFileTest, TheListOfGroupFilesIsKeptBesideTheSongsThatReplaceIt) {
   EXPECT_EQ(files.BytesOf(u"D:\\Docs\\show.brv~"), before);
 }
 
-TEST_F(DocumentFileTest, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
+TEST_F(DocumentFile, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
   files.Put(kPath, "other text");
   ASSERT_TRUE(document.OpenSetListDocument(kPath));
   files.failCopies = true;
@@ -319,7 +319,7 @@ TEST_F(DocumentFileTest, WhenTheForeignFileCannotBeKeptItIsNotReplaced) {
   EXPECT_EQ(files.BytesOf(kPath), "other text");
 }
 
-TEST_F(DocumentFileTest, SongsThatAreLoadedReplaceWhatStoodThere) {
+TEST_F(DocumentFile, SongsThatAreLoadedReplaceWhatStoodThere) {
   store.groups.resize(2);
   store.groups[1].name = u"A";
   ASSERT_TRUE(document.LoadFlatDocument(JoinUtf16Lines({u"\"A\" \"P\" \"x.mp3\" 03:00"})));
@@ -327,7 +327,7 @@ TEST_F(DocumentFileTest, SongsThatAreLoadedReplaceWhatStoodThere) {
   EXPECT_EQ(PlaylistOf(0, 0).items.size(), 1u);
 }
 
-TEST_F(DocumentFileTest, ADocumentIsReadFromTheDiskOnceInEitherForm) {
+TEST_F(DocumentFile, ADocumentIsReadFromTheDiskOnceInEitherForm) {
   ASSERT_TRUE(Open(u"gone.brvgl\r\n"));
   EXPECT_EQ(std::count(files.reads.begin(), files.reads.end(), kPath), 1);
   files.ForgetRequests();
@@ -341,7 +341,7 @@ TEST(DocumentPath, ADocumentIsToldByItsTypeInAnyCase) {
   EXPECT_FALSE(IsDocumentPath(u"D:\\Docs\\show"));
 }
 
-TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {
+TEST_F(DocumentFile, AThousandPlaylistsAreToldApart) {
   TextLines lines;
   for (int i = 0; i < 3000; ++i) {
     const std::string name = std::to_string(i % 1000);
@@ -352,7 +352,7 @@ TEST_F(DocumentFileTest, AThousandPlaylistsAreToldApart) {
   EXPECT_EQ(PlaylistOf(0, 999).items.size(), 3u);
 }
 
-TEST_F(DocumentFileTest, GarbageIsReadWithoutHarm) {
+TEST_F(DocumentFile, GarbageIsReadWithoutHarm) {
   std::string garbage;
   std::uint32_t state = 12345;
   for (int i = 0; i < 100001; ++i) {

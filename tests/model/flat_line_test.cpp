@@ -5,7 +5,7 @@
 namespace brevant {
 namespace {
 
-TEST(FlatLineTest, ALineIsWrittenInQuotesWithOneBlankBetween) {
+TEST(FlatLine, ALineIsWrittenInQuotesWithOneBlankBetween) {
   TCPlayListItem song;
   song.SetPath(u"C:\\Music\\Open Road.mp3");
   song.time = u"03:25";
@@ -13,25 +13,25 @@ TEST(FlatLineTest, ALineIsWrittenInQuotesWithOneBlankBetween) {
             u"\"Mariner Sets\" \"Set 1\" \"C:\\Music\\Open Road.mp3\" 03:25");
 }
 
-TEST(FlatLineTest, ASongWithoutAFolderIsWrittenWithItsBareName) {
+TEST(FlatLine, ASongWithoutAFolderIsWrittenWithItsBareName) {
   TCPlayListItem song;
   song.SetPath(u"encore.mid");
   EXPECT_EQ(FormatFlatLine(u"A", u"B", song), u"\"A\" \"B\" \"encore.mid\" 00:00");
 }
 
-TEST(FlatLineTest, ADoubleQuoteInANameIsLeftOut) {
+TEST(FlatLine, ADoubleQuoteInANameIsLeftOut) {
   TCPlayListItem song;
   song.SetPath(u"x.mp3");
   EXPECT_EQ(FormatFlatLine(u"The \"Best\"", u"P\"", song), u"\"The Best\" \"P\" \"x.mp3\" 00:00");
 }
 
-TEST(FlatLineTest, ACarriageReturnInATextIsLeftOutBecauseItWouldEndTheLine) {
+TEST(FlatLine, ACarriageReturnInATextIsLeftOutBecauseItWouldEndTheLine) {
   TCPlayListItem song;
   song.SetPath(u"C:\\x\r.mp3");
   EXPECT_EQ(FormatFlatLine(u"Mariner\r\nSets", u"\rP", song), u"\"Mariner\nSets\" \"P\" \"C:\\x.mp3\" 00:00");
 }
 
-TEST(FlatLineTest, TheFourTextsOfALineAreRead) {
+TEST(FlatLine, TheFourTextsOfALineAreRead) {
   const TCFlatLine line = ParseFlatLine(u"\"Mariner Sets\" \"Set 1\" \"C:\\My Songs\\z.wav\" 03:25");
   EXPECT_EQ(line.group, u"Mariner Sets");
   EXPECT_EQ(line.playlist, u"Set 1");
@@ -39,7 +39,7 @@ TEST(FlatLineTest, TheFourTextsOfALineAreRead) {
   EXPECT_EQ(line.time, u"03:25");
 }
 
-TEST(FlatLineTest, BlanksRoundQuotesAndBehindTheTimeAreSkipped) {
+TEST(FlatLine, BlanksRoundQuotesAndBehindTheTimeAreSkipped) {
   const TCFlatLine line = ParseFlatLine(u"  \"A\"\t \"P\"\"x.mp3\"   \t01:02\tmore");
   EXPECT_EQ(line.group, u"A");
   EXPECT_EQ(line.playlist, u"P");
@@ -47,7 +47,7 @@ TEST(FlatLineTest, BlanksRoundQuotesAndBehindTheTimeAreSkipped) {
   EXPECT_EQ(line.time, u"01:02");
 }
 
-TEST(FlatLineTest, LeadingBlanksInsideTheQuotesAreSkippedAndTrailingOnesKept) {
+TEST(FlatLine, LeadingBlanksInsideTheQuotesAreSkippedAndTrailingOnesKept) {
   const TCFlatLine line = ParseFlatLine(u"\"  A \" \"\t P \" \"   \" 01:02");
   EXPECT_EQ(line.group, u"A ");
   EXPECT_EQ(line.playlist, u"P ");
@@ -55,11 +55,11 @@ TEST(FlatLineTest, LeadingBlanksInsideTheQuotesAreSkippedAndTrailingOnesKept) {
   EXPECT_EQ(line.time, u"01:02");
 }
 
-TEST(FlatLineTest, AMissingTimeIsEmpty) {
+TEST(FlatLine, AMissingTimeIsEmpty) {
   EXPECT_EQ(ParseFlatLine(u"\"A\" \"P1\" \"C:\\My Songs\\z.wav\"").time, u"");
 }
 
-TEST(FlatLineTest, ATextWithoutItsClosingQuoteTakesTheWholeRest) {
+TEST(FlatLine, ATextWithoutItsClosingQuoteTakesTheWholeRest) {
   const TCFlatLine line = ParseFlatLine(u"\"A\" \"P and more");
   EXPECT_EQ(line.group, u"A");
   EXPECT_EQ(line.playlist, u"P and more");
@@ -67,7 +67,7 @@ TEST(FlatLineTest, ATextWithoutItsClosingQuoteTakesTheWholeRest) {
   EXPECT_EQ(line.time, u"");
 }
 
-TEST(FlatLineTest, ALineWithoutAQuoteGivesEmptyTexts) {
+TEST(FlatLine, ALineWithoutAQuoteGivesEmptyTexts) {
   for (const std::u16string_view text : {u"", u"garbage", u"   "}) {
     const TCFlatLine line = ParseFlatLine(text);
     EXPECT_EQ(line.group, u"");
@@ -77,7 +77,7 @@ TEST(FlatLineTest, ALineWithoutAQuoteGivesEmptyTexts) {
   }
 }
 
-TEST(FlatLineTest, ALineIsWholeWhenNothingBesideItsTextsStandsInIt) {
+TEST(FlatLine, ALineIsWholeWhenNothingBesideItsTextsStandsInIt) {
   EXPECT_TRUE(IsWholeFlatLine(u"\"A\" \"P\" \"x.mp3\" 01:02"));
   EXPECT_TRUE(IsWholeFlatLine(u" \"A\"  \"P\"  \"x.mp3\""));
   EXPECT_FALSE(IsWholeFlatLine(u"\"A\" \"P\" \"x.mp3\" 01:02 and more"));

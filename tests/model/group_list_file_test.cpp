@@ -8,7 +8,7 @@
 namespace brevant {
 namespace {
 
-class GroupListFileTest : public testing::Test {
+class GroupListFile : public testing::Test {
  protected:
   TCMemoryFiles files;
   TCSetListStore store;
@@ -18,13 +18,13 @@ class GroupListFileTest : public testing::Test {
   bool Load(std::u16string_view path) { return LoadGroupListFile(files, store, messages, group, path); }
 };
 
-TEST_F(GroupListFileTest, BothSetListTypesAreAcceptedInAnyCase) {
+TEST_F(GroupListFile, BothSetListTypesAreAcceptedInAnyCase) {
   EXPECT_TRUE(IsSetListFileType(u"SETS.BRVGL", messages));
   EXPECT_TRUE(IsSetListFileType(u"x.brvpl", messages));
   EXPECT_TRUE(messages.lines.empty());
 }
 
-TEST_F(GroupListFileTest, AnotherTypeIsRefusedInTwoMessages) {
+TEST_F(GroupListFile, AnotherTypeIsRefusedInTwoMessages) {
   group.name = u"kept";
   files.PutUtf16(u"D:\\sets.txt", u"a.brvpl\r\n");
   EXPECT_FALSE(Load(u"D:\\sets.txt"));
@@ -35,19 +35,19 @@ TEST_F(GroupListFileTest, AnotherTypeIsRefusedInTwoMessages) {
   EXPECT_TRUE(group.playlists.empty());
 }
 
-TEST_F(GroupListFileTest, AFileWithoutLinesLeavesTheGroupAndSucceeds) {
+TEST_F(GroupListFile, AFileWithoutLinesLeavesTheGroupAndSucceeds) {
   group.name = u"kept";
   files.Put(u"D:\\e.brvgl");
   EXPECT_TRUE(Load(u"D:\\e.brvgl"));
   EXPECT_EQ(group.name, u"kept");
 }
 
-TEST_F(GroupListFileTest, AMissingFileFailsWithoutAMessage) {
+TEST_F(GroupListFile, AMissingFileFailsWithoutAMessage) {
   EXPECT_FALSE(Load(u"D:\\none.brvgl"));
   EXPECT_TRUE(messages.lines.empty());
 }
 
-TEST_F(GroupListFileTest, ABareNameIsTakenFromTheGroupListsFolderAndRemembered) {
+TEST_F(GroupListFile, ABareNameIsTakenFromTheGroupListsFolderAndRemembered) {
   files.PutUtf16(u"D:\\Shows\\Summer Tour.brvgl", u"Set 1.brvpl\r\nE:\\Other\\Encore.brvpl\r\n");
   files.PutUtf16(u"D:\\Shows\\Set 1.brvpl", u"a.mp3*01:00\r\n");
   files.PutUtf16(u"E:\\Other\\Encore.brvpl", u"b.mp3*02:00\r\n");
@@ -64,7 +64,7 @@ TEST_F(GroupListFileTest, ABareNameIsTakenFromTheGroupListsFolderAndRemembered) 
   EXPECT_EQ(group.extension, u"brvgl");
 }
 
-TEST_F(GroupListFileTest, TheGroupIsNamedAfterItsFile) {
+TEST_F(GroupListFile, TheGroupIsNamedAfterItsFile) {
   files.PutUtf16(u"D:\\Shows\\Summer.Tour.BRVPL", u"E:\\p.brvpl\r\n");
   files.PutUtf16(u"E:\\p.brvpl", u"a.mp3\r\n");
   group.folder = u"C:\\elsewhere\\";
@@ -74,7 +74,7 @@ TEST_F(GroupListFileTest, TheGroupIsNamedAfterItsFile) {
   EXPECT_EQ(group.extension, u"BRVPL");
 }
 
-TEST_F(GroupListFileTest, ALineWithAFolderIsUsedAsWrittenAlsoWhenItBeginsWithADot) {
+TEST_F(GroupListFile, ALineWithAFolderIsUsedAsWrittenAlsoWhenItBeginsWithADot) {
   files.PutUtf16(u"D:\\Shows\\g.brvgl", u".\\p.brvpl\r\nSub\\q.brvpl\r\n");
   files.PutUtf16(u".\\p.brvpl", u"a.mp3\r\n");
   files.PutUtf16(u"Sub\\q.brvpl", u"a.mp3\r\nb.mp3\r\n");
@@ -88,7 +88,7 @@ TEST_F(GroupListFileTest, ALineWithAFolderIsUsedAsWrittenAlsoWhenItBeginsWithADo
   EXPECT_EQ(group.playlists[1].items.size(), 2u);
 }
 
-TEST_F(GroupListFileTest, AnEmptyPlaylistFileIsNoFailureAndLeavesTheNameItWasListedUnder) {
+TEST_F(GroupListFile, AnEmptyPlaylistFileIsNoFailureAndLeavesTheNameItWasListedUnder) {
   files.PutUtf16(u"D:\\g.brvgl", u"empty.brvpl\r\n");
   files.Put(u"D:\\empty.brvpl");
   group.folder = u"D:\\";
@@ -101,7 +101,7 @@ TEST_F(GroupListFileTest, AnEmptyPlaylistFileIsNoFailureAndLeavesTheNameItWasLis
   EXPECT_EQ(group.playlists[0].extension, u"brvgl");
 }
 
-TEST_F(GroupListFileTest, AMissingPlaylistIsReportedAndStaysEmptyWhileTheRestLoads) {
+TEST_F(GroupListFile, AMissingPlaylistIsReportedAndStaysEmptyWhileTheRestLoads) {
   files.PutUtf16(u"D:\\g.brvgl", u"gone.brvpl\r\nthere.brvpl\r\n");
   files.PutUtf16(u"D:\\there.brvpl", u"a.mp3\r\n");
   group.folder = u"D:\\";
@@ -115,7 +115,7 @@ TEST_F(GroupListFileTest, AMissingPlaylistIsReportedAndStaysEmptyWhileTheRestLoa
   EXPECT_EQ(group.playlists[1].items.size(), 1u);
 }
 
-TEST_F(GroupListFileTest, AGroupListInBinaryIsReadAsTextAllTheSame) {
+TEST_F(GroupListFile, AGroupListInBinaryIsReadAsTextAllTheSame) {
   files.Put(u"D:\\b.brvgl", std::string("\x01\x00\x02\xFF\x0D\x00\x0A\x00", 8));
   EXPECT_TRUE(Load(u"D:\\b.brvgl"));
   EXPECT_EQ(group.playlists.size(), 1u);

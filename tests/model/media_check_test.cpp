@@ -8,7 +8,7 @@
 namespace brevant {
 namespace {
 
-TEST(MediaCheckTest, TheDefaultTypesAreValidInAnyCase) {
+TEST(MediaCheck, TheDefaultTypesAreValidInAnyCase) {
   TCSetListStore store;
   EXPECT_TRUE(IsValidMediaExtension(store, ExtensionPart(u"song.MP3")));
   EXPECT_TRUE(IsValidMediaExtension(store, u"wma"));
@@ -16,32 +16,32 @@ TEST(MediaCheckTest, TheDefaultTypesAreValidInAnyCase) {
   EXPECT_FALSE(IsValidMediaExtension(store, ExtensionPart(u"song")));
 }
 
-TEST(MediaCheckTest, OnlyWholeWordsOfTheListCount) {
+TEST(MediaCheck, OnlyWholeWordsOfTheListCount) {
   TCSetListStore store;
   EXPECT_FALSE(IsValidMediaExtension(store, u"mp"));
   EXPECT_FALSE(IsValidMediaExtension(store, u"mp3 wav"));
 }
 
-TEST(MediaCheckTest, TheListIsStoredLowerCasedByTheFirstCheck) {
+TEST(MediaCheck, TheListIsStoredLowerCasedByTheFirstCheck) {
   TCSetListStore store;
   store.validMediaExtensions = u"MP3 Wav";
   EXPECT_TRUE(IsValidMediaExtension(store, u"wav"));
   EXPECT_EQ(store.validMediaExtensions, u"mp3 wav");
 }
 
-TEST(MediaCheckTest, AQuotedTypeCountsLikeAnother) {
+TEST(MediaCheck, AQuotedTypeCountsLikeAnother) {
   TCSetListStore store;
   store.validMediaExtensions = u"\"mp3\" wav";
   EXPECT_TRUE(IsValidMediaExtension(store, u"mp3"));
 }
 
-TEST(MediaCheckTest, AnEmptyTypeIsInvalidEvenInAListWithAnEmptyWord) {
+TEST(MediaCheck, AnEmptyTypeIsInvalidEvenInAListWithAnEmptyWord) {
   TCSetListStore store;
   store.validMediaExtensions = u"\"\" mp3";
   EXPECT_FALSE(IsValidMediaExtension(store, u""));
 }
 
-TEST(MediaCheckTest, ASongIsFoundWhenItsFileCanBeOpened) {
+TEST(MediaCheck, ASongIsFoundWhenItsFileCanBeOpened) {
   TCMemoryFiles files;
   files.Put(u"C:\\a.txt");
   EXPECT_EQ(SongFileStatus(files, u"C:\\a.txt"), TCSongStatus::Found);

@@ -7,7 +7,7 @@
 namespace brevant {
 namespace {
 
-TEST(MessageDisplayTest, ADetailStandsOneBlankBehindTheMessagesOwnColon) {
+TEST(MessageDisplay, ADetailStandsOneBlankBehindTheMessagesOwnColon) {
   TCMessageLog messages;
   messages.AppendMessage(TCTextId::UnableToPlayMissingFile, u"C:\\a.mp3");
   messages.AppendMessage(TCTextId::Banner);

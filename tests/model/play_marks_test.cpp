@@ -19,23 +19,23 @@ std::vector<TCPlayMark> MarksWith(std::size_t songs, std::int32_t current) {
 
 using enum TCPlayMark;
 
-TEST(PlayMarksTest, TheFirstSongHasNoneBeforeIt) {
+TEST(PlayMarks, TheFirstSongHasNoneBeforeIt) {
   EXPECT_EQ(MarksWith(4, 0), (std::vector{Current, Next, Ordinary, Ordinary}));
 }
 
-TEST(PlayMarksTest, ASongInTheMiddleStandsBetweenPreviousAndNext) {
+TEST(PlayMarks, ASongInTheMiddleStandsBetweenPreviousAndNext) {
   EXPECT_EQ(MarksWith(5, 2), (std::vector{Ordinary, Previous, Current, Next, Ordinary}));
 }
 
-TEST(PlayMarksTest, TheLastSongHasNoNext) {
+TEST(PlayMarks, TheLastSongHasNoNext) {
   EXPECT_EQ(MarksWith(3, 2), (std::vector{Ordinary, Previous, Current}));
 }
 
-TEST(PlayMarksTest, AnOnlySongIsCurrent) {
+TEST(PlayMarks, AnOnlySongIsCurrent) {
   EXPECT_EQ(MarksWith(1, 0), (std::vector{Current}));
 }
 
-TEST(PlayMarksTest, APositionThatNamesNoSongChangesNoMark) {
+TEST(PlayMarks, APositionThatNamesNoSongChangesNoMark) {
   for (const std::int32_t wrong : {-1, 3, 1000}) {
     TCSetListStore store;
     store.groups.resize(1);
@@ -48,7 +48,7 @@ TEST(PlayMarksTest, APositionThatNamesNoSongChangesNoMark) {
   }
 }
 
-TEST(PlayMarksTest, RowsTakeTheColourOfTheirMark) {
+TEST(PlayMarks, RowsTakeTheColourOfTheirMark) {
   const TCSettings settings;
   EXPECT_EQ(RowTextColour(Ordinary, settings), 0xFFFFFFu);
   EXPECT_EQ(RowTextColour(Next, settings), 0xFFBF00u);
@@ -56,7 +56,7 @@ TEST(PlayMarksTest, RowsTakeTheColourOfTheirMark) {
   EXPECT_EQ(RowTextColour(Previous, settings), 0xFF0000u);
 }
 
-TEST(PlayMarksTest, WithoutDynamicColoursEveryRowTakesTheTextColour) {
+TEST(PlayMarks, WithoutDynamicColoursEveryRowTakesTheTextColour) {
   TCSettings settings;
   settings.dynamicPlayColours = false;
   settings.SetWhiteOnBlack(false);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::u16string_view kPath = u"D:\\Shows\\Set 1.brvpl";
 
-class PlaylistFileTest : public testing::Test {
+class PlaylistFile : public testing::Test {
  protected:
   TCMemoryFiles files;
   TCSetListStore store;
@@ -21,7 +21,7 @@ class PlaylistFileTest : public testing::Test {
   }
 };
 
-TEST_F(PlaylistFileTest, AMarkAtTheStartIsNoPartOfTheFirstName) {
+TEST_F(PlaylistFile, AMarkAtTheStartIsNoPartOfTheFirstName) {
   ASSERT_TRUE(Load(u"\uFEFFa.mp3*03:00\r\nb.mp3*04:00\r\n"));
   ASSERT_EQ(playlist.items.size(), 2u);
   EXPECT_EQ(playlist.items[0].fileName, u"a.mp3");
@@ -30,7 +30,7 @@ TEST_F(PlaylistFileTest, AMarkAtTheStartIsNoPartOfTheFirstName) {
   EXPECT_EQ(playlist.totalTime, u"07:15");
 }
 
-TEST_F(PlaylistFileTest, AnUnendedLastLineIsDroppedUnlessItIsTheOnlyOne) {
+TEST_F(PlaylistFile, AnUnendedLastLineIsDroppedUnlessItIsTheOnlyOne) {
   ASSERT_TRUE(Load(u"a.mp3*03:00\r\nb.mp3*04:00"));
   EXPECT_EQ(playlist.items.size(), 1u);
   ASSERT_TRUE(Load(u"a.mp3*03:00"));
@@ -38,14 +38,14 @@ TEST_F(PlaylistFileTest, AnUnendedLastLineIsDroppedUnlessItIsTheOnlyOne) {
   EXPECT_EQ(playlist.items[0].time, u"03:00");
 }
 
-TEST_F(PlaylistFileTest, LoneLineFeedsMakeOneSongWithThemInItsPath) {
+TEST_F(PlaylistFile, LoneLineFeedsMakeOneSongWithThemInItsPath) {
   ASSERT_TRUE(Load(u"a.mp3\nb.mp3\n"));
   ASSERT_EQ(playlist.items.size(), 1u);
   EXPECT_EQ(playlist.items[0].FullPath(), u"a.mp3\nb.mp3\n");
   EXPECT_EQ(playlist.items[0].status, TCSongStatus::NotFound);
 }
 
-TEST_F(PlaylistFileTest, TheFirstStarParts) {
+TEST_F(PlaylistFile, TheFirstStarParts) {
   ASSERT_TRUE(Load(u"x.mp3 * 02:10\r\n*02:10\r\na*b*c\r\nplain.mp3\r\n"));
   ASSERT_EQ(playlist.items.size(), 4u);
   EXPECT_EQ(playlist.items[0].fileName, u"x.mp3");
@@ -58,14 +58,14 @@ TEST_F(PlaylistFileTest, TheFirstStarParts) {
   EXPECT_EQ(playlist.items[3].time, u"00:00");
 }
 
-TEST_F(PlaylistFileTest, AnEmptyLineIsASongWithoutAPath) {
+TEST_F(PlaylistFile, AnEmptyLineIsASongWithoutAPath) {
   ASSERT_TRUE(Load(u"a.mp3\r\n\r\n"));
   ASSERT_EQ(playlist.items.size(), 2u);
   EXPECT_EQ(playlist.items[1].FullPath(), u"");
   EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
 }
 
-TEST_F(PlaylistFileTest, SongsAlreadyThereKeepTheirPlacesAndWhatTheFileDoesNotSay) {
+TEST_F(PlaylistFile, SongsAlreadyThereKeepTheirPlacesAndWhatTheFileDoesNotSay) {
   playlist.items.resize(5);
   playlist.items[0].time = u"09:09";
   playlist.items[0].option1 = u"kept";
@@ -81,7 +81,7 @@ TEST_F(PlaylistFileTest, SongsAlreadyThereKeepTheirPlacesAndWhatTheFileDoesNotSa
   EXPECT_EQ(playlist.items[2].extension.str(), u"mp3");
 }
 
-TEST_F(PlaylistFileTest, SongsAreFoundOrNotByTheirFilesAlone) {
+TEST_F(PlaylistFile, SongsAreFoundOrNotByTheirFilesAlone) {
   files.Put(u"C:\\Music\\there.flac");
   ASSERT_TRUE(Load(u"C:\\Music\\there.flac*01:00\r\nC:\\Music\\gone.mp3*01:00\r\n"));
   EXPECT_EQ(playlist.items[0].status, TCSongStatus::Found);
@@ -90,7 +90,7 @@ TEST_F(PlaylistFileTest, SongsAreFoundOrNotByTheirFilesAlone) {
   EXPECT_EQ(playlist.items[1].status, TCSongStatus::NotFound);
 }
 
-TEST_F(PlaylistFileTest, ARelativeSongIsNotLookedForBesideThePlaylist) {
+TEST_F(PlaylistFile, ARelativeSongIsNotLookedForBesideThePlaylist) {
   files.Put(u"D:\\Shows\\a.mp3");
   files.Put(u"b.mp3");
   ASSERT_TRUE(Load(u"a.mp3*01:00\r\nb.mp3*01:00\r\n"));
@@ -98,20 +98,20 @@ TEST_F(PlaylistFileTest, ARelativeSongIsNotLookedForBesideThePlaylist) {
   EXPECT_EQ(playlist.items[1].status, TCSongStatus::Found);
 }
 
-TEST_F(PlaylistFileTest, ThePlaylistIsNamedAfterItsFile) {
+TEST_F(PlaylistFile, ThePlaylistIsNamedAfterItsFile) {
   ASSERT_TRUE(Load(u"a.mp3\r\n"));
   EXPECT_EQ(playlist.name, u"Set 1");
   EXPECT_EQ(playlist.folder.str(), u"D:\\Shows\\");
   EXPECT_EQ(playlist.extension, u"brvpl");
 }
 
-TEST_F(PlaylistFileTest, AMissingFileChangesNothing) {
+TEST_F(PlaylistFile, AMissingFileChangesNothing) {
   playlist.name = u"kept";
   EXPECT_FALSE(LoadPlaylistFile(files, store, playlist, u"D:\\none.brvpl"));
   EXPECT_EQ(playlist.name, u"kept");
 }
 
-TEST_F(PlaylistFileTest, AFileWithoutLinesChangesNothingAndSucceeds) {
+TEST_F(PlaylistFile, AFileWithoutLinesChangesNothingAndSucceeds) {
   playlist.name = u"kept";
   playlist.items.resize(2);
   EXPECT_TRUE(Load(u""));
@@ -119,7 +119,7 @@ TEST_F(PlaylistFileTest, AFileWithoutLinesChangesNothingAndSucceeds) {
   EXPECT_EQ(playlist.items.size(), 2u);
 }
 
-TEST_F(PlaylistFileTest, EightBitTextIsOneSongThatIsNotFound) {
+TEST_F(PlaylistFile, EightBitTextIsOneSongThatIsNotFound) {
   files.Put(kPath, "a.mp3*03:00\r\nb.mp3*04:00\r\n");
   ASSERT_TRUE(LoadPlaylistFile(files, store, playlist, kPath));
   ASSERT_EQ(playlist.items.size(), 1u);

@@ -14,7 +14,7 @@ std::u16string AllOf(const TCReportLines& lines) {
   return text;
 }
 
-TEST(ReportLinesTest, BeforeItIsEnabledAppendsAndClearsDoNothing) {
+TEST(ReportLines, BeforeItIsEnabledAppendsAndClearsDoNothing) {
   TCReportLines lines;
   lines.Append(u"lost", TCLineRole::Normal);
   lines.Clear();
@@ -23,7 +23,7 @@ TEST(ReportLinesTest, BeforeItIsEnabledAppendsAndClearsDoNothing) {
   EXPECT_EQ(AllOf(lines), u"");
 }
 
-TEST(ReportLinesTest, LinesStandOldestFirstEachWithItsLineEnd) {
+TEST(ReportLines, LinesStandOldestFirstEachWithItsLineEnd) {
   TCReportLines lines;
   lines.Enable(4);
   lines.Append(u"one", TCLineRole::Normal);
@@ -32,7 +32,7 @@ TEST(ReportLinesTest, LinesStandOldestFirstEachWithItsLineEnd) {
   EXPECT_EQ(lines.Lines()[1].role, TCLineRole::SingerF);
 }
 
-TEST(ReportLinesTest, TheThousandAndTwentyFifthLinePushesOutTheFirst) {
+TEST(ReportLines, TheThousandAndTwentyFifthLinePushesOutTheFirst) {
   TCReportLines lines;
   lines.Enable(1024);
   for (int i = 1; i <= 1025; ++i) lines.Append(FormatDecimal(i), TCLineRole::Normal);
@@ -45,14 +45,14 @@ TEST(ReportLinesTest, TheThousandAndTwentyFifthLinePushesOutTheFirst) {
   }
 }
 
-TEST(ReportLinesTest, TheOldestGoWhileNewOnesCome) {
+TEST(ReportLines, TheOldestGoWhileNewOnesCome) {
   TCReportLines lines;
   lines.Enable(3);
   for (int i = 1; i <= 10; ++i) lines.Append(FormatDecimal(i), TCLineRole::Normal);
   EXPECT_EQ(AllOf(lines), u"8\r\n9\r\n10\r\n");
 }
 
-TEST(ReportLinesTest, AfterAClearOneAppendShowsExactlyThatLine) {
+TEST(ReportLines, AfterAClearOneAppendShowsExactlyThatLine) {
   TCReportLines lines;
   lines.Enable(3);
   for (int i = 0; i < 5; ++i) lines.Append(u"old", TCLineRole::Normal);

@@ -12,9 +12,9 @@ namespace {
 using testing::ElementsAre;
 
 // Two groups; "a0" to "a4" are the songs of the first playlist of the first.
-class SetListEditTest : public testing::Test {
+class SetListEdit : public testing::Test {
  protected:
-  SetListEditTest() {
+  SetListEdit() {
     store.groups.resize(2);
     store.groups[0].name = u"A";
     store.groups[1].name = u"B";
@@ -62,25 +62,25 @@ class SetListEditTest : public testing::Test {
   TCSetListStore store;
 };
 
-TEST_F(SetListEditTest, AMovedSongStandsWhereItsTargetStood) {
+TEST_F(SetListEdit, AMovedSongStandsWhereItsTargetStood) {
   ASSERT_TRUE(MoveSong(store, {0, 0, 0}, {0, 0, 2}));
   EXPECT_THAT(Songs(0), ElementsAre(u"a1", u"a2", u"a0", u"a3", u"a4"));
   ASSERT_TRUE(MoveSong(store, {0, 0, 4}, {0, 0, 1}));
   EXPECT_THAT(Songs(0), ElementsAre(u"a1", u"a4", u"a2", u"a0", u"a3"));
 }
 
-TEST_F(SetListEditTest, ASongMovedOntoItsNeighbourChangesPlacesWithIt) {
+TEST_F(SetListEdit, ASongMovedOntoItsNeighbourChangesPlacesWithIt) {
   ASSERT_TRUE(MoveSong(store, {0, 0, 1}, {0, 0, 2}));
   EXPECT_THAT(Songs(0), ElementsAre(u"a0", u"a2", u"a1", u"a3", u"a4"));
 }
 
-TEST_F(SetListEditTest, ASongMovedIntoAnotherPlaylistTakesItsTargetsPlaceThere) {
+TEST_F(SetListEdit, ASongMovedIntoAnotherPlaylistTakesItsTargetsPlaceThere) {
   ASSERT_TRUE(MoveSong(store, {0, 0, 3}, {0, 1, 1}));
   EXPECT_THAT(Songs(0), ElementsAre(u"a0", u"a1", u"a2", u"a4"));
   EXPECT_THAT(Songs(1), ElementsAre(u"b0", u"a3", u"b1", u"b2", u"b3", u"b4"));
 }
 
-TEST_F(SetListEditTest, TheCurrentSongStaysTheSameSongWhileOthersMove) {
+TEST_F(SetListEdit, TheCurrentSongStaysTheSameSongWhileOthersMove) {
   for (std::int32_t current = 0; current < 5; ++current) {
     for (std::int32_t from = 0; from < 5; ++from) {
       for (std::int32_t to = 0; to < 5; ++to) {
@@ -95,7 +95,7 @@ TEST_F(SetListEditTest, TheCurrentSongStaysTheSameSongWhileOthersMove) {
   }
 }
 
-TEST_F(SetListEditTest, TheCurrentSongStaysWhenSongsComeAndGoInFrontOfIt) {
+TEST_F(SetListEdit, TheCurrentSongStaysWhenSongsComeAndGoInFrontOfIt) {
   store.currentSong = 2;
   ASSERT_TRUE(InsertSong(store, {0, 0, 2}, {}));
   EXPECT_EQ(CurrentSongName(), u"a2");
@@ -107,7 +107,7 @@ TEST_F(SetListEditTest, TheCurrentSongStaysWhenSongsComeAndGoInFrontOfIt) {
   EXPECT_EQ(CurrentSongName(), u"a2");
 }
 
-TEST_F(SetListEditTest, SeveralSongsComeAtOnceAndPushTheCurrentOneAlong) {
+TEST_F(SetListEdit, SeveralSongsComeAtOnceAndPushTheCurrentOneAlong) {
   std::vector<TCPlayListItem> songs(2);
   songs[0].fileName = u"x";
   songs[1].fileName = u"y";
@@ -121,7 +121,7 @@ TEST_F(SetListEditTest, SeveralSongsComeAtOnceAndPushTheCurrentOneAlong) {
   EXPECT_FALSE(InsertSongs(store, {0, 9, 0}, songs));
 }
 
-TEST_F(SetListEditTest, SongsOfOtherPlaylistsLeaveTheCurrentSongAlone) {
+TEST_F(SetListEdit, SongsOfOtherPlaylistsLeaveTheCurrentSongAlone) {
   store.currentSong = 2;
   ASSERT_TRUE(InsertSong(store, {0, 1, 0}, {}));
   ASSERT_TRUE(RemoveSong(store, {0, 1, 1}));
@@ -129,7 +129,7 @@ TEST_F(SetListEditTest, SongsOfOtherPlaylistsLeaveTheCurrentSongAlone) {
   EXPECT_EQ(CurrentSongName(), u"a2");
 }
 
-TEST_F(SetListEditTest, ARemovedSongLeavesItsNumberToTheNext) {
+TEST_F(SetListEdit, ARemovedSongLeavesItsNumberToTheNext) {
   store.currentSong = 1;
   ASSERT_TRUE(RemoveSong(store, {0, 0, 1}));
   EXPECT_EQ(CurrentSongName(), u"a2");
@@ -137,7 +137,7 @@ TEST_F(SetListEditTest, ARemovedSongLeavesItsNumberToTheNext) {
   EXPECT_EQ(CurrentSongName(), u"a3");
 }
 
-TEST_F(SetListEditTest, SeveralSongsGoAtOnceAndMissingOnesArePassedOver) {
+TEST_F(SetListEdit, SeveralSongsGoAtOnceAndMissingOnesArePassedOver) {
   ASSERT_TRUE(RemoveSongs(store, {0, 0}, {-1, 0, 3, 9}));
   EXPECT_THAT(Songs(0), ElementsAre(u"a1", u"a2", u"a4"));
   EXPECT_FALSE(RemoveSongs(store, {0, 0}, {3, 4}));
@@ -146,7 +146,7 @@ TEST_F(SetListEditTest, SeveralSongsGoAtOnceAndMissingOnesArePassedOver) {
   EXPECT_THAT(Songs(0), ElementsAre(u"a1", u"a2", u"a4"));
 }
 
-TEST_F(SetListEditTest, ACurrentSongThatIsNoneFollowsNothing) {
+TEST_F(SetListEdit, ACurrentSongThatIsNoneFollowsNothing) {
   store.currentSong = 7;
   ASSERT_TRUE(InsertSong(store, {0, 0, 0}, {}));
   EXPECT_EQ(store.currentSong, 7);
@@ -155,7 +155,7 @@ TEST_F(SetListEditTest, ACurrentSongThatIsNoneFollowsNothing) {
   EXPECT_EQ(store.currentSong, -1);
 }
 
-TEST_F(SetListEditTest, AMovedPlaylistStaysCurrentAndShownInItsNewGroup) {
+TEST_F(SetListEdit, AMovedPlaylistStaysCurrentAndShownInItsNewGroup) {
   store.currentPlaylist = 1;
   store.shown = {0, 1};
   ASSERT_TRUE(MovePlaylist(store, {0, 1}, {1, 2}));
@@ -165,7 +165,7 @@ TEST_F(SetListEditTest, AMovedPlaylistStaysCurrentAndShownInItsNewGroup) {
   EXPECT_EQ(ShownName(), u"A1");
 }
 
-TEST_F(SetListEditTest, TheCurrentPlaylistStaysTheSameWhileOthersMove) {
+TEST_F(SetListEdit, TheCurrentPlaylistStaysTheSameWhileOthersMove) {
   for (const TCPlaylistPosition from : {TCPlaylistPosition{0, 0}, {0, 2}, {1, 0}, {1, 2}}) {
     for (const TCPlaylistPosition to : {TCPlaylistPosition{0, 0}, {0, 1}, {0, 2}, {1, 1}}) {
       TCSetListStore before = store;
@@ -179,7 +179,7 @@ TEST_F(SetListEditTest, TheCurrentPlaylistStaysTheSameWhileOthersMove) {
   }
 }
 
-TEST_F(SetListEditTest, PlaylistsThatComeAndGoInFrontTakeThePositionAlong) {
+TEST_F(SetListEdit, PlaylistsThatComeAndGoInFrontTakeThePositionAlong) {
   store.currentPlaylist = 1;
   store.shown = {0, 1};
   ASSERT_TRUE(InsertPlaylist(store, {0, 0}, {}));
@@ -190,7 +190,7 @@ TEST_F(SetListEditTest, PlaylistsThatComeAndGoInFrontTakeThePositionAlong) {
   EXPECT_EQ(ShownName(), u"A1");
 }
 
-TEST_F(SetListEditTest, ThePlaylistThatIsMeasuredIsFollowedToo) {
+TEST_F(SetListEdit, ThePlaylistThatIsMeasuredIsFollowedToo) {
   store.measured = {0, 1};
   ASSERT_TRUE(MovePlaylist(store, {0, 1}, {1, 0}));
   ASSERT_TRUE(InsertGroup(store, 0, {}));
@@ -199,7 +199,7 @@ TEST_F(SetListEditTest, ThePlaylistThatIsMeasuredIsFollowedToo) {
   EXPECT_EQ(store.measured, TCPlaylistPosition());
 }
 
-TEST_F(SetListEditTest, ARemovedPlaylistLeavesItsNumberAndIsShownNoMore) {
+TEST_F(SetListEdit, ARemovedPlaylistLeavesItsNumberAndIsShownNoMore) {
   store.currentPlaylist = 1;
   store.shown = {0, 1};
   ASSERT_TRUE(RemovePlaylist(store, {0, 1}));
@@ -207,7 +207,7 @@ TEST_F(SetListEditTest, ARemovedPlaylistLeavesItsNumberAndIsShownNoMore) {
   EXPECT_EQ(store.shown, TCPlaylistPosition());
 }
 
-TEST_F(SetListEditTest, GroupsThatComeAndGoInFrontTakeThePositionAlong) {
+TEST_F(SetListEdit, GroupsThatComeAndGoInFrontTakeThePositionAlong) {
   store.currentGroup = 1;
   store.shown = {1, 0};
   ASSERT_TRUE(InsertGroup(store, 0, {}));
@@ -222,7 +222,7 @@ TEST_F(SetListEditTest, GroupsThatComeAndGoInFrontTakeThePositionAlong) {
   EXPECT_EQ(store.shown, TCPlaylistPosition());
 }
 
-TEST_F(SetListEditTest, AMovedGroupTakesTheCurrentGroupAlongOnlyWhenItIsTheCurrentOne) {
+TEST_F(SetListEdit, AMovedGroupTakesTheCurrentGroupAlongOnlyWhenItIsTheCurrentOne) {
   store.shown = {0, 0};
   ASSERT_TRUE(MoveGroup(store, 0, 1));
   EXPECT_EQ(store.currentGroup, 1);
@@ -232,7 +232,7 @@ TEST_F(SetListEditTest, AMovedGroupTakesTheCurrentGroupAlongOnlyWhenItIsTheCurre
   EXPECT_EQ(ShownName(), u"A0");
 }
 
-TEST_F(SetListEditTest, WrongPlacesChangeNothing) {
+TEST_F(SetListEdit, WrongPlacesChangeNothing) {
   EXPECT_FALSE(InsertGroup(store, 3, {}));
   EXPECT_FALSE(InsertGroup(store, -1, {}));
   EXPECT_FALSE(InsertPlaylist(store, {0, 4}, {}));
@@ -251,7 +251,7 @@ TEST_F(SetListEditTest, WrongPlacesChangeNothing) {
   EXPECT_THAT(Songs(0), ElementsAre(u"a0", u"a1", u"a2", u"a3", u"a4"));
 }
 
-TEST_F(SetListEditTest, AnEmptyStoreTakesItsFirstEntries) {
+TEST_F(SetListEdit, AnEmptyStoreTakesItsFirstEntries) {
   TCSetListStore empty;
   ASSERT_TRUE(InsertGroup(empty, 0, {}));
   ASSERT_TRUE(InsertPlaylist(empty, {0, 0}, {}));
@@ -259,7 +259,7 @@ TEST_F(SetListEditTest, AnEmptyStoreTakesItsFirstEntries) {
   EXPECT_TRUE(empty.IsValidSongIndex(empty.currentSong));
 }
 
-TEST(SetListRepairTest, AFolderForAllSongsLeadsEachOneThere) {
+TEST(SetListRepair, AFolderForAllSongsLeadsEachOneThere) {
   TCPlayList playlist;
   playlist.items.resize(2);
   playlist.items[0].SetPath(u"C:\\a.mp3");
@@ -269,7 +269,7 @@ TEST(SetListRepairTest, AFolderForAllSongsLeadsEachOneThere) {
   EXPECT_EQ(playlist.items[1].FullPath(), u"E:\\Backup\\b.mp3");
 }
 
-TEST(SetListRepairTest, AnExtensionForAllSongsReplacesTheirTypes) {
+TEST(SetListRepair, AnExtensionForAllSongsReplacesTheirTypes) {
   TCPlayList playlist;
   playlist.items.resize(2);
   playlist.items[0].SetPath(u"C:\\a.mp3");

@@ -24,7 +24,7 @@ TCSetListStore StoreWithTwoSongs() {
   return store;
 }
 
-TEST(SetListStoreTest, NamesAreFoundWhateverTheirCase) {
+TEST(SetListStore, NamesAreFoundWhateverTheirCase) {
   const TCSetListStore store = StoreWithTwoSongs();
   EXPECT_EQ(store.FindGroupByName(u"SETS"), 0);
   EXPECT_EQ(store.FindGroupByName(u"Other"), -1);
@@ -32,12 +32,12 @@ TEST(SetListStoreTest, NamesAreFoundWhateverTheirCase) {
   EXPECT_EQ(TCSetListStore::FindPlaylistByName(store.groups[0], u"p"), -1);
 }
 
-TEST(SetListStoreTest, AnEmptyStoreHoldsNoGroupOfAnyName) {
+TEST(SetListStore, AnEmptyStoreHoldsNoGroupOfAnyName) {
   EXPECT_EQ(TCSetListStore{}.FindGroupByName(u"Sets"), -1);
   EXPECT_EQ(TCSetListStore{}.FindGroupByName(u""), -1);
 }
 
-TEST(SetListStoreTest, TheFirstOfTwoEqualNamesIsFound) {
+TEST(SetListStore, TheFirstOfTwoEqualNamesIsFound) {
   TCSetListStore store;
   store.groups.resize(3);
   store.groups[1].name = u"Twice";
@@ -45,7 +45,7 @@ TEST(SetListStoreTest, TheFirstOfTwoEqualNamesIsFound) {
   EXPECT_EQ(store.FindGroupByName(u"TWICE"), 1);
 }
 
-TEST(SetListStoreTest, IndicesOutsideTheirListsAreInvalidAndNeverFail) {
+TEST(SetListStore, IndicesOutsideTheirListsAreInvalidAndNeverFail) {
   TCSetListStore store = StoreWithTwoSongs();
   EXPECT_TRUE(store.IsValidPlaylistIndex(0));
   EXPECT_FALSE(store.IsValidPlaylistIndex(1));
@@ -67,13 +67,13 @@ TEST(SetListStoreTest, IndicesOutsideTheirListsAreInvalidAndNeverFail) {
   }
 }
 
-TEST(SetListStoreTest, ASongsTreeNodeIsGivenByItsIndex) {
+TEST(SetListStore, ASongsTreeNodeIsGivenByItsIndex) {
   const TCSetListStore store = StoreWithTwoSongs();
   EXPECT_EQ(store.GetSongTreeNode(1), TCTreeNode{7});
   EXPECT_EQ(store.GetSongTreeNode(2), TCTreeNode::None);
 }
 
-TEST(SetListStoreTest, AfterAClearThereIsNoSongAndThePositionIsTheStart) {
+TEST(SetListStore, AfterAClearThereIsNoSongAndThePositionIsTheStart) {
   TCSetListStore store = StoreWithTwoSongs();
   store.currentSong = 1;
   store.documentFileName = u"show.brv";
@@ -87,7 +87,7 @@ TEST(SetListStoreTest, AfterAClearThereIsNoSongAndThePositionIsTheStart) {
   EXPECT_EQ(store.documentFileName, u"show.brv");
 }
 
-TEST(SetListStoreTest, AGroupTakesItsTypeFromTheDocumentAndAPlaylistFromItsGroup) {
+TEST(SetListStore, AGroupTakesItsTypeFromTheDocumentAndAPlaylistFromItsGroup) {
   TCSetListStore store;
   store.documentFileName = u"show.brv";
   store.groups.resize(1);
@@ -103,7 +103,7 @@ TEST(SetListStoreTest, AGroupTakesItsTypeFromTheDocumentAndAPlaylistFromItsGroup
   EXPECT_EQ(store.groups[0].playlists[0].extension, u"brvgl");
 }
 
-TEST(SetListStoreTest, FileInfoForAnIndexOutsideDoesNothing) {
+TEST(SetListStore, FileInfoForAnIndexOutsideDoesNothing) {
   TCSetListStore store = StoreWithTwoSongs();
   store.SetGroupFileInfo(1, u"D:\\x.brvgl");
   store.SetGroupFileInfo(-1, u"D:\\x.brvgl");
@@ -113,7 +113,7 @@ TEST(SetListStoreTest, FileInfoForAnIndexOutsideDoesNothing) {
   EXPECT_EQ(store.groups[0].playlists[0].name, u"P1");
 }
 
-TEST(SetListStoreTest, ATotalCountsTheLatencyOnlyBetweenSongs) {
+TEST(SetListStore, ATotalCountsTheLatencyOnlyBetweenSongs) {
   TCSetListStore store;
   TCPlayList playlist;
   playlist.items = {SongOf(u"a", u"03:00"), SongOf(u"b", u"04:00"), SongOf(u"c", u"00:30")};
@@ -124,7 +124,7 @@ TEST(SetListStoreTest, ATotalCountsTheLatencyOnlyBetweenSongs) {
   EXPECT_EQ(playlist.totalTime, u"03:00");
 }
 
-TEST(SetListStoreTest, ALatencyOfZeroMakesTheTotalThePlainSum) {
+TEST(SetListStore, ALatencyOfZeroMakesTheTotalThePlainSum) {
   TCSetListStore store;
   store.songLatencySeconds = 0;
   TCPlayList playlist;
@@ -133,14 +133,14 @@ TEST(SetListStoreTest, ALatencyOfZeroMakesTheTotalThePlainSum) {
   EXPECT_EQ(playlist.totalTime, u"07:00");
 }
 
-TEST(SetListStoreTest, APlaylistWithoutSongsKeepsItsTotal) {
+TEST(SetListStore, APlaylistWithoutSongsKeepsItsTotal) {
   TCPlayList playlist;
   playlist.totalTime = u"12:34";
   TCSetListStore{}.RecalcPlaylistTotalTime(playlist);
   EXPECT_EQ(playlist.totalTime, u"12:34");
 }
 
-TEST(SetListStoreTest, ANegativeTotalIsShownAsNothing) {
+TEST(SetListStore, ANegativeTotalIsShownAsNothing) {
   TCSetListStore store;
   store.songLatencySeconds = -600;
   TCPlayList playlist;
@@ -149,7 +149,7 @@ TEST(SetListStoreTest, ANegativeTotalIsShownAsNothing) {
   EXPECT_EQ(playlist.totalTime, u"00:00");
 }
 
-TEST(SetListStoreTest, ASumPast32BitsWraps) {
+TEST(SetListStore, ASumPast32BitsWraps) {
   TCSetListStore store;
   store.songLatencySeconds = 2147483647;
   TCPlayList playlist;
@@ -158,7 +158,7 @@ TEST(SetListStoreTest, ASumPast32BitsWraps) {
   EXPECT_EQ(playlist.totalTime, u"00:02");  // 2 * 2147483647 + 4 is 2 modulo 2^32
 }
 
-TEST(SetListStoreTest, LastShownNamesAreThoseOfTheCurrentPosition) {
+TEST(SetListStore, LastShownNamesAreThoseOfTheCurrentPosition) {
   TCSetListStore store = StoreWithTwoSongs();
   store.currentSong = 1;
   store.RecordLastShownNames();
@@ -172,7 +172,7 @@ TEST(SetListStoreTest, LastShownNamesAreThoseOfTheCurrentPosition) {
   EXPECT_EQ(store.lastSongName, u"b.mp3");
 }
 
-TEST(SetListStoreTest, TheListOfNamesIsASnapshot) {
+TEST(SetListStore, TheListOfNamesIsASnapshot) {
   TCSetListStore store = StoreWithTwoSongs();
   std::vector<TCGroupNamesLists> names(5);
   store.BuildGroupNamesLists(names);
@@ -182,7 +182,7 @@ TEST(SetListStoreTest, TheListOfNamesIsASnapshot) {
   EXPECT_EQ(names[0].playlistNames, std::vector<std::u16string>{u"P1"});
 }
 
-TEST(SetListStoreTest, ASongIsFoundByExactlyItsPath) {
+TEST(SetListStore, ASongIsFoundByExactlyItsPath) {
   TCSetListStore store = StoreWithTwoSongs();
   std::vector<TCPlayListItem>& songs = store.groups[0].playlists[0].items;
   songs[0].SetPath(u"C:\\Music\\a.mp3");
@@ -194,14 +194,14 @@ TEST(SetListStoreTest, ASongIsFoundByExactlyItsPath) {
   EXPECT_EQ(store.FindSongByPath(u""), nullptr);
 }
 
-TEST(SetListStoreTest, OfSongsWithTheSamePathTheFirstInModelOrderIsFound) {
+TEST(SetListStore, OfSongsWithTheSamePathTheFirstInModelOrderIsFound) {
   TCSetListStore store = StoreWithTwoSongs();
   store.groups.push_back(store.groups[0]);
   TCPlayListItem& first = store.groups[0].playlists[0].items[1];
   EXPECT_EQ(store.FindSongByPath(u"b.mp3"), &first);
 }
 
-TEST(SetListStoreTest, TheFirstInModelOrderIsFoundHoweverItsPathIsDivided) {
+TEST(SetListStore, TheFirstInModelOrderIsFoundHoweverItsPathIsDivided) {
   TCSetListStore store = StoreWithTwoSongs();
   std::vector<TCPlayListItem>& songs = store.groups[0].playlists[0].items;
   const std::u16string path = u"C:\\Music\\b.mp3";
@@ -215,7 +215,7 @@ TEST(SetListStoreTest, TheFirstInModelOrderIsFoundHoweverItsPathIsDivided) {
   EXPECT_EQ(store.FindSongByPath(path), &songs[1]);
 }
 
-TEST(SetListStoreTest, ASongIsFoundWhereverItsFolderAndNameMeet) {
+TEST(SetListStore, ASongIsFoundWhereverItsFolderAndNameMeet) {
   TCSetListStore store = StoreWithTwoSongs();
   TCPlayListItem& song = store.groups[0].playlists[0].items[1];
   for (const std::size_t meet : {std::size_t{0}, std::size_t{2}, std::size_t{8}, std::size_t{11}}) {

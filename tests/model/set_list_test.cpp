@@ -7,7 +7,7 @@
 namespace brevant {
 namespace {
 
-TEST(SetListTest, ANewSongIsPendingWithTheDefaultsOfItsFields) {
+TEST(SetList, ANewSongIsPendingWithTheDefaultsOfItsFields) {
   const TCPlayListItem song;
   EXPECT_EQ(song.fileName, u"");
   EXPECT_EQ(song.folder.str(), u"");
@@ -19,7 +19,7 @@ TEST(SetListTest, ANewSongIsPendingWithTheDefaultsOfItsFields) {
   EXPECT_EQ(song.treeNode, TCTreeNode::None);
 }
 
-TEST(SetListTest, NewPlaylistsAndGroupsCarryTheirFileTypes) {
+TEST(SetList, NewPlaylistsAndGroupsCarryTheirFileTypes) {
   EXPECT_EQ(TCPlayList{}.extension, u"brvpl");
   EXPECT_EQ(TCPlayGroups{}.extension, u"brvgl");
   EXPECT_EQ(TCPlayList{}.totalTime, u"");
@@ -29,12 +29,12 @@ TEST(SetListTest, NewPlaylistsAndGroupsCarryTheirFileTypes) {
   EXPECT_EQ(TCPlayList{}.state3, 0);
 }
 
-TEST(SetListTest, StatusTextsAreTheStringTables) {
+TEST(SetList, StatusTextsAreTheStringTables) {
   EXPECT_EQ(StatusText(TCSongStatus::Found), u"Found");
   EXPECT_EQ(StatusText(TCSongStatus::NotFound), u"Not found");
 }
 
-TEST(SetListTest, ACopyOfASongTakesEveryFieldAndGoesItsOwnWay) {
+TEST(SetList, ACopyOfASongTakesEveryFieldAndGoesItsOwnWay) {
   TCPlayListItem song;
   song.fileName = u"a.mp3";
   song.time = u"03:00";
@@ -62,7 +62,7 @@ TEST(SetListTest, ACopyOfASongTakesEveryFieldAndGoesItsOwnWay) {
   EXPECT_EQ(copy.treeNode, TCTreeNode{3});
 }
 
-TEST(SetListTest, ACopyOfAGroupTakesItsPlaylistsAndTheirSongsAndGoesItsOwnWay) {
+TEST(SetList, ACopyOfAGroupTakesItsPlaylistsAndTheirSongsAndGoesItsOwnWay) {
   TCPlayGroups group;
   group.name = u"Sets";
   group.folder = u"D:\\Shows\\";
@@ -104,7 +104,7 @@ TEST(SetListTest, ACopyOfAGroupTakesItsPlaylistsAndTheirSongsAndGoesItsOwnWay) {
   EXPECT_EQ(copied.items[1].fileName, u"b.mp3");
 }
 
-TEST(SetListTest, APathIsCutIntoFolderNameAndType) {
+TEST(SetList, APathIsCutIntoFolderNameAndType) {
   TCPlayListItem song;
   song.SetPath(u"C:\\Music\\Open Road.mp3");
   EXPECT_EQ(song.folder.str(), u"C:\\Music\\");
@@ -113,7 +113,7 @@ TEST(SetListTest, APathIsCutIntoFolderNameAndType) {
   EXPECT_EQ(song.FullPath(), u"C:\\Music\\Open Road.mp3");
 }
 
-TEST(SetListTest, SongsOfOneFolderShareItsText) {
+TEST(SetList, SongsOfOneFolderShareItsText) {
   TCSongTexts texts;
   TCPlayListItem first;
   first.SetPath(u"C:\\Music\\a.mp3", texts);

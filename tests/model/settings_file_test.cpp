@@ -14,7 +14,7 @@ namespace {
 constexpr std::u16string_view kFolder = u"\\home\\me\\.config\\Korvel\\Brevant\\";
 constexpr std::u16string_view kPath = u"\\home\\me\\.config\\Korvel\\Brevant\\Brevant.ini";
 
-class SettingsFileTest : public testing::Test {
+class SettingsFile : public testing::Test {
  protected:
   TCMemoryFiles files;
   TCAppRecord record;
@@ -28,11 +28,11 @@ class SettingsFileTest : public testing::Test {
   }
 };
 
-TEST_F(SettingsFileTest, TheFileLiesInItsFolder) {
+TEST_F(SettingsFile, TheFileLiesInItsFolder) {
   EXPECT_EQ(settingsFile.SettingsFilePath(), kPath);
 }
 
-TEST_F(SettingsFileTest, WithoutAFileEveryOptionKeepsItsDefault) {
+TEST_F(SettingsFile, WithoutAFileEveryOptionKeepsItsDefault) {
   EXPECT_FALSE(settingsFile.LoadSettings(record));
   const TCSettings& settings = record.settings;
   EXPECT_FALSE(settings.settingsFileFound);
@@ -68,7 +68,7 @@ TEST_F(SettingsFileTest, WithoutAFileEveryOptionKeepsItsDefault) {
   EXPECT_FALSE(settings.resetPending);
 }
 
-TEST_F(SettingsFileTest, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
+TEST_F(SettingsFile, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
   TCSettings& before = record.settings;
   constexpr std::array kOnWhenMissing = {
       &TCSettings::loadLastWindowState, &TCSettings::loadLastFileOnProgramRun,
@@ -99,7 +99,7 @@ TEST_F(SettingsFileTest, AFileWithOnlyTheHeadingTurnsOnWhatIsMissing) {
   EXPECT_EQ(settings.lyricsFontTypeName, u"Times New Roman");
 }
 
-TEST_F(SettingsFileTest, AFirstFileWithOnlyTheHeadingChangesThreeOptions) {
+TEST_F(SettingsFile, AFirstFileWithOnlyTheHeadingChangesThreeOptions) {
   const TCSettings settings = Load("");
   EXPECT_TRUE(settings.autoRecycle);
   EXPECT_EQ(settings.lastMediaFileExtSpec, u"*.mp3");
@@ -109,12 +109,12 @@ TEST_F(SettingsFileTest, AFirstFileWithOnlyTheHeadingChangesThreeOptions) {
   EXPECT_FALSE(settings.liveViewMode);
 }
 
-TEST_F(SettingsFileTest, ALyricsSizeOfItsOwnIsReadWhateverThePlaylistsIs) {
+TEST_F(SettingsFile, ALyricsSizeOfItsOwnIsReadWhateverThePlaylistsIs) {
   EXPECT_EQ(Load("LyricsFontSize=21\r\nPlayListFontSize=40\r\n").lyricsFontSize, 21);
   EXPECT_EQ(Load("LyricsFontSize=\r\nPlayListFontSize=40\r\n").lyricsFontSize, 40);
 }
 
-TEST_F(SettingsFileTest, MostOptionsAreOnUnlessTheValueBeginsWithN) {
+TEST_F(SettingsFile, MostOptionsAreOnUnlessTheValueBeginsWithN) {
   EXPECT_FALSE(Load("WhiteOnBlack=nope\r\n").whiteOnBlack);
   EXPECT_FALSE(Load("WhiteOnBlack=No\r\n").whiteOnBlack);
   EXPECT_TRUE(Load("WhiteOnBlack=YES\r\n").whiteOnBlack);
@@ -122,7 +122,7 @@ TEST_F(SettingsFileTest, MostOptionsAreOnUnlessTheValueBeginsWithN) {
   EXPECT_TRUE(Load("WhiteOnBlack=false\r\n").whiteOnBlack);
 }
 
-TEST_F(SettingsFileTest, AnEmptyValueLeavesTheOptionAsItIs) {
+TEST_F(SettingsFile, AnEmptyValueLeavesTheOptionAsItIs) {
   record.settings.autoSongAdvance = false;
   record.settings.lastMediaFileName = u"kept";
   const TCSettings settings = Load("AutoSongAdvance=\r\nLastMediaFileName=\r\n");
@@ -130,7 +130,7 @@ TEST_F(SettingsFileTest, AnEmptyValueLeavesTheOptionAsItIs) {
   EXPECT_EQ(settings.lastMediaFileName, u"kept");
 }
 
-TEST_F(SettingsFileTest, SomeOptionsAreOnOnlyWhenTheValueBeginsWithY) {
+TEST_F(SettingsFile, SomeOptionsAreOnOnlyWhenTheValueBeginsWithY) {
   EXPECT_TRUE(Load("AutoPlayPlayList=Yes\r\n").autoPlayPlayList);
   EXPECT_FALSE(Load("AutoPlayPlayList=1\r\n").autoPlayPlayList);
   EXPECT_TRUE(Load("LiveViewMode=yep\r\n").liveViewMode);
@@ -138,7 +138,7 @@ TEST_F(SettingsFileTest, SomeOptionsAreOnOnlyWhenTheValueBeginsWithY) {
   EXPECT_TRUE(Load("PlaylistManagerImmediatePlay=y\r\n").playlistManagerImmediatePlay);
 }
 
-TEST_F(SettingsFileTest, TheTwoColoursFollowWhiteOnBlack) {
+TEST_F(SettingsFile, TheTwoColoursFollowWhiteOnBlack) {
   const TCSettings off = Load("WhiteOnBlack=No\r\n");
   EXPECT_EQ(off.backgroundColour, 0xFFFFFFu);
   EXPECT_EQ(off.textColour, 0x000000u);
@@ -147,18 +147,18 @@ TEST_F(SettingsFileTest, TheTwoColoursFollowWhiteOnBlack) {
   EXPECT_EQ(on.textColour, 0xFFFFFFu);
 }
 
-TEST_F(SettingsFileTest, ANumberThatIsNoneReadsAsZeroAndNoRangeIsHeld) {
+TEST_F(SettingsFile, ANumberThatIsNoneReadsAsZeroAndNoRangeIsHeld) {
   const TCSettings settings = Load("SongLatencySeconds=abc\r\nPlayListFontSize=-5\r\nVolumeStep=12x\r\n");
   EXPECT_EQ(record.setLists.songLatencySeconds, 0);
   EXPECT_EQ(settings.playListFontSize, -5);
   EXPECT_EQ(settings.volumeStep, 12);
 }
 
-TEST_F(SettingsFileTest, TheKeyWithABlankIsReadAsANumber) {
+TEST_F(SettingsFile, TheKeyWithABlankIsReadAsANumber) {
   EXPECT_EQ(Load("Disable Editing=1\r\n").disableEditing, 1);
 }
 
-TEST_F(SettingsFileTest, EveryKeyIsWrittenInItsOrderUnderTheOneHeading) {
+TEST_F(SettingsFile, EveryKeyIsWrittenInItsOrderUnderTheOneHeading) {
   record.settings.autoSongAdvance = false;
   record.setLists.documentFolder = u"D:\\Docs\\";
   record.setLists.documentFileName = u"show.brv";
@@ -197,7 +197,7 @@ TEST_F(SettingsFileTest, EveryKeyIsWrittenInItsOrderUnderTheOneHeading) {
   EXPECT_EQ(files.foldersMade, std::vector<std::u16string>{std::u16string(kFolder)});
 }
 
-TEST_F(SettingsFileTest, WhatWasWrittenIsReadBack) {
+TEST_F(SettingsFile, WhatWasWrittenIsReadBack) {
   TCAppRecord written;
   written.settings.autoRecycle = true;
   written.settings.liveViewMode = true;
@@ -219,7 +219,7 @@ TEST_F(SettingsFileTest, WhatWasWrittenIsReadBack) {
   EXPECT_EQ(record.setLists.lastPlayListName, u" blanks ");
 }
 
-TEST_F(SettingsFileTest, ALineBreakInANameBringsNoKeyOrHeadingIntoTheFile) {
+TEST_F(SettingsFile, ALineBreakInANameBringsNoKeyOrHeadingIntoTheFile) {
   record.setLists.lastGroupListName = u"A\r\n[Other]\nVolumeStep=99\r";
   ASSERT_TRUE(settingsFile.SaveSettings(record));
   TCAppRecord readBack;
@@ -231,7 +231,7 @@ TEST_F(SettingsFileTest, ALineBreakInANameBringsNoKeyOrHeadingIntoTheFile) {
   EXPECT_EQ(files.BytesOf(kPath), once);
 }
 
-TEST_F(SettingsFileTest, WhatElseStandsInTheFileIsKept) {
+TEST_F(SettingsFile, WhatElseStandsInTheFileIsKept) {
   files.Put(kPath, "; mine\r\n[Other]\r\na=1\r\n[Brevant]\r\nUnknown=7\r\n");
   ASSERT_TRUE(settingsFile.SaveSettings(record));
   const std::string bytes = files.BytesOf(kPath).value_or("");
@@ -240,7 +240,7 @@ TEST_F(SettingsFileTest, WhatElseStandsInTheFileIsKept) {
   EXPECT_NE(bytes.find("Unknown=7"), std::string::npos);
 }
 
-TEST_F(SettingsFileTest, EveryKeyBelongsToItsOwnOption) {
+TEST_F(SettingsFile, EveryKeyBelongsToItsOwnOption) {
   struct BoolKey {
     const char* key;
     bool TCSettings::*option;
@@ -290,13 +290,13 @@ TEST_F(SettingsFileTest, EveryKeyBelongsToItsOwnOption) {
   EXPECT_EQ(record.settings.numberLyricLines, 7);
 }
 
-TEST_F(SettingsFileTest, AFileThatCannotBeReadIsNotWrittenOver) {
+TEST_F(SettingsFile, AFileThatCannotBeReadIsNotWrittenOver) {
   files.Put(kPath, std::string((std::size_t{1} << 20) + 1, ';'));
   EXPECT_TRUE(settingsFile.SaveSettings(record));
   EXPECT_TRUE(files.writes.empty());
 }
 
-TEST_F(SettingsFileTest, APendingResetDeletesTheFileInsteadOfWritingIt) {
+TEST_F(SettingsFile, APendingResetDeletesTheFileInsteadOfWritingIt) {
   files.Put(kPath, "[Brevant]\r\n");
   record.settings.ToggleReset();
   EXPECT_FALSE(settingsFile.SaveSettings(record));
@@ -304,27 +304,27 @@ TEST_F(SettingsFileTest, APendingResetDeletesTheFileInsteadOfWritingIt) {
   EXPECT_TRUE(files.writes.empty());
 }
 
-TEST_F(SettingsFileTest, AResetChosenTwiceIsNone) {
+TEST_F(SettingsFile, AResetChosenTwiceIsNone) {
   record.settings.ToggleReset();
   record.settings.ToggleReset();
   EXPECT_TRUE(settingsFile.SaveSettings(record));
   EXPECT_TRUE(files.BytesOf(kPath).has_value());
 }
 
-TEST_F(SettingsFileTest, AFailedWriteIsSilent) {
+TEST_F(SettingsFile, AFailedWriteIsSilent) {
   files.failWrites = true;
   EXPECT_TRUE(settingsFile.SaveSettings(record));
   files.failFolders = true;
   EXPECT_TRUE(settingsFile.SaveSettings(record));
 }
 
-TEST_F(SettingsFileTest, TheLastDocumentIsReadOnItsOwn) {
+TEST_F(SettingsFile, TheLastDocumentIsReadOnItsOwn) {
   EXPECT_EQ(settingsFile.LastLoadedFileName(), u"");
   files.Put(kPath, "[Brevant]\r\nLastLoadedFileName=D:\\Docs\\show.brv\r\n");
   EXPECT_EQ(settingsFile.LastLoadedFileName(), u"D:\\Docs\\show.brv");
 }
 
-TEST_F(SettingsFileTest, AValueOfMoreThan4091CharactersIsCutOff) {
+TEST_F(SettingsFile, AValueOfMoreThan4091CharactersIsCutOff) {
   Load("LastSongName=" + std::string(5000, 'x') + "\r\n");
   EXPECT_EQ(record.setLists.lastSongName.size(), 4091u);
 }

@@ -22,9 +22,9 @@ using testing::IsEmpty;
 
 constexpr std::u16string_view kSong = u"C:\\a.mp3";
 
-class LyricDisplayTest : public testing::Test {
+class LyricDisplay : public testing::Test {
  protected:
-  LyricDisplayTest() {
+  LyricDisplay() {
     TCPlayGroups& group = record.setLists.groups.emplace_back();
     TCPlayListItem& song = group.playlists.emplace_back().items.emplace_back();
     song.SetPath(kSong);
@@ -37,7 +37,7 @@ class LyricDisplayTest : public testing::Test {
   TCLyricDisplay display{record, messages};
 };
 
-TEST_F(LyricDisplayTest, LinesAppearHalfASecondAheadByWholeSeconds) {
+TEST_F(LyricDisplay, LinesAppearHalfASecondAheadByWholeSeconds) {
   EXPECT_EQ(display.ShowLyricsAt(9, kSong, -1), -1);
   EXPECT_THAT(messages.lines, IsEmpty());
   EXPECT_EQ(messages.clears, 0);
@@ -45,7 +45,7 @@ TEST_F(LyricDisplayTest, LinesAppearHalfASecondAheadByWholeSeconds) {
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tM: one", u"\r\n", u"\tF: two"));
 }
 
-TEST_F(LyricDisplayTest, TheLeadIsHalfASecondToTheMillisecond) {
+TEST_F(LyricDisplay, TheLeadIsHalfASecondToTheMillisecond) {
   TCSongLyrics& lyrics = record.setLists.groups[0].playlists[0].items[0].lyrics;
   lyrics = LyricsOf({{u"on time", 10500, kEndOfLyrics, 0}});
   EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
@@ -54,33 +54,33 @@ TEST_F(LyricDisplayTest, TheLeadIsHalfASecondToTheMillisecond) {
   EXPECT_EQ(display.ShowLyricsAt(11, kSong, -1), 0);
 }
 
-TEST_F(LyricDisplayTest, EachLineHasItsSingersRoleAndLaterLinesTheNormalOne) {
+TEST_F(LyricDisplay, EachLineHasItsSingersRoleAndLaterLinesTheNormalOne) {
   EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
   messages.Append(u"a message");
   EXPECT_THAT(messages.roles, ElementsAre(TCLineRole::SingerM, TCLineRole::SingerM, TCLineRole::SingerF,
                                           TCLineRole::SingerF, TCLineRole::Normal));
 }
 
-TEST_F(LyricDisplayTest, TheLineShownLastIsNotDrawnAgain) {
+TEST_F(LyricDisplay, TheLineShownLastIsNotDrawnAgain) {
   EXPECT_EQ(display.ShowLyricsAt(12, kSong, 0), 0);
   EXPECT_EQ(messages.clears, 0);
   EXPECT_EQ(display.ShowLyricsAt(12, kSong, -1), 0);
   EXPECT_EQ(messages.clears, 1);
 }
 
-TEST_F(LyricDisplayTest, BetweenTwoLinesThePaneKeepsWhatItShows) {
+TEST_F(LyricDisplay, BetweenTwoLinesThePaneKeepsWhatItShows) {
   EXPECT_EQ(display.ShowLyricsAt(35, kSong, 1), 1);
   EXPECT_EQ(messages.clears, 0);
 }
 
-TEST_F(LyricDisplayTest, TheLastLineStaysToTheEndOfTheSongAlone) {
+TEST_F(LyricDisplay, TheLastLineStaysToTheEndOfTheSongAlone) {
   record.settings.numberLyricLines = 5;
   EXPECT_EQ(display.ShowLyricsAt(3600, kSong, 1), 2);
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tD: three"));
   EXPECT_THAT(messages.roles, ElementsAre(TCLineRole::SingerD, TCLineRole::SingerD));
 }
 
-TEST_F(LyricDisplayTest, ANumberOfLinesBelowTwoShowsTheCurrentOne) {
+TEST_F(LyricDisplay, ANumberOfLinesBelowTwoShowsTheCurrentOne) {
   for (const std::int32_t lines : {1, 0, -7}) {
     record.settings.numberLyricLines = lines;
     messages.Clear();
@@ -89,7 +89,7 @@ TEST_F(LyricDisplayTest, ANumberOfLinesBelowTwoShowsTheCurrentOne) {
   }
 }
 
-TEST_F(LyricDisplayTest, TheCurrentLineIsTheOneToKeepInView) {
+TEST_F(LyricDisplay, TheCurrentLineIsTheOneToKeepInView) {
   EXPECT_EQ(display.ShowLyricsAt(10, kSong, -1), 0);
   EXPECT_TRUE(messages.firstInView);
   messages.Append(u"a message");
@@ -97,7 +97,7 @@ TEST_F(LyricDisplayTest, TheCurrentLineIsTheOneToKeepInView) {
   EXPECT_FALSE(messages.firstInView) << "the pane is left as it is";
 }
 
-TEST_F(LyricDisplayTest, NoNumberOfLinesPushesTheCurrentOneOutOfTheDisplay) {
+TEST_F(LyricDisplay, NoNumberOfLinesPushesTheCurrentOneOutOfTheDisplay) {
   std::vector<TCLyric> many;
   for (int i = 0; i < 2000; ++i) many.push_back({u"line", i * 1000, (i + 1) * 1000, 0});
   record.setLists.groups[0].playlists[0].items[0].lyrics = LyricsOf(many);
@@ -107,7 +107,7 @@ TEST_F(LyricDisplayTest, NoNumberOfLinesPushesTheCurrentOneOutOfTheDisplay) {
   EXPECT_LE(messages.lines.size(), 1024u);
 }
 
-TEST_F(LyricDisplayTest, ASongWithoutLyricsOrOutsideTheSetListsShowsNothing) {
+TEST_F(LyricDisplay, ASongWithoutLyricsOrOutsideTheSetListsShowsNothing) {
   record.setLists.groups[0].playlists[0].items.emplace_back().SetPath(u"C:\\b.mp3");
   EXPECT_EQ(display.ShowLyricsAt(10, u"C:\\b.mp3", 3), 3);
   EXPECT_EQ(display.ShowLyricsAt(10, u"C:\\A.mp3", 3), 3);  // paths are compared to the letter
@@ -115,7 +115,7 @@ TEST_F(LyricDisplayTest, ASongWithoutLyricsOrOutsideTheSetListsShowsNothing) {
   EXPECT_EQ(messages.clears, 0);
 }
 
-TEST_F(LyricDisplayTest, TheFirstSongOfAPathInModelOrderSuppliesTheLyrics) {
+TEST_F(LyricDisplay, TheFirstSongOfAPathInModelOrderSuppliesTheLyrics) {
   TCPlayListItem again;
   again.SetPath(kSong);
   again.lyrics = LyricsOf({{u"other", 0, kEndOfLyrics, 0}});
@@ -143,7 +143,7 @@ std::string Latin1(std::u16string_view text) {
   return bytes;
 }
 
-TEST_F(LyricDisplayTest, HundredsOfLinesOfEveryEncodingFollowTheSongSecondBySecond) {
+TEST_F(LyricDisplay, HundredsOfLinesOfEveryEncodingFollowTheSongSecondBySecond) {
   const std::u16string text = LongLyrics();
   for (const int encoding : {0, 1, 2}) {
     TCMemoryFiles files;
@@ -165,7 +165,7 @@ TEST_F(LyricDisplayTest, HundredsOfLinesOfEveryEncodingFollowTheSongSecondBySeco
   }
 }
 
-TEST_F(LyricDisplayTest, APositionOfAnySizeIsTaken) {
+TEST_F(LyricDisplay, APositionOfAnySizeIsTaken) {
   EXPECT_EQ(display.ShowLyricsAt(2147483647, kSong, 0), 0);
   EXPECT_EQ(display.ShowLyricsAt(-2147483647, kSong, 0), 0);
 }

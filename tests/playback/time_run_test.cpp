@@ -12,9 +12,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TimeRunTest : public testing::Test {
+class TimeRun : public testing::Test {
  protected:
-  TimeRunTest() {
+  TimeRun() {
     store.songLatencySeconds = 0;
     TCPlayGroups& group = store.groups.emplace_back();
     AddPlaylist(group, {u"a", u"b", u"c"});
@@ -57,7 +57,7 @@ class TimeRunTest : public testing::Test {
   TCTimeRun run{record, &probe, messages};
 };
 
-TEST_F(TimeRunTest, ARunOverAPlaylistSaysEachTimeAndStoresThemAtItsEnd) {
+TEST_F(TimeRun, ARunOverAPlaylistSaysEachTimeAndStoresThemAtItsEnd) {
   run.Start(TCTimeScope::CurrentPlaylist);
   EXPECT_TRUE(run.Pending());
   EXPECT_EQ(run.Count(), 3u);
@@ -75,7 +75,7 @@ TEST_F(TimeRunTest, ARunOverAPlaylistSaysEachTimeAndStoresThemAtItsEnd) {
   EXPECT_THAT(Times(1), ElementsAre(u"09:09"));
 }
 
-TEST_F(TimeRunTest, ARunOverAllSongsGoesThroughEveryPlaylistInOrder) {
+TEST_F(TimeRun, ARunOverAllSongsGoesThroughEveryPlaylistInOrder) {
   run.Start(TCTimeScope::AllSongs);
   RunThrough();
   EXPECT_EQ(messages.lines.size(), 4u);
@@ -83,19 +83,19 @@ TEST_F(TimeRunTest, ARunOverAllSongsGoesThroughEveryPlaylistInOrder) {
   EXPECT_EQ(store.groups[0].playlists[1].totalTime, u"04:00");
 }
 
-TEST_F(TimeRunTest, KnownLengthsTakeOneTickASong) {
+TEST_F(TimeRun, KnownLengthsTakeOneTickASong) {
   run.Start(TCTimeScope::CurrentPlaylist);
   EXPECT_EQ(RunThrough(), 3);
 }
 
-TEST_F(TimeRunTest, TheNextSongIsOpenedAheadSoThatItsLengthIsKnownByTheNextTick) {
+TEST_F(TimeRun, TheNextSongIsOpenedAheadSoThatItsLengthIsKnownByTheNextTick) {
   run.Start(TCTimeScope::CurrentPlaylist);
   run.Step();
   EXPECT_TRUE(probe.open);
   EXPECT_EQ(probe.opened.back(), u"C:\\b.mp3");
 }
 
-TEST_F(TimeRunTest, ALengthThatIsNotKnownYetIsAskedForAgainWithoutOpeningAnew) {
+TEST_F(TimeRun, ALengthThatIsNotKnownYetIsAskedForAgainWithoutOpeningAnew) {
   probe.looksUntilKnown = 2;
   run.Start(TCTimeScope::CurrentPlaylist);
   run.Step();
@@ -106,7 +106,7 @@ TEST_F(TimeRunTest, ALengthThatIsNotKnownYetIsAskedForAgainWithoutOpeningAnew) {
   EXPECT_EQ(messages.lines.size(), 1u);
 }
 
-TEST_F(TimeRunTest, MissingAndBrokenFilesAreNothingLongAndTheRunGoesOn) {
+TEST_F(TimeRun, MissingAndBrokenFilesAreNothingLongAndTheRunGoesOn) {
   probe.lengths[u"C:\\a.mp3"] = -1;
   probe.lengths[u"C:\\b.mp3"] = -1;
   run.Start(TCTimeScope::CurrentPlaylist);
@@ -115,7 +115,7 @@ TEST_F(TimeRunTest, MissingAndBrokenFilesAreNothingLongAndTheRunGoesOn) {
   EXPECT_EQ(messages.lines.front(), u"Calculating times for song \"a.mp3\": 00:00");
 }
 
-TEST_F(TimeRunTest, CancelLeavesTheTimesUnchangedAndClosesTheProbe) {
+TEST_F(TimeRun, CancelLeavesTheTimesUnchangedAndClosesTheProbe) {
   run.Start(TCTimeScope::CurrentPlaylist);
   run.Step();
   run.Step();
@@ -125,7 +125,7 @@ TEST_F(TimeRunTest, CancelLeavesTheTimesUnchangedAndClosesTheProbe) {
   EXPECT_THAT(Times(0), ElementsAre(u"09:09", u"09:09", u"09:09"));
 }
 
-TEST_F(TimeRunTest, ANewRunReplacesTheOneUnderWay) {
+TEST_F(TimeRun, ANewRunReplacesTheOneUnderWay) {
   run.Start(TCTimeScope::AllSongs);
   run.Step();
   run.Start(TCTimeScope::CurrentPlaylist);
@@ -134,7 +134,7 @@ TEST_F(TimeRunTest, ANewRunReplacesTheOneUnderWay) {
   RunThrough();
 }
 
-TEST_F(TimeRunTest, AScopeWithoutSongsStartsNoRun) {
+TEST_F(TimeRun, AScopeWithoutSongsStartsNoRun) {
   store.currentPlaylist = 7;
   run.Start(TCTimeScope::CurrentPlaylist);
   EXPECT_FALSE(run.Pending());
@@ -143,7 +143,7 @@ TEST_F(TimeRunTest, AScopeWithoutSongsStartsNoRun) {
   EXPECT_FALSE(run.Pending());
 }
 
-TEST_F(TimeRunTest, AScopeWithoutSongsEndsTheRunUnderWay) {
+TEST_F(TimeRun, AScopeWithoutSongsEndsTheRunUnderWay) {
   run.Start(TCTimeScope::AllSongs);
   run.Step();
   store.currentPlaylist = 7;
@@ -152,14 +152,14 @@ TEST_F(TimeRunTest, AScopeWithoutSongsEndsTheRunUnderWay) {
   EXPECT_FALSE(probe.open);
 }
 
-TEST_F(TimeRunTest, AnUnchangedSetListIsFinishedWithoutChanges) {
+TEST_F(TimeRun, AnUnchangedSetListIsFinishedWithoutChanges) {
   run.Start(TCTimeScope::CurrentPlaylist);
   RunThrough();
   run.Start(TCTimeScope::CurrentPlaylist);
   RunThrough(TCTimeRunStep::Finished);
 }
 
-TEST_F(TimeRunTest, ATimeIsStoredOnlyWhereTheSongStillHasThePath) {
+TEST_F(TimeRun, ATimeIsStoredOnlyWhereTheSongStillHasThePath) {
   run.Start(TCTimeScope::CurrentPlaylist);
   run.Step();
   auto& items = store.groups[0].playlists[0].items;
@@ -169,7 +169,7 @@ TEST_F(TimeRunTest, ATimeIsStoredOnlyWhereTheSongStillHasThePath) {
   EXPECT_THAT(Times(0), ElementsAre(u"09:09", u"03:00"));
 }
 
-TEST_F(TimeRunTest, TheScopesPlaylistIsTheOneThatWasCurrentAtTheStart) {
+TEST_F(TimeRun, TheScopesPlaylistIsTheOneThatWasCurrentAtTheStart) {
   run.Start(TCTimeScope::CurrentPlaylist);
   store.currentPlaylist = 1;
   RunThrough();
@@ -177,7 +177,7 @@ TEST_F(TimeRunTest, TheScopesPlaylistIsTheOneThatWasCurrentAtTheStart) {
   EXPECT_THAT(Times(1), ElementsAre(u"09:09"));
 }
 
-TEST_F(TimeRunTest, WithNothingToMeasureWithNoRunStarts) {
+TEST_F(TimeRun, WithNothingToMeasureWithNoRunStarts) {
   TCTimeRun none(record, nullptr, messages);
   none.Start(TCTimeScope::AllSongs);
   EXPECT_FALSE(none.Pending());

@@ -9,7 +9,7 @@ namespace {
 using testing::Contains;
 using testing::IsEmpty;
 
-TEST_F(TransportTest, ASongContinuedJustBeforeItsEndIsSeenToEnd) {
+TEST_F(Transport, ASongContinuedJustBeforeItsEndIsSeenToEnd) {
   transport.Play();
   Run(1.0);
   transport.PauseContinue();
@@ -20,7 +20,7 @@ TEST_F(TransportTest, ASongContinuedJustBeforeItsEndIsSeenToEnd) {
   EXPECT_EQ(store.currentSong, 1);
 }
 
-TEST_F(TransportTest, AnEndedSongMovesTheHighlightAndPlaysNothingByDefault) {
+TEST_F(Transport, AnEndedSongMovesTheHighlightAndPlaysNothingByDefault) {
   transport.Play();
   Run(11.0);
   EXPECT_EQ(store.currentSong, 1);
@@ -30,7 +30,7 @@ TEST_F(TransportTest, AnEndedSongMovesTheHighlightAndPlaysNothingByDefault) {
   EXPECT_THAT(display.calls, Contains("Highlight"));
 }
 
-TEST_F(TransportTest, WithAutoPlaySongsFollowEachOtherWithoutTheLatency) {
+TEST_F(Transport, WithAutoPlaySongsFollowEachOtherWithoutTheLatency) {
   settings.autoPlayPlayList = true;
   store.songLatencySeconds = 600;
   transport.Play();
@@ -43,7 +43,7 @@ TEST_F(TransportTest, WithAutoPlaySongsFollowEachOtherWithoutTheLatency) {
   EXPECT_TRUE(transport.State().playing);
 }
 
-TEST_F(TransportTest, WithoutAutoAdvanceTheTransportRestsOnTheEndedSong) {
+TEST_F(Transport, WithoutAutoAdvanceTheTransportRestsOnTheEndedSong) {
   settings.autoSongAdvance = false;
   settings.autoPlayPlayList = true;
   transport.Play();
@@ -52,7 +52,7 @@ TEST_F(TransportTest, WithoutAutoAdvanceTheTransportRestsOnTheEndedSong) {
   EXPECT_FALSE(transport.State().playing);
 }
 
-TEST_F(TransportTest, AtTheLastSongTheTransportRests) {
+TEST_F(Transport, AtTheLastSongTheTransportRests) {
   settings.autoPlayPlayList = true;
   store.currentSong = 2;
   transport.Play();
@@ -62,7 +62,7 @@ TEST_F(TransportTest, AtTheLastSongTheTransportRests) {
   EXPECT_FALSE(transport.State().playing);
 }
 
-TEST_F(TransportTest, RecyclingGoesThroughAllPlaylistsAndStartsAgain) {
+TEST_F(Transport, RecyclingGoesThroughAllPlaylistsAndStartsAgain) {
   settings.autoRecycle = true;
   settings.autoPlayPlayList = true;
   store.currentSong = 2;
@@ -81,7 +81,7 @@ TEST_F(TransportTest, RecyclingGoesThroughAllPlaylistsAndStartsAgain) {
   EXPECT_THAT(display.calls, Contains("ShowPlaylist 0 0"));
 }
 
-TEST_F(TransportTest, RecyclingFromTheMiddleOfAPlaylistStaysInIt) {
+TEST_F(Transport, RecyclingFromTheMiddleOfAPlaylistStaysInIt) {
   settings.autoRecycle = true;
   transport.Play();
   Run(11.0);
@@ -89,7 +89,7 @@ TEST_F(TransportTest, RecyclingFromTheMiddleOfAPlaylistStaysInIt) {
   EXPECT_EQ(store.currentSong, 1);
 }
 
-TEST_F(TransportTest, RecyclingWithoutAutoPlayShowsTheNextPlaylistAndPlaysNothing) {
+TEST_F(Transport, RecyclingWithoutAutoPlayShowsTheNextPlaylistAndPlaysNothing) {
   settings.autoRecycle = true;
   store.currentSong = 2;
   transport.Play();
@@ -100,7 +100,7 @@ TEST_F(TransportTest, RecyclingWithoutAutoPlayShowsTheNextPlaylistAndPlaysNothin
   EXPECT_FALSE(transport.State().playing);
 }
 
-TEST_F(TransportTest, RecyclingRestsAtAPlaylistWithoutSongs) {
+TEST_F(Transport, RecyclingRestsAtAPlaylistWithoutSongs) {
   settings.autoRecycle = true;
   settings.autoPlayPlayList = true;
   store.groups[0].playlists[1].items.clear();
@@ -112,7 +112,7 @@ TEST_F(TransportTest, RecyclingRestsAtAPlaylistWithoutSongs) {
   EXPECT_FALSE(transport.State().playing);
 }
 
-TEST_F(TransportTest, ASongThatHasNotBegunIsNotTakenForEnded) {
+TEST_F(Transport, ASongThatHasNotBegunIsNotTakenForEnded) {
   player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .soundsAfter = 5.0});
   transport.Play();
   Run(4.0);
@@ -121,7 +121,7 @@ TEST_F(TransportTest, ASongThatHasNotBegunIsNotTakenForEnded) {
   EXPECT_EQ(store.currentSong, 0);
 }
 
-TEST_F(TransportTest, ASeekBackToTheStartIsNoEnd) {
+TEST_F(Transport, ASeekBackToTheStartIsNoEnd) {
   transport.Play();
   Run(2.0);
   player.SetPosition(0.0);
@@ -130,14 +130,14 @@ TEST_F(TransportTest, ASeekBackToTheStartIsNoEnd) {
   EXPECT_EQ(store.currentSong, 0);
 }
 
-TEST_F(TransportTest, ASongCutOffByALostFileEndsLikeAnother) {
+TEST_F(Transport, ASongCutOffByALostFileEndsLikeAnother) {
   player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .breaksOffAt = 2.0});
   transport.Play();
   Run(3.0);
   EXPECT_EQ(store.currentSong, 1);
 }
 
-TEST_F(TransportTest, ALostSoundDeviceIsNoEnd) {
+TEST_F(Transport, ALostSoundDeviceIsNoEnd) {
   transport.Play();
   Run(2.0);
   player.ConnectDevice(false);
@@ -146,7 +146,7 @@ TEST_F(TransportTest, ALostSoundDeviceIsNoEnd) {
   EXPECT_EQ(store.currentSong, 0);
 }
 
-TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsEndStartsNothing) {
+TEST_F(Transport, AfterTheSetListsWereClearedTheOldSongsEndStartsNothing) {
   settings.autoPlayPlayList = true;
   transport.Play();
   Run(2.0);
@@ -157,7 +157,7 @@ TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsEndStartsNothing) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(TransportTest, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
+TEST_F(Transport, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
   settings.autoPlayPlayList = true;
   repeatFields.begin = 2;
   repeatFields.end = 4;
@@ -171,7 +171,7 @@ TEST_F(TransportTest, TheRepeatRangeLoopsThePassageWhileAutoPlayIsOn) {
   EXPECT_EQ(store.currentSong, 1);
 }
 
-TEST_F(TransportTest, ARangeFromTheStartOfTheSongIsNotTakenForItsEnd) {
+TEST_F(Transport, ARangeFromTheStartOfTheSongIsNotTakenForItsEnd) {
   settings.autoPlayPlayList = true;
   repeatFields.end = 4;
   transport.Play();
@@ -182,7 +182,7 @@ TEST_F(TransportTest, ARangeFromTheStartOfTheSongIsNotTakenForItsEnd) {
   EXPECT_TRUE(transport.State().started);
 }
 
-TEST_F(TransportTest, ARangeThatDoesNotBeginBeforeItsEndHoldsTheSongAtItsBegin) {
+TEST_F(Transport, ARangeThatDoesNotBeginBeforeItsEndHoldsTheSongAtItsBegin) {
   settings.autoPlayPlayList = true;
   for (const std::int32_t begin : {4, 6}) {
     repeatFields.begin = begin;
@@ -200,7 +200,7 @@ TEST_F(TransportTest, ARangeThatDoesNotBeginBeforeItsEndHoldsTheSongAtItsBegin) 
   }
 }
 
-TEST_F(TransportTest, ARangeThatBeginsBehindTheSongEndsItAtTheEndOfTheRange) {
+TEST_F(Transport, ARangeThatBeginsBehindTheSongEndsItAtTheEndOfTheRange) {
   settings.autoPlayPlayList = true;
   repeatFields.begin = 60;
   repeatFields.end = 4;
@@ -209,7 +209,7 @@ TEST_F(TransportTest, ARangeThatBeginsBehindTheSongEndsItAtTheEndOfTheRange) {
   EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3");
 }
 
-TEST_F(TransportTest, WithoutAutoPlayTheSongRunsPastTheRepeatRange) {
+TEST_F(Transport, WithoutAutoPlayTheSongRunsPastTheRepeatRange) {
   repeatFields.begin = 2;
   repeatFields.end = 4;
   transport.Play();

@@ -10,7 +10,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-TEST_F(TransportTest, PlayOfAMissingFileSaysSoAndChangesNoState) {
+TEST_F(Transport, PlayOfAMissingFileSaysSoAndChangesNoState) {
   files.Remove(u"C:\\a1.mp3");
   transport.Play();
   EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
@@ -22,7 +22,7 @@ TEST_F(TransportTest, PlayOfAMissingFileSaysSoAndChangesNoState) {
   EXPECT_FALSE(transport.State().refreshSongTime);
 }
 
-TEST_F(TransportTest, AnEntryWithoutAPathIsMissingAndNeverHandedToThePlayer) {
+TEST_F(Transport, AnEntryWithoutAPathIsMissingAndNeverHandedToThePlayer) {
   Song(0).SetPath(u"");
   transport.Play();
   EXPECT_THAT(player.Calls(), IsEmpty());
@@ -30,7 +30,7 @@ TEST_F(TransportTest, AnEntryWithoutAPathIsMissingAndNeverHandedToThePlayer) {
   EXPECT_FALSE(transport.State().playing);
 }
 
-TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndAdvances) {
+TEST_F(Transport, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndAdvances) {
   transport.Play();
   Run(1.0);
   ASSERT_TRUE(transport.State().started);
@@ -46,7 +46,7 @@ TEST_F(TransportTest, PlayOfAMissingFileWhileAnotherSongSoundsUnloadsThatOneAndA
   EXPECT_EQ(store.currentSong, 2);
 }
 
-TEST_F(TransportTest, ADiskThatHangsDoesNotHoldPlayUpNorChangeTheStatus) {
+TEST_F(Transport, ADiskThatHangsDoesNotHoldPlayUpNorChangeTheStatus) {
   files.hangs = true;
   Song(0).status = TCSongStatus::NotFound;
   transport.Play();
@@ -59,7 +59,7 @@ TEST_F(TransportTest, ADiskThatHangsDoesNotHoldPlayUpNorChangeTheStatus) {
   EXPECT_THAT(display.calls, Not(Contains("Row 0")));
 }
 
-TEST_F(TransportTest, WhatAHangingDiskSaysInTheEndIsTakenOver) {
+TEST_F(Transport, WhatAHangingDiskSaysInTheEndIsTakenOver) {
   files.hangs = true;
   Song(0).status = TCSongStatus::NotFound;
   transport.Play();
@@ -71,7 +71,7 @@ TEST_F(TransportTest, WhatAHangingDiskSaysInTheEndIsTakenOver) {
   EXPECT_TRUE(transport.State().playing);
 }
 
-TEST_F(TransportTest, ASongThatTurnsOutToBeMissingIsReportedAndWasNeverStarted) {
+TEST_F(Transport, ASongThatTurnsOutToBeMissingIsReportedAndWasNeverStarted) {
   files.Remove(u"C:\\a1.mp3");
   player.SetSong(u"C:\\a1.mp3", {.opensAfter = 100.0});
   files.hangs = true;
@@ -85,7 +85,7 @@ TEST_F(TransportTest, ASongThatTurnsOutToBeMissingIsReportedAndWasNeverStarted) 
   EXPECT_FALSE(transport.State().refreshSongTime);
 }
 
-TEST_F(TransportTest, ALateAnswerIsNotTakenForAnotherSongs) {
+TEST_F(Transport, ALateAnswerIsNotTakenForAnotherSongs) {
   files.Remove(u"C:\\a1.mp3");
   files.hangs = true;
   transport.Play();
@@ -97,7 +97,7 @@ TEST_F(TransportTest, ALateAnswerIsNotTakenForAnotherSongs) {
   EXPECT_THAT(messages.lines, ElementsAre(u"Unable to play song as unable to find file: C:\\a1.mp3"));
 }
 
-TEST_F(TransportTest, ALateAnswerFindsItsSongWhereAnEditPutIt) {
+TEST_F(Transport, ALateAnswerFindsItsSongWhereAnEditPutIt) {
   files.hangs = true;
   transport.Play();
   ASSERT_TRUE(MoveSong(store, {0, 0, 0}, {0, 0, 2}));
@@ -108,7 +108,7 @@ TEST_F(TransportTest, ALateAnswerFindsItsSongWhereAnEditPutIt) {
   EXPECT_THAT(display.calls, Not(Contains("Row 0")));
 }
 
-TEST_F(TransportTest, OfTwoEntriesOfOneFileTheLateAnswerIsForTheOneThatWasPlayed) {
+TEST_F(Transport, OfTwoEntriesOfOneFileTheLateAnswerIsForTheOneThatWasPlayed) {
   Song(0).treeNode = static_cast<TCTreeNode>(1);
   Song(1) = Song(0);
   Song(1).treeNode = static_cast<TCTreeNode>(2);
@@ -121,7 +121,7 @@ TEST_F(TransportTest, OfTwoEntriesOfOneFileTheLateAnswerIsForTheOneThatWasPlayed
   EXPECT_EQ(Song(1).status, TCSongStatus::Found);
 }
 
-TEST_F(TransportTest, ALateAnswerAboutASongThatWasLeftChangesNothing) {
+TEST_F(Transport, ALateAnswerAboutASongThatWasLeftChangesNothing) {
   files.Remove(u"C:\\a1.mp3");
   files.hangs = true;
   transport.Play();
@@ -134,7 +134,7 @@ TEST_F(TransportTest, ALateAnswerAboutASongThatWasLeftChangesNothing) {
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
-TEST_F(TransportTest, ALateAnswerDoesNotReachTheNextDocument) {
+TEST_F(Transport, ALateAnswerDoesNotReachTheNextDocument) {
   files.Remove(u"C:\\a1.mp3");
   files.hangs = true;
   transport.Play();
@@ -144,7 +144,7 @@ TEST_F(TransportTest, ALateAnswerDoesNotReachTheNextDocument) {
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
-TEST_F(TransportTest, OnlyPlayAsksTheDisk) {
+TEST_F(Transport, OnlyPlayAsksTheDisk) {
   transport.Play();
   EXPECT_THAT(files.existenceAsked, ElementsAre(u"C:\\a1.mp3"));
   files.ForgetRequests();

@@ -19,9 +19,9 @@ namespace brevant {
 
 // Two groups: the first with playlists of three songs and of one, the second with one of two songs. Every
 // song is there and lasts ten seconds.
-class TransportTest : public testing::Test {
+class Transport : public testing::Test {
  protected:
-  TransportTest() {
+  Transport() {
     AddGroup({{u"a1", u"a2", u"a3"}, {u"b1"}});
     AddGroup({{u"c1", u"c2"}});
     player.SetDefaultSong({.length = 10.4});

@@ -5,7 +5,7 @@
 namespace brevant {
 namespace {
 
-TEST(TransportRulesTest, ATickActsOnlyOnTheFirstSoundAndOnTheEnd) {
+TEST(TransportRules, ATickActsOnlyOnTheFirstSoundAndOnTheEnd) {
   struct Case {
     bool started;
     double position;
@@ -23,7 +23,7 @@ TEST(TransportRulesTest, ATickActsOnlyOnTheFirstSoundAndOnTheEnd) {
   }
 }
 
-TEST(TransportRulesTest, ARepeatRangeIsHeldOnlyWhileItIsSetAndAutoPlayIsOn) {
+TEST(TransportRules, ARepeatRangeIsHeldOnlyWhileItIsSetAndAutoPlayIsOn) {
   struct Case {
     bool started;
     double position;
@@ -45,7 +45,7 @@ TEST(TransportRulesTest, ARepeatRangeIsHeldOnlyWhileItIsSetAndAutoPlayIsOn) {
   }
 }
 
-TEST(TransportRulesTest, AnEndedSongLeadsWhereTheOptionsSay) {
+TEST(TransportRules, AnEndedSongLeadsWhereTheOptionsSay) {
   for (const bool recycle : {false, true}) {
     for (const bool hasNext : {false, true}) {
       EXPECT_EQ(DecideAdvance({false, recycle, hasNext}), TCAdvance::Rest);
@@ -70,7 +70,7 @@ void ExpectStep(const TCPlaylistStep& step, std::int32_t group, std::int32_t pla
   EXPECT_EQ(step.playlist, playlist);
 }
 
-TEST(TransportRulesTest, NextPlaylistGoesThroughTheGroupAndOnToTheNextGroupsFirst) {
+TEST(TransportRules, NextPlaylistGoesThroughTheGroupAndOnToTheNextGroupsFirst) {
   TCSetListStore store = ThreeGroups();
   ExpectStep(StepToNextPlaylist(store), 0, 1);
   store.currentPlaylist = 1;
@@ -80,7 +80,7 @@ TEST(TransportRulesTest, NextPlaylistGoesThroughTheGroupAndOnToTheNextGroupsFirs
   EXPECT_FALSE(StepToNextPlaylist(store).moves);
 }
 
-TEST(TransportRulesTest, PriorPlaylistLandsOnTheFirstOfTheGroupBefore) {
+TEST(TransportRules, PriorPlaylistLandsOnTheFirstOfTheGroupBefore) {
   TCSetListStore store = ThreeGroups();
   EXPECT_FALSE(StepToPriorPlaylist(store).moves);
   store.currentGroup = 2;
@@ -92,7 +92,7 @@ TEST(TransportRulesTest, PriorPlaylistLandsOnTheFirstOfTheGroupBefore) {
   ExpectStep(StepToPriorPlaylist(store), 0, 0);  // not its last
 }
 
-TEST(TransportRulesTest, AGroupWithoutPlaylistsIsAStepOfItsOwn) {
+TEST(TransportRules, AGroupWithoutPlaylistsIsAStepOfItsOwn) {
   TCSetListStore store = ThreeGroups();
   store.groups[1].playlists.clear();
   store.currentPlaylist = 1;
@@ -103,7 +103,7 @@ TEST(TransportRulesTest, AGroupWithoutPlaylistsIsAStepOfItsOwn) {
   ExpectStep(StepToPriorPlaylist(store), 0, 0);
 }
 
-TEST(TransportRulesTest, WithoutGroupsThereIsNowhereToStep) {
+TEST(TransportRules, WithoutGroupsThereIsNowhereToStep) {
   const TCSetListStore store;
   EXPECT_FALSE(StepToNextPlaylist(store).moves);
   EXPECT_FALSE(StepToPriorPlaylist(store).moves);

@@ -9,7 +9,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST_F(TransportTest, PlayLoadsTheCurrentSongAndStartsIt) {
+TEST_F(Transport, PlayLoadsTheCurrentSongAndStartsIt) {
   store.currentSong = 1;
   messages.Append(u"old");
   transport.Play();
@@ -23,7 +23,7 @@ TEST_F(TransportTest, PlayLoadsTheCurrentSongAndStartsIt) {
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
-TEST_F(TransportTest, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
+TEST_F(Transport, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
   store.currentPlaylist = 1;
   store.currentSong = 2;  // of the longer playlist before
   transport.Play();
@@ -33,7 +33,7 @@ TEST_F(TransportTest, PlayWhenNoSongIsCurrentStartsTheSetFromItsTop) {
   EXPECT_TRUE(transport.State().playing);
 }
 
-TEST_F(TransportTest, PlayWithoutAnySongPlaysWritesAndReportsNothing) {
+TEST_F(Transport, PlayWithoutAnySongPlaysWritesAndReportsNothing) {
   store.ClearSetLists();
   transport.Play();
   EXPECT_THAT(player.Calls(), IsEmpty());
@@ -42,7 +42,7 @@ TEST_F(TransportTest, PlayWithoutAnySongPlaysWritesAndReportsNothing) {
   EXPECT_FALSE(transport.State().playing);
 }
 
-TEST_F(TransportTest, ARefusedPlayLeavesTheFlagsAsIfPlayingAndTheMessagesStanding) {
+TEST_F(Transport, ARefusedPlayLeavesTheFlagsAsIfPlayingAndTheMessagesStanding) {
   messages.Append(u"old");
   player.AcceptCommands(false);
   transport.Play();
@@ -50,7 +50,7 @@ TEST_F(TransportTest, ARefusedPlayLeavesTheFlagsAsIfPlayingAndTheMessagesStandin
   EXPECT_THAT(messages.lines, ElementsAre(u"old"));
 }
 
-TEST_F(TransportTest, TheSameKeyPressedTwiceStartsTheSongAnew) {
+TEST_F(Transport, TheSameKeyPressedTwiceStartsTheSongAnew) {
   transport.Play();
   Run(4.0);
   transport.Play();
@@ -60,7 +60,7 @@ TEST_F(TransportTest, TheSameKeyPressedTwiceStartsTheSongAnew) {
   EXPECT_EQ(store.currentSong, 0);
 }
 
-TEST_F(TransportTest, StopTakesTheSongsTimeAndLeavesPausedAndStarted) {
+TEST_F(Transport, StopTakesTheSongsTimeAndLeavesPausedAndStarted) {
   transport.Play();
   Run(1.0);
   transport.PauseContinue();
@@ -74,7 +74,7 @@ TEST_F(TransportTest, StopTakesTheSongsTimeAndLeavesPausedAndStarted) {
   EXPECT_EQ(transport.State().lastLyricIndex, -1);
 }
 
-TEST_F(TransportTest, StopNeverAdvances) {
+TEST_F(Transport, StopNeverAdvances) {
   transport.Play();
   Run(1.0);
   transport.Stop();
@@ -82,7 +82,7 @@ TEST_F(TransportTest, StopNeverAdvances) {
   EXPECT_EQ(store.currentSong, 0);
 }
 
-TEST_F(TransportTest, PauseHoldsTheSongAndContinueGoesOn) {
+TEST_F(Transport, PauseHoldsTheSongAndContinueGoesOn) {
   transport.Play();
   Run(3.0);
   transport.PauseContinue();
@@ -98,7 +98,7 @@ TEST_F(TransportTest, PauseHoldsTheSongAndContinueGoesOn) {
   EXPECT_GT(player.GetPosition().value_or(0.0), held);
 }
 
-TEST_F(TransportTest, TheFirstPauseContinueAfterStoppingAPausedSongStartsItAgain) {
+TEST_F(Transport, TheFirstPauseContinueAfterStoppingAPausedSongStartsItAgain) {
   transport.Play();
   Run(1.0);
   transport.PauseContinue();
@@ -114,7 +114,7 @@ TEST_F(TransportTest, TheFirstPauseContinueAfterStoppingAPausedSongStartsItAgain
   EXPECT_FALSE(transport.State().paused);
 }
 
-TEST_F(TransportTest, WithoutControlsAPlayingSongIsLeftAlone) {
+TEST_F(Transport, WithoutControlsAPlayingSongIsLeftAlone) {
   player.ShowControls(false);
   transport.Play();
   Run(2.0);
@@ -122,7 +122,7 @@ TEST_F(TransportTest, WithoutControlsAPlayingSongIsLeftAlone) {
   EXPECT_FALSE(transport.State().started);
 }
 
-TEST_F(TransportTest, SteppingNeverWrapsAndNeverPlays) {
+TEST_F(Transport, SteppingNeverWrapsAndNeverPlays) {
   transport.PriorSong();
   EXPECT_EQ(store.currentSong, 0);
   EXPECT_THAT(display.calls, IsEmpty());
@@ -137,7 +137,7 @@ TEST_F(TransportTest, SteppingNeverWrapsAndNeverPlays) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(TransportTest, SteppingWithACurrentGroupOrPlaylistOutOfRangeDoesNothing) {
+TEST_F(Transport, SteppingWithACurrentGroupOrPlaylistOutOfRangeDoesNothing) {
   for (const std::int32_t wrong : {-1, 7}) {
     store.currentGroup = wrong;
     transport.NextSong();
@@ -152,7 +152,7 @@ TEST_F(TransportTest, SteppingWithACurrentGroupOrPlaylistOutOfRangeDoesNothing) 
   EXPECT_THAT(display.calls, IsEmpty());
 }
 
-TEST_F(TransportTest, PlaylistStepsShowThePlaylistAndFocusIt) {
+TEST_F(Transport, PlaylistStepsShowThePlaylistAndFocusIt) {
   store.currentSong = 2;
   EXPECT_TRUE(transport.NextPlaylist());
   EXPECT_EQ(store.currentPlaylist, 1);
@@ -171,14 +171,14 @@ TEST_F(TransportTest, PlaylistStepsShowThePlaylistAndFocusIt) {
   EXPECT_EQ(store.currentPlaylist, 0);
 }
 
-TEST_F(TransportTest, WithoutGroupsAPlaylistStepOnlyTakesTheFocus) {
+TEST_F(Transport, WithoutGroupsAPlaylistStepOnlyTakesTheFocus) {
   store.ClearSetLists();
   EXPECT_FALSE(transport.NextPlaylist());
   transport.PriorPlaylist();
   EXPECT_THAT(display.calls, ElementsAre("Focus", "Focus"));
 }
 
-TEST_F(TransportTest, ASelectedSongBecomesCurrentAndPlaysAtOnce) {
+TEST_F(Transport, ASelectedSongBecomesCurrentAndPlaysAtOnce) {
   store.groups[0].name = u"G";
   transport.SelectSong(1, TCSelect::MayPlay);
   EXPECT_EQ(store.currentSong, 1);
@@ -188,7 +188,7 @@ TEST_F(TransportTest, ASelectedSongBecomesCurrentAndPlaysAtOnce) {
   EXPECT_THAT(display.calls, ElementsAre("Highlight", "Row 1", "ShowPlaylist 0 0"));
 }
 
-TEST_F(TransportTest, ASongIsSelectedSilentlyWhenItMayNotPlayOrTheOptionIsOff) {
+TEST_F(Transport, ASongIsSelectedSilentlyWhenItMayNotPlayOrTheOptionIsOff) {
   transport.SelectSong(1, TCSelect::Silently);
   settings.immediatePlay = false;
   transport.SelectSong(2, TCSelect::MayPlay);
@@ -196,14 +196,14 @@ TEST_F(TransportTest, ASongIsSelectedSilentlyWhenItMayNotPlayOrTheOptionIsOff) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(TransportTest, SelectingWhatIsNoSongDoesNothing) {
+TEST_F(Transport, SelectingWhatIsNoSongDoesNothing) {
   transport.SelectSong(-1, TCSelect::MayPlay);
   transport.SelectSong(3, TCSelect::MayPlay);
   EXPECT_EQ(store.currentSong, 0);
   EXPECT_THAT(display.calls, IsEmpty());
 }
 
-TEST_F(TransportTest, CancelDropsPendingTimesAndTouchesNoSound) {
+TEST_F(Transport, CancelDropsPendingTimesAndTouchesNoSound) {
   transport.Play();
   player.ForgetCalls();
   transport.CancelPending();
@@ -213,7 +213,7 @@ TEST_F(TransportTest, CancelDropsPendingTimesAndTouchesNoSound) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(TransportTest, WithoutAPlayerEveryCommandRunsWithoutEffectAndWithoutError) {
+TEST_F(Transport, WithoutAPlayerEveryCommandRunsWithoutEffectAndWithoutError) {
   TCTransport mute({record, files, display, messages});
   mute.Play();
   mute.Stop();
@@ -227,7 +227,7 @@ TEST_F(TransportTest, WithoutAPlayerEveryCommandRunsWithoutEffectAndWithoutError
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
-TEST_F(TransportTest, WithoutAPlayerNoSongLosesItsTime) {
+TEST_F(Transport, WithoutAPlayerNoSongLosesItsTime) {
   TCTransport mute({record, files, display, messages});
   Song(0).time = u"03:25";
   mute.RefreshCurrentSongTime();

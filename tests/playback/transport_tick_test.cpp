@@ -10,14 +10,14 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST_F(TransportTest, ADurationThatFailsIsStoredAsNothing) {
+TEST_F(Transport, ADurationThatFailsIsStoredAsNothing) {
   Song(0).time = u"03:25";
   transport.RefreshCurrentSongTime();  // nothing is loaded
   EXPECT_EQ(Song(0).time, u"00:00");
   EXPECT_THAT(display.calls, Contains("Time 0 00:00"));
 }
 
-TEST_F(TransportTest, ASongThatCannotBePlayedTakesNoTimeAndIsAskedForNone) {
+TEST_F(Transport, ASongThatCannotBePlayedTakesNoTimeAndIsAskedForNone) {
   player.SetSong(u"C:\\a1.mp3", {.playable = false});
   Song(0).time = u"03:25";
   transport.Play();
@@ -26,7 +26,7 @@ TEST_F(TransportTest, ASongThatCannotBePlayedTakesNoTimeAndIsAskedForNone) {
   EXPECT_FALSE(transport.State().refreshSongTime);
 }
 
-TEST_F(TransportTest, ATimeWithoutARowToStandInIsAskedForUntilThereIsOne) {
+TEST_F(Transport, ATimeWithoutARowToStandInIsAskedForUntilThereIsOne) {
   transport.Play();
   store.currentSong = -1;
   Run(0.6);
@@ -37,7 +37,7 @@ TEST_F(TransportTest, ATimeWithoutARowToStandInIsAskedForUntilThereIsOne) {
   EXPECT_EQ(Song(1).time, u"00:10");
 }
 
-TEST_F(TransportTest, AChangedSongTimeMovesTheTotal) {
+TEST_F(Transport, AChangedSongTimeMovesTheTotal) {
   store.RecalcAllTotalTimes();
   EXPECT_EQ(store.groups[0].playlists[0].totalTime, u"00:30");
   transport.Play();
@@ -49,7 +49,7 @@ TEST_F(TransportTest, AChangedSongTimeMovesTheTotal) {
   EXPECT_FALSE(transport.State().refreshSongTime);
 }
 
-TEST_F(TransportTest, ASongTimeThatIsNotKnownYetIsAskedForAgain) {
+TEST_F(Transport, ASongTimeThatIsNotKnownYetIsAskedForAgain) {
   player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .opensAfter = 1.0});
   Song(0).time = u"03:25";
   transport.Play();
@@ -60,7 +60,7 @@ TEST_F(TransportTest, ASongTimeThatIsNotKnownYetIsAskedForAgain) {
   EXPECT_EQ(Song(0).time, u"00:10");
 }
 
-TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsTimeGoesIntoNoRow) {
+TEST_F(Transport, AfterTheSetListsWereClearedTheOldSongsTimeGoesIntoNoRow) {
   player.SetSong(u"C:\\a1.mp3", {.length = 10.4, .opensAfter = 1.0});
   transport.Play();
   transport.ForgetSong();
@@ -69,7 +69,7 @@ TEST_F(TransportTest, AfterTheSetListsWereClearedTheOldSongsTimeGoesIntoNoRow) {
   EXPECT_EQ(Song(0).time, u"03:25");
 }
 
-TEST_F(TransportTest, AfterPlayAndAfterStopTheCurrentLyricLineIsDrawnAgain) {
+TEST_F(Transport, AfterPlayAndAfterStopTheCurrentLyricLineIsDrawnAgain) {
   Song(0).lyrics = LyricsOf({{u"one", 0, kEndOfLyrics, kNoSinger}});
   transport.Play();
   Run(1.0);
@@ -82,7 +82,7 @@ TEST_F(TransportTest, AfterPlayAndAfterStopTheCurrentLyricLineIsDrawnAgain) {
   EXPECT_EQ(transport.State().lastLyricIndex, -1);
 }
 
-TEST_F(TransportTest, LyricsFollowThePlayingSong) {
+TEST_F(Transport, LyricsFollowThePlayingSong) {
   Song(0).lyrics = LyricsOf({{u"one", 1000, 3000, kNoSinger}, {u"two", 3000, kEndOfLyrics, kNoSinger}});
   settings.numberLyricLines = 1;
   transport.Play();
@@ -99,7 +99,7 @@ TEST_F(TransportTest, LyricsFollowThePlayingSong) {
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\ttwo"));
 }
 
-TEST_F(TransportTest, ATickMeasuresBeforeItShowsLyrics) {
+TEST_F(Transport, ATickMeasuresBeforeItShowsLyrics) {
   Song(0).lyrics = LyricsOf({{u"one", 0, kEndOfLyrics, kNoSinger}});
   transport.Play();
   transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
@@ -108,7 +108,7 @@ TEST_F(TransportTest, ATickMeasuresBeforeItShowsLyrics) {
   EXPECT_THAT(messages.lines, ElementsAre(u"\r\n", u"\tone")) << "its words take the place of the time";
 }
 
-TEST_F(TransportTest, ATimeRunLeavesTheSongThatPlaysAlone) {
+TEST_F(Transport, ATimeRunLeavesTheSongThatPlaysAlone) {
   settings.autoPlayPlayList = true;
   probe.defaultLength = 65;
   transport.Play();
@@ -125,7 +125,7 @@ TEST_F(TransportTest, ATimeRunLeavesTheSongThatPlaysAlone) {
   EXPECT_EQ(player.GetUrl(), u"C:\\a2.mp3") << "its end is noticed";
 }
 
-TEST_F(TransportTest, WithoutAProbeATimeRunMeasuresNothingAndThePlayerIsNotAsked) {
+TEST_F(Transport, WithoutAProbeATimeRunMeasuresNothingAndThePlayerIsNotAsked) {
   TCTransport blind({record, files, display, messages, &player});
   blind.StartTimeRun(TCTimeScope::AllSongs);
   EXPECT_FALSE(blind.TimeRun().Pending());
@@ -134,7 +134,7 @@ TEST_F(TransportTest, WithoutAProbeATimeRunMeasuresNothingAndThePlayerIsNotAsked
   EXPECT_THAT(messages.lines, IsEmpty());
 }
 
-TEST_F(TransportTest, CancelEndsATimeRun) {
+TEST_F(Transport, CancelEndsATimeRun) {
   transport.StartTimeRun(TCTimeScope::AllSongs);
   Run(0.6);
   ASSERT_GT(transport.TimeRun().Measured(), 0u);
@@ -143,7 +143,7 @@ TEST_F(TransportTest, CancelEndsATimeRun) {
   EXPECT_EQ(Song(0).time, u"00:00");
 }
 
-TEST_F(TransportTest, TheTickSaysWhenATimeRunChangedSomething) {
+TEST_F(Transport, TheTickSaysWhenATimeRunChangedSomething) {
   transport.StartTimeRun(TCTimeScope::CurrentPlaylist);
   int changes = 0;
   for (int tick = 0; tick < 20; ++tick) {

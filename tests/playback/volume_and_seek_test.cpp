@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class VolumeAndSeekTest : public testing::Test {
+class VolumeAndSeek : public testing::Test {
  protected:
   // Starts a song of `length` seconds and lets it play up to `position`.
   void PlayTo(double position, double length = 60.0) {
@@ -30,7 +30,7 @@ class VolumeAndSeekTest : public testing::Test {
   TCVolumeAndSeek commands{settings, &player, &fields};
 };
 
-TEST_F(VolumeAndSeekTest, VolumeStepsAreAskedForUnclampedAndHeldByThePlayer) {
+TEST_F(VolumeAndSeek, VolumeStepsAreAskedForUnclampedAndHeldByThePlayer) {
   commands.VolumeUp();
   EXPECT_THAT(player.Calls(), ElementsAre("SetVolume 105"));
   EXPECT_EQ(player.GetVolume(), 100);
@@ -41,7 +41,7 @@ TEST_F(VolumeAndSeekTest, VolumeStepsAreAskedForUnclampedAndHeldByThePlayer) {
   EXPECT_EQ(player.GetVolume(), 0);
 }
 
-TEST_F(VolumeAndSeekTest, TheStepIsTheOptionsAndMayBeAnything) {
+TEST_F(VolumeAndSeek, TheStepIsTheOptionsAndMayBeAnything) {
   settings.volumeStep = 20;
   commands.VolumeDown();
   EXPECT_EQ(player.GetVolume(), 80);
@@ -52,7 +52,7 @@ TEST_F(VolumeAndSeekTest, TheStepIsTheOptionsAndMayBeAnything) {
   EXPECT_EQ(player.GetVolume(), 100);
 }
 
-TEST_F(VolumeAndSeekTest, SeekStepsMoveThePositionWithinTheSong) {
+TEST_F(VolumeAndSeek, SeekStepsMoveThePositionWithinTheSong) {
   PlayTo(10.0);
   commands.SeekForward();
   commands.SeekBack();
@@ -66,7 +66,7 @@ TEST_F(VolumeAndSeekTest, SeekStepsMoveThePositionWithinTheSong) {
   EXPECT_THAT(player.Calls(), ElementsAre("SetPosition 0"));
 }
 
-TEST_F(VolumeAndSeekTest, ASongOfUnknownLengthIsSoughtInUpToTenThousandSeconds) {
+TEST_F(VolumeAndSeek, ASongOfUnknownLengthIsSoughtInUpToTenThousandSeconds) {
   settings.seekStepSeconds = 20'000;
   player.SetDefaultSong({.opensAfter = 100.0});
   player.LoadUrl(u"\\a.mp3");
@@ -83,7 +83,7 @@ TEST_F(VolumeAndSeekTest, ASongOfUnknownLengthIsSoughtInUpToTenThousandSeconds) 
   EXPECT_THAT(player.Calls(), ElementsAre("SetPosition 10000"));
 }
 
-TEST_F(VolumeAndSeekTest, WithoutControlsNothingIsSought) {
+TEST_F(VolumeAndSeek, WithoutControlsNothingIsSought) {
   PlayTo(10.0);
   player.ShowControls(false);
   commands.SeekForward();
@@ -91,7 +91,7 @@ TEST_F(VolumeAndSeekTest, WithoutControlsNothingIsSought) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(VolumeAndSeekTest, TheRepeatRangeTakesWholeSecondsOfThePosition) {
+TEST_F(VolumeAndSeek, TheRepeatRangeTakesWholeSecondsOfThePosition) {
   PlayTo(30.9);
   commands.SetRepeatBegin();
   PlayTo(45.2);
@@ -100,20 +100,20 @@ TEST_F(VolumeAndSeekTest, TheRepeatRangeTakesWholeSecondsOfThePosition) {
   EXPECT_EQ(fields.end, 45);
 }
 
-TEST_F(VolumeAndSeekTest, ARepeatPointPastTheFirstHourWraps) {
+TEST_F(VolumeAndSeek, ARepeatPointPastTheFirstHourWraps) {
   PlayTo(3610.0, 7200.0);
   commands.SetRepeatEnd();
   EXPECT_EQ(fields.end, 10);
 }
 
-TEST_F(VolumeAndSeekTest, WithoutControlsARepeatPointIsTheStart) {
+TEST_F(VolumeAndSeek, WithoutControlsARepeatPointIsTheStart) {
   fields.begin = 12;
   player.ShowControls(false);
   commands.SetRepeatBegin();
   EXPECT_EQ(fields.begin, 0);
 }
 
-TEST_F(VolumeAndSeekTest, WithoutAPlayerOrFieldsEveryCommandDoesNothing) {
+TEST_F(VolumeAndSeek, WithoutAPlayerOrFieldsEveryCommandDoesNothing) {
   fields.begin = 12;
   TCVolumeAndSeek mute(settings, nullptr, &fields);
   mute.VolumeUp();

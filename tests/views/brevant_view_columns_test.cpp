@@ -11,7 +11,7 @@
 namespace brevant {
 namespace {
 
-class TCBrevantViewColumnsTest : public testing::Test {
+class BrevantViewColumns : public testing::Test {
  protected:
   void SetUp() override {
     view.resize(900, 400);
@@ -39,12 +39,12 @@ class TCBrevantViewColumnsTest : public testing::Test {
   TCBrevantView view;
 };
 
-TEST_F(TCBrevantViewColumnsTest, BeginWithTheInitialWidths) {
+TEST_F(BrevantViewColumns, BeginWithTheInitialWidths) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   EXPECT_EQ(Widths(), (std::vector<int>{64, 64, 96, 96, 1024}));
 }
 
-TEST_F(TCBrevantViewColumnsTest, NumberStatusAndTimeAreNeverCutOffAtAnyFontSize) {
+TEST_F(BrevantViewColumns, NumberStatusAndTimeAreNeverCutOffAtAnyFontSize) {
   std::vector<TCPlaylistRow> rows = Rows(3);
   rows[2].texts = {u"10000", u"Not found\\Lyrics", u"101:02:03", u"Song"};
   view.ShowRows(rows, TCShowRows::Afresh);
@@ -58,7 +58,7 @@ TEST_F(TCBrevantViewColumnsTest, NumberStatusAndTimeAreNeverCutOffAtAnyFontSize)
   }
 }
 
-TEST_F(TCBrevantViewColumnsTest, ShrinkAgainWithTheFont) {
+TEST_F(BrevantViewColumns, ShrinkAgainWithTheFont) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.SetDisplayFont(u"Times New Roman", 60);
   EXPECT_GT(view.columnWidth(2), 96);
@@ -66,7 +66,7 @@ TEST_F(TCBrevantViewColumnsTest, ShrinkAgainWithTheFont) {
   EXPECT_EQ(view.columnWidth(2), 96);
 }
 
-TEST_F(TCBrevantViewColumnsTest, MakeRoomForATextThatComesLater) {
+TEST_F(BrevantViewColumns, MakeRoomForATextThatComesLater) {
   view.SetDisplayFont(u"Times New Roman", 30);
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   const int before = view.columnWidth(3);
@@ -77,7 +77,7 @@ TEST_F(TCBrevantViewColumnsTest, MakeRoomForATextThatComesLater) {
   EXPECT_GT(view.columnWidth(2), TextWidth(1, 2));
 }
 
-TEST_F(TCBrevantViewColumnsTest, DoNotJumpBackWhileThePlaylistStays) {
+TEST_F(BrevantViewColumns, DoNotJumpBackWhileThePlaylistStays) {
   view.SetDisplayFont(u"Times New Roman", 30);
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.SetRowTexts(1, {u"2", u"Not found\\Lyrics", u"00:00", u"Song"});
@@ -86,7 +86,7 @@ TEST_F(TCBrevantViewColumnsTest, DoNotJumpBackWhileThePlaylistStays) {
   EXPECT_EQ(Widths(), widths);
 }
 
-TEST_F(TCBrevantViewColumnsTest, ScrollToTheSideOnlyWhereANameIsCutOff) {
+TEST_F(BrevantViewColumns, ScrollToTheSideOnlyWhereANameIsCutOff) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);  // short names in a column wider than the window
   EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
   std::vector<TCPlaylistRow> rows = Rows(3);
@@ -96,14 +96,14 @@ TEST_F(TCBrevantViewColumnsTest, ScrollToTheSideOnlyWhereANameIsCutOff) {
   EXPECT_TRUE(view.horizontalScrollBar()->isVisible());
 }
 
-TEST_F(TCBrevantViewColumnsTest, DoNotScrollToTheSideForAHeaderThatIsCutOff) {
+TEST_F(BrevantViewColumns, DoNotScrollToTheSideForAHeaderThatIsCutOff) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.SetPlaylistHeader(std::u16string(200, u'W') + u" - Total Playlist Time: 01:02:03");
   QCoreApplication::processEvents();
   EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
 }
 
-TEST_F(TCBrevantViewColumnsTest, GoBackToTheFirstColumnWhenNoNameIsCutOffAnyMore) {
+TEST_F(BrevantViewColumns, GoBackToTheFirstColumnWhenNoNameIsCutOffAnyMore) {
   std::vector<TCPlaylistRow> rows = Rows(3);
   rows[1].texts.name = std::u16string(200, u'W');
   view.ShowRows(rows, TCShowRows::Afresh);
@@ -114,21 +114,21 @@ TEST_F(TCBrevantViewColumnsTest, GoBackToTheFirstColumnWhenNoNameIsCutOffAnyMore
   EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
 }
 
-TEST_F(TCBrevantViewColumnsTest, TheNamesTakeWhatAWideWindowLeaves) {
+TEST_F(BrevantViewColumns, TheNamesTakeWhatAWideWindowLeaves) {
   view.resize(3000, 400);
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   EXPECT_EQ(view.horizontalHeader()->length(), view.viewport()->width());
   EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
 }
 
-TEST_F(TCBrevantViewColumnsTest, TheNamesAreAsWideAsTheHeaderAboveThem) {
+TEST_F(BrevantViewColumns, TheNamesAreAsWideAsTheHeaderAboveThem) {
   view.SetDisplayFont(u"Times New Roman", 60);
   const QString title = QStringLiteral("A name of a playlist that is long - Total Playlist Time: 01:02:03");
   view.SetPlaylistHeader(title.toStdU16String());
   EXPECT_GT(view.columnWidth(4), QFontMetrics(view.font(), &view).horizontalAdvance(title));
 }
 
-TEST_F(TCBrevantViewColumnsTest, AWidthThatTheUserDraggedStands) {
+TEST_F(BrevantViewColumns, AWidthThatTheUserDraggedStands) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   DragEdge(2, 30);
   EXPECT_EQ(view.columnWidth(2), 126);
@@ -137,7 +137,7 @@ TEST_F(TCBrevantViewColumnsTest, AWidthThatTheUserDraggedStands) {
   EXPECT_EQ(view.columnWidth(2), 126);
 }
 
-TEST_F(TCBrevantViewColumnsTest, ADoubleClickOnAnEdgeLetsTheColumnFollowTheFontAgain) {
+TEST_F(BrevantViewColumns, ADoubleClickOnAnEdgeLetsTheColumnFollowTheFontAgain) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   DragEdge(2, 30);
   QHeaderView* header = view.horizontalHeader();
@@ -146,7 +146,7 @@ TEST_F(TCBrevantViewColumnsTest, ADoubleClickOnAnEdgeLetsTheColumnFollowTheFontA
   EXPECT_EQ(view.columnWidth(2), 96);
 }
 
-TEST_F(TCBrevantViewColumnsTest, SavedWidthsComeBackInAnotherView) {
+TEST_F(BrevantViewColumns, SavedWidthsComeBackInAnotherView) {
   const QTemporaryDir folder;
   ASSERT_TRUE(folder.isValid());
   const QString path = folder.filePath(QStringLiteral("Profile.ini"));
@@ -163,14 +163,14 @@ TEST_F(TCBrevantViewColumnsTest, SavedWidthsComeBackInAnotherView) {
   EXPECT_EQ(later.columnWidth(1), 64);
 }
 
-TEST_F(TCBrevantViewColumnsTest, ALargeFontIsNotTakenForTheUsersWish) {
+TEST_F(BrevantViewColumns, ALargeFontIsNotTakenForTheUsersWish) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.SetDisplayFont(u"Times New Roman", 100000);
   view.SetDisplayFont(u"Times New Roman", 14);
   EXPECT_EQ(Widths(), (std::vector<int>{64, 64, 96, 96, 1024}));
 }
 
-TEST_F(TCBrevantViewColumnsTest, AllRowsAreEquallyHighAndHoldTheFont) {
+TEST_F(BrevantViewColumns, AllRowsAreEquallyHighAndHoldTheFont) {
   view.ShowRows(Rows(30), TCShowRows::Afresh);
   for (const int points : {1, 14, 40, 72}) {
     view.SetDisplayFont(u"Times New Roman", points);
@@ -182,14 +182,14 @@ TEST_F(TCBrevantViewColumnsTest, AllRowsAreEquallyHighAndHoldTheFont) {
   EXPECT_TRUE(view.verticalHeader()->isHidden());
 }
 
-TEST_F(TCBrevantViewColumnsTest, TheHeaderTakesTheRowsFontAndHeight) {
+TEST_F(BrevantViewColumns, TheHeaderTakesTheRowsFontAndHeight) {
   view.SetDisplayFont(u"Times New Roman", 40);
   EXPECT_EQ(view.horizontalHeader()->font().pointSize(), 40);
   EXPECT_EQ(view.font().pointSize(), 40);
   EXPECT_GE(view.horizontalHeader()->height(), QFontMetrics(view.font(), &view).height());
 }
 
-TEST_F(TCBrevantViewColumnsTest, FontSizesOutOfReasonStayUsable) {
+TEST_F(BrevantViewColumns, FontSizesOutOfReasonStayUsable) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.SetDisplayFont(u"Times New Roman", -7);
   EXPECT_EQ(view.font().pointSize(), 1);
@@ -197,7 +197,7 @@ TEST_F(TCBrevantViewColumnsTest, FontSizesOutOfReasonStayUsable) {
   EXPECT_LT(view.rowHeight(0), 1000);
 }
 
-TEST_F(TCBrevantViewColumnsTest, AClickOnAHeaderSelectsNothing) {
+TEST_F(BrevantViewColumns, AClickOnAHeaderSelectsNothing) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   QTest::mouseClick(view.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(300, 5));
   EXPECT_EQ(view.SelectedRow(), -1);

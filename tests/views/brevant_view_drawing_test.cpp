@@ -18,7 +18,7 @@
 namespace brevant {
 namespace {
 
-class TCBrevantViewDrawingTest : public testing::Test {
+class BrevantViewDrawing : public testing::Test {
  protected:
   void SetUp() override {
     view.resize(900, 500);
@@ -46,7 +46,7 @@ class TCBrevantViewDrawingTest : public testing::Test {
   TCBrevantView view;
 };
 
-TEST_F(TCBrevantViewDrawingTest, EachRowIsDrawnInItsOwnColours) {
+TEST_F(BrevantViewDrawing, EachRowIsDrawnInItsOwnColours) {
   view.ShowRows({RowNamed(u"Previous", kPreviousColour), RowNamed(u"Current", kCurrentColour),
                  RowNamed(u"Next", kNextColour), RowNamed(u"Other", kWhite),
                  RowNamed(u"Black on white", kBlack, kWhite)},
@@ -67,7 +67,7 @@ TEST_F(TCBrevantViewDrawingTest, EachRowIsDrawnInItsOwnColours) {
   EXPECT_GT(Count(Row(4), kBlack), 50);
 }
 
-TEST_F(TCBrevantViewDrawingTest, RecolouringRedrawsRowsAndTheEmptySpaceAndTheHeader) {
+TEST_F(BrevantViewDrawing, RecolouringRedrawsRowsAndTheEmptySpaceAndTheHeader) {
   view.ShowRows(Rows(2), TCShowRows::Afresh);
   EXPECT_TRUE(IsMostly(Viewport(), kBlack));
   EXPECT_TRUE(IsMostly(Header(), kBlack));
@@ -79,7 +79,7 @@ TEST_F(TCBrevantViewDrawingTest, RecolouringRedrawsRowsAndTheEmptySpaceAndTheHea
   EXPECT_GT(Count(Row(1), kBlack), 50);
 }
 
-TEST_F(TCBrevantViewDrawingTest, WithoutAnyRowTheBackgroundIsTheOneThatWasSet) {
+TEST_F(BrevantViewDrawing, WithoutAnyRowTheBackgroundIsTheOneThatWasSet) {
   EXPECT_TRUE(IsMostly(Viewport(), kBlack));
   view.SetBackground(Qt::black, Qt::white);
   EXPECT_EQ(Count(Viewport(), kWhite), view.viewport()->width() * view.viewport()->height());
@@ -89,7 +89,7 @@ TEST_F(TCBrevantViewDrawingTest, WithoutAnyRowTheBackgroundIsTheOneThatWasSet) {
   EXPECT_GT(Count(Header(), kWhite), 50);
 }
 
-TEST_F(TCBrevantViewDrawingTest, ASelectedRowKeepsItsTextColourAndStandsOut) {
+TEST_F(BrevantViewDrawing, ASelectedRowKeepsItsTextColourAndStandsOut) {
   for (const TCRgb background : {kBlack, kWhite}) {
     for (const TCRgb text : {kPreviousColour, kCurrentColour, kNextColour, background ^ kWhite}) {
       view.ShowRows({RowNamed(u"Some song", text, background), RowNamed(u"Other", text, background)},
@@ -104,7 +104,7 @@ TEST_F(TCBrevantViewDrawingTest, ASelectedRowKeepsItsTextColourAndStandsOut) {
   }
 }
 
-TEST_F(TCBrevantViewDrawingTest, ThePictureOfASelectedRowIsTheOneThatIsSeenOnIt) {
+TEST_F(BrevantViewDrawing, ThePictureOfASelectedRowIsTheOneThatIsSeenOnIt) {
   constexpr TCRgb kPlain = 0x804020;
   constexpr TCRgb kSelected = 0x208040;
   QIcon picture;
@@ -135,7 +135,7 @@ TEST_F(TCBrevantViewDrawingTest, ThePictureOfASelectedRowIsTheOneThatIsSeenOnIt)
   EXPECT_GT(Count(Row(0), kPlain), 50);
 }
 
-TEST_F(TCBrevantViewDrawingTest, ASelectedRowLooksTheSameWhereverTheFocusIs) {
+TEST_F(BrevantViewDrawing, ASelectedRowLooksTheSameWhereverTheFocusIs) {
   view.ShowRows(Rows(2), TCShowRows::Afresh);
   view.SelectRow(0);
   view.activateWindow();
@@ -147,7 +147,7 @@ TEST_F(TCBrevantViewDrawingTest, ASelectedRowLooksTheSameWhereverTheFocusIs) {
   EXPECT_EQ(Row(0), focused);
 }
 
-TEST_F(TCBrevantViewDrawingTest, TheRowPictureIsDrawnInEveryRow) {
+TEST_F(BrevantViewDrawing, TheRowPictureIsDrawnInEveryRow) {
   QPixmap pixmap(16, 16);
   pixmap.fill(QColor(1, 2, 250));
   view.SetRowPicture(QIcon(pixmap));
@@ -155,7 +155,7 @@ TEST_F(TCBrevantViewDrawingTest, TheRowPictureIsDrawnInEveryRow) {
   for (const int row : {0, 1}) EXPECT_GT(Count(Row(row).copy(0, 0, 64, 100), 0x0102FA), 100) << row;
 }
 
-TEST_F(TCBrevantViewDrawingTest, ALineBreakInANameDoesNotPushTheTextOutOfItsRow) {
+TEST_F(BrevantViewDrawing, ALineBreakInANameDoesNotPushTheTextOutOfItsRow) {
   view.ShowRows({RowNamed(u"Song")}, TCShowRows::Afresh);
   const int plain = Count(Row(0), kWhite);
   view.ShowRows({RowNamed(u"\nSong\r\n"), RowNamed(u"\u2028Song")}, TCShowRows::Afresh);
@@ -163,7 +163,7 @@ TEST_F(TCBrevantViewDrawingTest, ALineBreakInANameDoesNotPushTheTextOutOfItsRow)
   EXPECT_EQ(Count(Row(1), kWhite), plain);
 }
 
-TEST_F(TCBrevantViewDrawingTest, TheTotalInTheHeaderStaysInSightInANarrowWindow) {
+TEST_F(BrevantViewDrawing, TheTotalInTheHeaderStaysInSightInANarrowWindow) {
   view.ShowRows(Rows(2), TCShowRows::Afresh);
   view.SetPlaylistHeader(u"WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW 01:02:03");
   const QImage withTotal = Header();
@@ -183,7 +183,7 @@ class TCPaintLog : public QObject {
   }
 };
 
-TEST_F(TCBrevantViewDrawingTest, TheHeaderIsDrawnAnewAfterAScrollToTheSideAsItIsCutElsewhere) {
+TEST_F(BrevantViewDrawing, TheHeaderIsDrawnAnewAfterAScrollToTheSideAsItIsCutElsewhere) {
   view.ShowRows(Rows(2), TCShowRows::Afresh);
   QCoreApplication::processEvents();
   QWidget* drawn = view.horizontalHeader()->viewport();
@@ -194,7 +194,7 @@ TEST_F(TCBrevantViewDrawingTest, TheHeaderIsDrawnAnewAfterAScrollToTheSideAsItIs
   EXPECT_EQ(log.painted, QRegion(drawn->rect()));
 }
 
-TEST_F(TCBrevantViewDrawingTest, AnEndlessNameIsDrawnAsFarAsItsRowGoes) {
+TEST_F(BrevantViewDrawing, AnEndlessNameIsDrawnAsFarAsItsRowGoes) {
   view.ShowRows({RowNamed(std::u16string(1'000'000, u'm'))}, TCShowRows::Afresh);
   EXPECT_GT(Count(Row(0), kWhite), 50);
 }

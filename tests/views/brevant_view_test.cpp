@@ -22,7 +22,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TCBrevantViewTest : public testing::Test {
+class BrevantView : public testing::Test {
  protected:
   void SetUp() override {
     view.resize(900, 400);
@@ -49,7 +49,7 @@ class TCBrevantViewTest : public testing::Test {
   TCBrevantView view;
 };
 
-TEST_F(TCBrevantViewTest, TheTickComesEvery300MillisecondsNotEvery100) {
+TEST_F(BrevantView, TheTickComesEvery300MillisecondsNotEvery100) {
   QTimer* timer = TimerOf(view, "timer 1");
   ASSERT_NE(timer, nullptr);
   EXPECT_TRUE(timer->isActive());
@@ -63,14 +63,14 @@ TEST_F(TCBrevantViewTest, TheTickComesEvery300MillisecondsNotEvery100) {
   EXPECT_THAT(pollsAfterTick, ElementsAre(0, 0, 1, 1, 1, 2, 2));
 }
 
-TEST_F(TCBrevantViewTest, TheTimerRunsBeforeTheViewIsShownAndWhileItIsHidden) {
+TEST_F(BrevantView, TheTimerRunsBeforeTheViewIsShownAndWhileItIsHidden) {
   const TCBrevantView unseen;
   EXPECT_TRUE(unseen.findChild<QTimer*>(QStringLiteral("timer 1"))->isActive());
   view.hide();
   EXPECT_TRUE(TimerOf(view, "timer 1")->isActive());
 }
 
-TEST_F(TCBrevantViewTest, RowsShownAfreshStartAtTheTopWithNothingSelected) {
+TEST_F(BrevantView, RowsShownAfreshStartAtTheTopWithNothingSelected) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.SelectRow(150);
   view.ScrollToRow(150);
@@ -80,7 +80,7 @@ TEST_F(TCBrevantViewTest, RowsShownAfreshStartAtTheTopWithNothingSelected) {
   EXPECT_TRUE(IsWhollyInView(0));
 }
 
-TEST_F(TCBrevantViewTest, RowsShownInPlaceKeepSelectionAndScroll) {
+TEST_F(BrevantView, RowsShownInPlaceKeepSelectionAndScroll) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.ScrollToRow(150);
   view.SelectRow(149);
@@ -94,7 +94,7 @@ TEST_F(TCBrevantViewTest, RowsShownInPlaceKeepSelectionAndScroll) {
   EXPECT_THAT(view.SelectedRows(), ElementsAre(149));
 }
 
-TEST_F(TCBrevantViewTest, RowsShownInPlaceKeepOfTheSelectionWhatIsStillThere) {
+TEST_F(BrevantView, RowsShownInPlaceKeepOfTheSelectionWhatIsStillThere) {
   view.ShowRows(Rows(10), TCShowRows::Afresh);
   Click(2);
   Click(8, Qt::ControlModifier);
@@ -102,7 +102,7 @@ TEST_F(TCBrevantViewTest, RowsShownInPlaceKeepOfTheSelectionWhatIsStillThere) {
   EXPECT_THAT(view.SelectedRows(), ElementsAre(2));
 }
 
-TEST_F(TCBrevantViewTest, ClearingTakesAllRowsAndLeavesTheHeader) {
+TEST_F(BrevantView, ClearingTakesAllRowsAndLeavesTheHeader) {
   view.SetPlaylistHeader(u"Set 1 - Total Playlist Time: 12:34");
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.ClearRows();
@@ -112,7 +112,7 @@ TEST_F(TCBrevantViewTest, ClearingTakesAllRowsAndLeavesTheHeader) {
   EXPECT_EQ(view.SelectedRow(), -1);
 }
 
-TEST_F(TCBrevantViewTest, ATimeIsWrittenAndARowThatIsNotThereIsIgnored) {
+TEST_F(BrevantView, ATimeIsWrittenAndARowThatIsNotThereIsIgnored) {
   view.ShowRows(Rows(2), TCShowRows::Afresh);
   view.SetRowTime(1, u"09:59");
   EXPECT_EQ(TimeIn(1), QStringLiteral("09:59"));
@@ -121,7 +121,7 @@ TEST_F(TCBrevantViewTest, ATimeIsWrittenAndARowThatIsNotThereIsIgnored) {
   EXPECT_EQ(TimeIn(0), QStringLiteral("03:45"));
 }
 
-TEST_F(TCBrevantViewTest, RowTextsAreWrittenAndARowThatIsNotThereIsIgnored) {
+TEST_F(BrevantView, RowTextsAreWrittenAndARowThatIsNotThereIsIgnored) {
   view.ShowRows(Rows(1), TCShowRows::Afresh);
   view.SetRowTexts(0, {u"1", u"Not found", u"00:00", u"Other.wav"});
   EXPECT_EQ(NameIn(0), QStringLiteral("Other.wav"));
@@ -131,7 +131,7 @@ TEST_F(TCBrevantViewTest, RowTextsAreWrittenAndARowThatIsNotThereIsIgnored) {
   EXPECT_EQ(NameIn(0), QStringLiteral("Other.wav"));
 }
 
-TEST_F(TCBrevantViewTest, SelectedRowsComeInAscendingOrderAndTheFirstIsTheSelectedRow) {
+TEST_F(BrevantView, SelectedRowsComeInAscendingOrderAndTheFirstIsTheSelectedRow) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   EXPECT_EQ(view.SelectedRow(), -1);
   EXPECT_THAT(view.SelectedRows(), IsEmpty());
@@ -142,14 +142,14 @@ TEST_F(TCBrevantViewTest, SelectedRowsComeInAscendingOrderAndTheFirstIsTheSelect
   EXPECT_EQ(view.SelectedRow(), 2);
 }
 
-TEST_F(TCBrevantViewTest, ShiftSelectsARange) {
+TEST_F(BrevantView, ShiftSelectsARange) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   Click(2);
   Click(5, Qt::ShiftModifier);
   EXPECT_THAT(view.SelectedRows(), ElementsAre(2, 3, 4, 5));
 }
 
-TEST_F(TCBrevantViewTest, SelectingARowDeselectsTheFirstSelectedOnly) {
+TEST_F(BrevantView, SelectingARowDeselectsTheFirstSelectedOnly) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   Click(2);
   Click(5, Qt::ControlModifier);
@@ -157,7 +157,7 @@ TEST_F(TCBrevantViewTest, SelectingARowDeselectsTheFirstSelectedOnly) {
   EXPECT_THAT(view.SelectedRows(), ElementsAre(5, 7));
 }
 
-TEST_F(TCBrevantViewTest, SelectingARowThatIsNotThereSelectsNothing) {
+TEST_F(BrevantView, SelectingARowThatIsNotThereSelectsNothing) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   for (const int row : {-1, 3, 1000}) {
     view.SelectRow(1);
@@ -166,7 +166,7 @@ TEST_F(TCBrevantViewTest, SelectingARowThatIsNotThereSelectsNothing) {
   }
 }
 
-TEST_F(TCBrevantViewTest, ADoubleClickPicksTheSelectedRowAndLeavesItSelected) {
+TEST_F(BrevantView, ADoubleClickPicksTheSelectedRowAndLeavesItSelected) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   const QSignalSpy picks(&view, &TCBrevantView::rowPicked);
   DoubleClick(PlaceOf(4));
@@ -175,7 +175,7 @@ TEST_F(TCBrevantViewTest, ADoubleClickPicksTheSelectedRowAndLeavesItSelected) {
   EXPECT_THAT(view.SelectedRows(), ElementsAre(4));
 }
 
-TEST_F(TCBrevantViewTest, ADoubleClickBesideAllRowsPicksNone) {
+TEST_F(BrevantView, ADoubleClickBesideAllRowsPicksNone) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   const QSignalSpy picks(&view, &TCBrevantView::rowPicked);
   view.SelectRow(1);
@@ -184,21 +184,21 @@ TEST_F(TCBrevantViewTest, ADoubleClickBesideAllRowsPicksNone) {
   EXPECT_EQ(picks.at(0).at(0).toInt(), -1);
 }
 
-TEST_F(TCBrevantViewTest, ADoubleClickWithoutAnyRowPicksNone) {
+TEST_F(BrevantView, ADoubleClickWithoutAnyRowPicksNone) {
   const QSignalSpy picks(&view, &TCBrevantView::rowPicked);
   DoubleClick(BelowAllRows());
   ASSERT_EQ(picks.count(), 1);
   EXPECT_EQ(picks.at(0).at(0).toInt(), -1);
 }
 
-TEST_F(TCBrevantViewTest, ADoubleClickWithTheRightButtonPicksNothing) {
+TEST_F(BrevantView, ADoubleClickWithTheRightButtonPicksNothing) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   const QSignalSpy picks(&view, &TCBrevantView::rowPicked);
   QTest::mouseDClick(view.viewport(), Qt::RightButton, {}, PlaceOf(1));
   EXPECT_EQ(picks.count(), 0);
 }
 
-TEST_F(TCBrevantViewTest, TheRightButtonAsksForTheMenuWhereItWasPressed) {
+TEST_F(BrevantView, TheRightButtonAsksForTheMenuWhereItWasPressed) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   const QSignalSpy menus(&view, &TCBrevantView::contextMenuWanted);
   const QPoint place = PlaceOf(1);
@@ -212,7 +212,7 @@ TEST_F(TCBrevantViewTest, TheRightButtonAsksForTheMenuWhereItWasPressed) {
   EXPECT_TRUE(announced.isAccepted());
 }
 
-TEST_F(TCBrevantViewTest, TheRightButtonSelectsARowButLeavesASelectionThatHoldsIt) {
+TEST_F(BrevantView, TheRightButtonSelectsARowButLeavesASelectionThatHoldsIt) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   QTest::mousePress(view.viewport(), Qt::RightButton, {}, PlaceOf(3));
   QTest::mouseRelease(view.viewport(), Qt::RightButton, {}, PlaceOf(3));
@@ -223,7 +223,7 @@ TEST_F(TCBrevantViewTest, TheRightButtonSelectsARowButLeavesASelectionThatHoldsI
   EXPECT_THAT(view.SelectedRows(), ElementsAre(3, 5));
 }
 
-TEST_F(TCBrevantViewTest, TheMenuKeyAsksForTheMenuAtTheSelectedRow) {
+TEST_F(BrevantView, TheMenuKeyAsksForTheMenuAtTheSelectedRow) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   view.SelectRow(2);
   const QSignalSpy menus(&view, &TCBrevantView::contextMenuWanted);
@@ -234,7 +234,7 @@ TEST_F(TCBrevantViewTest, TheMenuKeyAsksForTheMenuAtTheSelectedRow) {
   EXPECT_EQ(view.rowAt(place.y()), 2);
 }
 
-TEST_F(TCBrevantViewTest, TheMenuOfARowThatIsOutOfSightOpensInsideTheView) {
+TEST_F(BrevantView, TheMenuOfARowThatIsOutOfSightOpensInsideTheView) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.horizontalScrollBar()->setValue(50);
   for (const int row : {0, 199}) {
@@ -258,7 +258,7 @@ class TCKeyCount : public QWidget {
   void keyPressEvent(QKeyEvent* event) override { keys += event->key() == Qt::Key_Control ? 0 : 1; }
 };
 
-TEST_F(TCBrevantViewTest, LettersDigitsSpaceEnterAndDeleteAreLeftToTheFrame) {
+TEST_F(BrevantView, LettersDigitsSpaceEnterAndDeleteAreLeftToTheFrame) {
   TCKeyCount frame;
   auto* inside = new TCBrevantView(&frame);
   inside->ShowRows(Rows(9), TCShowRows::Afresh);
@@ -273,7 +273,7 @@ TEST_F(TCBrevantViewTest, LettersDigitsSpaceEnterAndDeleteAreLeftToTheFrame) {
   EXPECT_THAT(inside->SelectedRows(), ElementsAre(4));
 }
 
-TEST_F(TCBrevantViewTest, ControlAAndF4DoNothingAndGoNoFurther) {
+TEST_F(BrevantView, ControlAAndF4DoNothingAndGoNoFurther) {
   TCKeyCount frame;
   auto* inside = new TCBrevantView(&frame);
   inside->ShowRows(Rows(9), TCShowRows::Afresh);
@@ -283,7 +283,7 @@ TEST_F(TCBrevantViewTest, ControlAAndF4DoNothingAndGoNoFurther) {
   EXPECT_THAT(inside->SelectedRows(), IsEmpty());
 }
 
-TEST_F(TCBrevantViewTest, ControlCCopiesNoCell) {
+TEST_F(BrevantView, ControlCCopiesNoCell) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   view.SelectRow(4);
   QGuiApplication::clipboard()->setText(QStringLiteral("before"));
@@ -291,7 +291,7 @@ TEST_F(TCBrevantViewTest, ControlCCopiesNoCell) {
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
 }
 
-TEST_F(TCBrevantViewTest, ArrowsMoveTheSelectionWhenTheyReachTheView) {
+TEST_F(BrevantView, ArrowsMoveTheSelectionWhenTheyReachTheView) {
   view.ShowRows(Rows(9), TCShowRows::Afresh);
   view.SelectRow(4);
   QTest::keyClick(&view, Qt::Key_Down);
@@ -300,7 +300,7 @@ TEST_F(TCBrevantViewTest, ArrowsMoveTheSelectionWhenTheyReachTheView) {
   EXPECT_THAT(view.SelectedRows(), ElementsAre(5, 6));
 }
 
-TEST_F(TCBrevantViewTest, NothingCanBeEdited) {
+TEST_F(BrevantView, NothingCanBeEdited) {
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   DoubleClick(PlaceOf(1));
   EXPECT_EQ(view.findChild<QWidget*>(QStringLiteral("qt_editing_widget")), nullptr);
@@ -308,7 +308,7 @@ TEST_F(TCBrevantViewTest, NothingCanBeEdited) {
   EXPECT_FALSE(view.model()->flags(view.model()->index(1, 4)).testFlag(Qt::ItemIsEditable));
 }
 
-TEST_F(TCBrevantViewTest, ScrollingToARowBringsItWhollyIntoView) {
+TEST_F(BrevantView, ScrollingToARowBringsItWhollyIntoView) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.ScrollToRow(150);
   EXPECT_TRUE(IsWhollyInView(150));
@@ -320,7 +320,7 @@ TEST_F(TCBrevantViewTest, ScrollingToARowBringsItWhollyIntoView) {
   EXPECT_EQ(view.verticalScrollBar()->value(), scroll);
 }
 
-TEST_F(TCBrevantViewTest, GoingToARowLeavesTheColumnsWhereTheyStand) {
+TEST_F(BrevantView, GoingToARowLeavesTheColumnsWhereTheyStand) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.ScrollToRow(150);
   EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
@@ -331,7 +331,7 @@ TEST_F(TCBrevantViewTest, GoingToARowLeavesTheColumnsWhereTheyStand) {
   EXPECT_EQ(view.horizontalScrollBar()->value(), 50);
 }
 
-TEST_F(TCBrevantViewTest, TheRowBroughtIntoViewStaysThereWhenWindowOrFontChange) {
+TEST_F(BrevantView, TheRowBroughtIntoViewStaysThereWhenWindowOrFontChange) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.ScrollToRow(100);
   view.resize(900, 150);
@@ -340,7 +340,7 @@ TEST_F(TCBrevantViewTest, TheRowBroughtIntoViewStaysThereWhenWindowOrFontChange)
   EXPECT_TRUE(IsWhollyInView(100));
 }
 
-TEST_F(TCBrevantViewTest, ARowBroughtIntoViewBeforeTheViewIsShownIsInViewOnceItIs) {
+TEST_F(BrevantView, ARowBroughtIntoViewBeforeTheViewIsShownIsInViewOnceItIs) {
   QWidget window;
   auto* layout = new QVBoxLayout(&window);
   auto* inside = new TCBrevantView;
@@ -354,7 +354,7 @@ TEST_F(TCBrevantViewTest, ARowBroughtIntoViewBeforeTheViewIsShownIsInViewOnceItI
   EXPECT_LT(place.bottom(), inside->viewport()->height());
 }
 
-TEST_F(TCBrevantViewTest, ARowTheUserScrolledAwayFromIsNotBroughtBackByAResize) {
+TEST_F(BrevantView, ARowTheUserScrolledAwayFromIsNotBroughtBackByAResize) {
   view.ShowRows(Rows(200), TCShowRows::Afresh);
   view.ScrollToRow(100);
   view.verticalScrollBar()->setValue(0);
@@ -362,7 +362,7 @@ TEST_F(TCBrevantViewTest, ARowTheUserScrolledAwayFromIsNotBroughtBackByAResize) 
   EXPECT_EQ(view.verticalScrollBar()->value(), 0);
 }
 
-TEST_F(TCBrevantViewTest, TakesTheFocusFromAnotherWidgetOfItsWindow) {
+TEST_F(BrevantView, TakesTheFocusFromAnotherWidgetOfItsWindow) {
   QWidget window;
   auto* layout = new QVBoxLayout(&window);
   auto* inside = new TCBrevantView;
@@ -378,7 +378,7 @@ TEST_F(TCBrevantViewTest, TakesTheFocusFromAnotherWidgetOfItsWindow) {
   EXPECT_TRUE(inside->hasFocus());
 }
 
-TEST_F(TCBrevantViewTest, TakesTheFocusFromAnotherWindowOfThisProgram) {
+TEST_F(BrevantView, TakesTheFocusFromAnotherWindowOfThisProgram) {
   QWidget floating;
   floating.show();
   floating.activateWindow();
@@ -388,7 +388,7 @@ TEST_F(TCBrevantViewTest, TakesTheFocusFromAnotherWindowOfThisProgram) {
   EXPECT_TRUE(view.hasFocus());
 }
 
-TEST_F(TCBrevantViewTest, RowsAndHeadersCanBeReadByAssistiveTechnology) {
+TEST_F(BrevantView, RowsAndHeadersCanBeReadByAssistiveTechnology) {
   view.SetPlaylistHeader(u"Set 1 - Total Playlist Time: 12:34");
   view.ShowRows(Rows(3), TCShowRows::Afresh);
   EXPECT_EQ(view.accessibleName(), QStringLiteral("Playlist"));

@@ -9,7 +9,7 @@ namespace {
 
 using enum TCPlaylistColumn;
 
-class TCColumnWidthsTest : public testing::Test {
+class ColumnWidths : public testing::Test {
  protected:
   void SetUp() override { ASSERT_TRUE(folder.isValid()); }
   [[nodiscard]] QString StorePath() const { return folder.filePath(QStringLiteral("Profile.ini")); }
@@ -18,7 +18,7 @@ class TCColumnWidthsTest : public testing::Test {
   TCColumnWidths widths;
 };
 
-TEST_F(TCColumnWidthsTest, BeginWithTheInitialWidths) {
+TEST_F(ColumnWidths, BeginWithTheInitialWidths) {
   EXPECT_EQ(widths.Of(Picture), 64);
   EXPECT_EQ(widths.Of(Number), 64);
   EXPECT_EQ(widths.Of(Status), 96);
@@ -26,28 +26,28 @@ TEST_F(TCColumnWidthsTest, BeginWithTheInitialWidths) {
   EXPECT_EQ(widths.Of(Name), 1024);
 }
 
-TEST_F(TCColumnWidthsTest, AreNeverNarrowerThanTheTextsNeedNorThanTheInitialWidth) {
+TEST_F(ColumnWidths, AreNeverNarrowerThanTheTextsNeedNorThanTheInitialWidth) {
   widths.SetNeeded(Status, 300);
   EXPECT_EQ(widths.Of(Status), 300);
   widths.SetNeeded(Status, 10);
   EXPECT_EQ(widths.Of(Status), 96);
 }
 
-TEST_F(TCColumnWidthsTest, MakeRoomForATextAndDoNotShrinkAgain) {
+TEST_F(ColumnWidths, MakeRoomForATextAndDoNotShrinkAgain) {
   widths.MakeRoomFor(Status, 300, 7);
   EXPECT_EQ(widths.Of(Status), 307);
   widths.MakeRoomFor(Status, 200, 7);
   EXPECT_EQ(widths.Of(Status), 307);
 }
 
-TEST_F(TCColumnWidthsTest, StayAsTheyAreForATextThatFits) {
+TEST_F(ColumnWidths, StayAsTheyAreForATextThatFits) {
   widths.MakeRoomFor(Status, 96, 7);
   EXPECT_EQ(widths.Of(Status), 96);
   widths.MakeRoomFor(Status, 97, 7);
   EXPECT_EQ(widths.Of(Status), 104);
 }
 
-TEST_F(TCColumnWidthsTest, TheUsersWidthStandsWhateverTheTextsNeedUntilItIsReleased) {
+TEST_F(ColumnWidths, TheUsersWidthStandsWhateverTheTextsNeedUntilItIsReleased) {
   widths.SetNeeded(Status, 300);
   widths.SetByUser(Status, 40);
   EXPECT_EQ(widths.Of(Status), 40);
@@ -55,7 +55,7 @@ TEST_F(TCColumnWidthsTest, TheUsersWidthStandsWhateverTheTextsNeedUntilItIsRelea
   EXPECT_EQ(widths.Of(Status), 300);
 }
 
-TEST_F(TCColumnWidthsTest, TheUsersWidthsComeBackAndTheOthersFollowTheFontAgain) {
+TEST_F(ColumnWidths, TheUsersWidthsComeBackAndTheOthersFollowTheFontAgain) {
   widths.SetNeeded(Time, 500);
   widths.SetByUser(Status, 123);
   {
@@ -69,7 +69,7 @@ TEST_F(TCColumnWidthsTest, TheUsersWidthsComeBackAndTheOthersFollowTheFontAgain)
   EXPECT_EQ(later.Of(Time), 96);
 }
 
-TEST_F(TCColumnWidthsTest, AnEmptyOrDamagedStoreChangesNothing) {
+TEST_F(ColumnWidths, AnEmptyOrDamagedStoreChangesNothing) {
   widths.SetByUser(Status, 123);
   QSettings store(StorePath(), QSettings::IniFormat);
   widths.Load(store);
@@ -90,7 +90,7 @@ TEST_F(TCColumnWidthsTest, AnEmptyOrDamagedStoreChangesNothing) {
   }
 }
 
-TEST_F(TCColumnWidthsTest, AnEndlessTextDoesNotMakeAnEndlessColumn) {
+TEST_F(ColumnWidths, AnEndlessTextDoesNotMakeAnEndlessColumn) {
   widths.SetNeeded(Status, 2'000'000'000);
   EXPECT_LE(widths.Of(Status), 16384);
 }

@@ -9,7 +9,7 @@
 namespace brevant {
 namespace {
 
-class TCJumpSliderTest : public testing::Test {
+class JumpSlider : public testing::Test {
  protected:
   void SetUp() override {
     slider.ShowRange(100);
@@ -23,7 +23,7 @@ class TCJumpSliderTest : public testing::Test {
   QSignalSpy picked{&slider, &TCJumpSlider::picked};
 };
 
-TEST_F(TCJumpSliderTest, JumpsToWhereItIsPressedAndPicksOnRelease) {
+TEST_F(JumpSlider, JumpsToWhereItIsPressedAndPicksOnRelease) {
   QTest::mousePress(&slider, Qt::LeftButton, {}, PlaceOf(60));
   EXPECT_EQ(slider.value(), 60);
   EXPECT_EQ(dragged.count(), 1);
@@ -33,7 +33,7 @@ TEST_F(TCJumpSliderTest, JumpsToWhereItIsPressedAndPicksOnRelease) {
   EXPECT_EQ(picked.at(0).at(0).toInt(), 60);
 }
 
-TEST_F(TCJumpSliderTest, FollowsTheMouseAndPicksOnce) {
+TEST_F(JumpSlider, FollowsTheMouseAndPicksOnce) {
   QTest::mousePress(&slider, Qt::LeftButton, {}, PlaceOf(10));
   QTest::mouseMove(&slider, PlaceOf(30));
   QTest::mouseMove(&slider, PlaceOf(50));
@@ -43,7 +43,7 @@ TEST_F(TCJumpSliderTest, FollowsTheMouseAndPicksOnce) {
   EXPECT_EQ(picked.at(0).at(0).toInt(), 50);
 }
 
-TEST_F(TCJumpSliderTest, StaysWithinItsRangeWhereverTheMouseGoes) {
+TEST_F(JumpSlider, StaysWithinItsRangeWhereverTheMouseGoes) {
   QTest::mousePress(&slider, Qt::LeftButton, {}, PlaceOf(10));
   QTest::mouseMove(&slider, QPoint(-500, 10));
   EXPECT_EQ(slider.value(), 0);
@@ -53,7 +53,7 @@ TEST_F(TCJumpSliderTest, StaysWithinItsRangeWhereverTheMouseGoes) {
   EXPECT_EQ(picked.at(0).at(0).toInt(), 100);
 }
 
-TEST_F(TCJumpSliderTest, WhatTheProgramShowsPicksNothing) {
+TEST_F(JumpSlider, WhatTheProgramShowsPicksNothing) {
   slider.ShowValue(40);
   slider.ShowRange(20);
   EXPECT_EQ(slider.value(), 20);
@@ -61,13 +61,13 @@ TEST_F(TCJumpSliderTest, WhatTheProgramShowsPicksNothing) {
   EXPECT_EQ(picked.count(), 0);
 }
 
-TEST_F(TCJumpSliderTest, DoesNotMoveUnderTheUsersHand) {
+TEST_F(JumpSlider, DoesNotMoveUnderTheUsersHand) {
   QTest::mousePress(&slider, Qt::LeftButton, {}, PlaceOf(60));
   slider.ShowValue(5);
   EXPECT_EQ(slider.value(), 60);
 }
 
-TEST_F(TCJumpSliderTest, ACancelledDragPicksNothing) {
+TEST_F(JumpSlider, ACancelledDragPicksNothing) {
   QTest::mousePress(&slider, Qt::LeftButton, {}, PlaceOf(60));
   slider.CancelDrag();
   QTest::mouseMove(&slider, PlaceOf(80));
@@ -76,7 +76,7 @@ TEST_F(TCJumpSliderTest, ACancelledDragPicksNothing) {
   EXPECT_EQ(picked.count(), 0);
 }
 
-TEST_F(TCJumpSliderTest, OtherButtonsDoNothing) {
+TEST_F(JumpSlider, OtherButtonsDoNothing) {
   QTest::mouseClick(&slider, Qt::RightButton, {}, PlaceOf(60));
   QTest::mouseClick(&slider, Qt::MiddleButton, {}, PlaceOf(60));
   EXPECT_EQ(slider.value(), 0);
@@ -89,7 +89,7 @@ void Turn(QWidget& widget, int eighthsOfADegree) {
   QCoreApplication::sendEvent(&widget, &event);
 }
 
-TEST_F(TCJumpSliderTest, ATurnOfTheWheelPicksAtOnce) {
+TEST_F(JumpSlider, ATurnOfTheWheelPicksAtOnce) {
   slider.ShowValue(50);
   Turn(slider, 120);
   EXPECT_GT(slider.value(), 50);
@@ -97,7 +97,7 @@ TEST_F(TCJumpSliderTest, ATurnOfTheWheelPicksAtOnce) {
   EXPECT_EQ(picked.at(0).at(0).toInt(), slider.value());
 }
 
-TEST_F(TCJumpSliderTest, ASliderThatIgnoresTheWheelStaysWhereItIs) {
+TEST_F(JumpSlider, ASliderThatIgnoresTheWheelStaysWhereItIs) {
   TCJumpSlider still(TCWheel::Ignored);
   still.ShowRange(100);
   still.ShowValue(50);
@@ -106,17 +106,17 @@ TEST_F(TCJumpSliderTest, ASliderThatIgnoresTheWheelStaysWhereItIs) {
   EXPECT_EQ(still.value(), 50);
 }
 
-TEST_F(TCJumpSliderTest, MirroredForScriptsFromRightToLeft) {
+TEST_F(JumpSlider, MirroredForScriptsFromRightToLeft) {
   slider.setLayoutDirection(Qt::RightToLeft);
   QTest::mousePress(&slider, Qt::LeftButton, {}, PlaceOf(30));
   EXPECT_EQ(slider.value(), 70);
 }
 
-TEST_F(TCJumpSliderTest, TakesNoKeyboardFocus) {
+TEST_F(JumpSlider, TakesNoKeyboardFocus) {
   EXPECT_EQ(slider.focusPolicy(), Qt::NoFocus);
 }
 
-TEST_F(TCJumpSliderTest, TheHandleIsDrawnWhereAPressWouldPutIt) {
+TEST_F(JumpSlider, TheHandleIsDrawnWhereAPressWouldPutIt) {
   slider.ShowValue(80);
   const QColor handle = slider.palette().color(QPalette::WindowText);
   EXPECT_EQ(slider.grab().toImage().pixelColor(PlaceOf(80)), handle);

@@ -12,7 +12,7 @@
 namespace brevant {
 namespace {
 
-class TCPlaylistModelTest : public testing::Test {
+class PlaylistModel : public testing::Test {
  protected:
   [[nodiscard]] QString Text(int row, TCPlaylistColumn column) const {
     return model.index(row, static_cast<int>(column)).data(Qt::DisplayRole).toString();
@@ -29,7 +29,7 @@ class TCPlaylistModelTest : public testing::Test {
   QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-TEST_F(TCPlaylistModelTest, HasFiveColumnsWithTheirHeaders) {
+TEST_F(PlaylistModel, HasFiveColumnsWithTheirHeaders) {
   EXPECT_EQ(model.columnCount(), 5);
   EXPECT_EQ(Header(0), QStringLiteral(" "));
   EXPECT_EQ(Header(1), QStringLiteral("Song #"));
@@ -39,12 +39,12 @@ TEST_F(TCPlaylistModelTest, HasFiveColumnsWithTheirHeaders) {
   EXPECT_EQ(Header(5), QString());
 }
 
-TEST_F(TCPlaylistModelTest, TheLastHeaderTakesThePlaylistsNameAndTotal) {
+TEST_F(PlaylistModel, TheLastHeaderTakesThePlaylistsNameAndTotal) {
   model.SetNameHeader(QStringLiteral("Set 1 - Total Playlist Time: 12:34"));
   EXPECT_EQ(Header(4), QStringLiteral("Set 1 - Total Playlist Time: 12:34"));
 }
 
-TEST_F(TCPlaylistModelTest, ShowsEachTextInItsColumn) {
+TEST_F(PlaylistModel, ShowsEachTextInItsColumn) {
   TCPlaylistRow row;
   row.texts = {u"7", u"Found\\Lyrics", u"01:02:03", u"Open Road.mp3"};
   model.ShowRows({row}, TCShowRows::Afresh);
@@ -55,7 +55,7 @@ TEST_F(TCPlaylistModelTest, ShowsEachTextInItsColumn) {
   EXPECT_EQ(Text(0, TCPlaylistColumn::Name), QStringLiteral("Open Road.mp3"));
 }
 
-TEST_F(TCPlaylistModelTest, EveryRowHasItsOwnColours) {
+TEST_F(PlaylistModel, EveryRowHasItsOwnColours) {
   model.ShowRows({RowNamed(u"a", 0x00FF00, kBlack), RowNamed(u"b", 0xFFBF00, kWhite)}, TCShowRows::Afresh);
   EXPECT_EQ(Colour(0, Qt::ForegroundRole), QColor(0, 255, 0));
   EXPECT_EQ(Colour(0, Qt::BackgroundRole), QColor(Qt::black));
@@ -63,7 +63,7 @@ TEST_F(TCPlaylistModelTest, EveryRowHasItsOwnColours) {
   EXPECT_EQ(Colour(1, Qt::BackgroundRole), QColor(Qt::white));
 }
 
-TEST_F(TCPlaylistModelTest, ThePictureStandsInTheFirstColumnOfEveryRow) {
+TEST_F(PlaylistModel, ThePictureStandsInTheFirstColumnOfEveryRow) {
   model.ShowRows(Rows(2), TCShowRows::Afresh);
   EXPECT_FALSE(model.index(1, 0).data(Qt::DecorationRole).isValid());
   QPixmap pixmap(16, 16);
@@ -74,7 +74,7 @@ TEST_F(TCPlaylistModelTest, ThePictureStandsInTheFirstColumnOfEveryRow) {
   EXPECT_FALSE(model.index(1, 1).data(Qt::DecorationRole).isValid());
 }
 
-TEST_F(TCPlaylistModelTest, RowsShownInPlaceAddAndRemoveAtTheEndAndResetNothing) {
+TEST_F(PlaylistModel, RowsShownInPlaceAddAndRemoveAtTheEndAndResetNothing) {
   model.ShowRows(Rows(3), TCShowRows::Afresh);
   const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
   model.ShowRows(Rows(5), TCShowRows::KeepPlace);
@@ -88,7 +88,7 @@ TEST_F(TCPlaylistModelTest, RowsShownInPlaceAddAndRemoveAtTheEndAndResetNothing)
   EXPECT_EQ(resets.count(), 0);
 }
 
-TEST_F(TCPlaylistModelTest, RowsThatAreNotThereAreIgnored) {
+TEST_F(PlaylistModel, RowsThatAreNotThereAreIgnored) {
   model.ShowRows(Rows(1), TCShowRows::Afresh);
   const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
   for (const int row : {-1, 1, 1000}) {
@@ -99,7 +99,7 @@ TEST_F(TCPlaylistModelTest, RowsThatAreNotThereAreIgnored) {
   EXPECT_EQ(Text(0, TCPlaylistColumn::Time), QStringLiteral("03:45"));
 }
 
-TEST_F(TCPlaylistModelTest, ColoursBeyondTheLastRowAreDroppedAndRowsBeyondTheLastColourKeepTheirs) {
+TEST_F(PlaylistModel, ColoursBeyondTheLastRowAreDroppedAndRowsBeyondTheLastColourKeepTheirs) {
   model.ShowRows(Rows(2), TCShowRows::Afresh);
   model.SetColours({{kWhite, 0xFF0000}, {kWhite, 0x00FF00}, {kWhite, 0x0000FF}});
   EXPECT_EQ(Colour(1, Qt::ForegroundRole), QColor(0, 255, 0));
@@ -110,7 +110,7 @@ TEST_F(TCPlaylistModelTest, ColoursBeyondTheLastRowAreDroppedAndRowsBeyondTheLas
   EXPECT_EQ(Colour(0, Qt::ForegroundRole), QColor(0x12, 0x34, 0x56));
 }
 
-TEST_F(TCPlaylistModelTest, OfAnEndlessNameOnlyItsBeginningGoesToTheScreen) {
+TEST_F(PlaylistModel, OfAnEndlessNameOnlyItsBeginningGoesToTheScreen) {
   model.ShowRows({RowNamed(std::u16string(1'000'000, u'x'))}, TCShowRows::Afresh);
   EXPECT_LE(Text(0, TCPlaylistColumn::Name).size(), 1000);
 }

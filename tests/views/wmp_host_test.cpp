@@ -24,7 +24,7 @@ class TCScriptedMonitor final : public TCPlayerMonitor {
   TCPlayerSnapshot snapshot;
 };
 
-class TCPlayerHostTest : public testing::Test {
+class PlayerHost : public testing::Test {
  protected:
   void SetUp() override {
     host.resize(400, 200);
@@ -61,7 +61,7 @@ class TCPlayerHostTest : public testing::Test {
   CWMPHost host{&player, &monitor};
 };
 
-TEST_F(TCPlayerHostTest, ShowsSongTimesPhaseAndVolume) {
+TEST_F(PlayerHost, ShowsSongTimesPhaseAndVolume) {
   EXPECT_EQ(Text("Song"), QStringLiteral("Open Road.mp3"));
   EXPECT_EQ(Text("Elapsed time"), QStringLiteral("01:15"));
   EXPECT_EQ(Text("Total time"), QStringLiteral("03:20"));
@@ -72,14 +72,14 @@ TEST_F(TCPlayerHostTest, ShowsSongTimesPhaseAndVolume) {
   EXPECT_EQ(Volume()->value(), 65);
 }
 
-TEST_F(TCPlayerHostTest, AnUnknownLengthIsNotShownAsZero) {
+TEST_F(PlayerHost, AnUnknownLengthIsNotShownAsZero) {
   monitor.snapshot.durationSeconds = 0.0;
   host.Refresh();
   EXPECT_EQ(Text("Total time"), QStringLiteral("--:--"));
   EXPECT_FALSE(Seek()->isEnabled());
 }
 
-TEST_F(TCPlayerHostTest, TimesOutOfReasonAreSurvived) {
+TEST_F(PlayerHost, TimesOutOfReasonAreSurvived) {
   for (const double odd :
        {-5.0, 1e300, std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
     monitor.snapshot.positionSeconds = odd;
@@ -90,7 +90,7 @@ TEST_F(TCPlayerHostTest, TimesOutOfReasonAreSurvived) {
   }
 }
 
-TEST_F(TCPlayerHostTest, AsksTenTimesASecondWhileItCanBeSeenAndNotOtherwise) {
+TEST_F(PlayerHost, AsksTenTimesASecondWhileItCanBeSeenAndNotOtherwise) {
   QTimer* timer = TimerOf(host, "pollTimer");
   ASSERT_NE(timer, nullptr);
   EXPECT_TRUE(timer->isActive());
@@ -106,7 +106,7 @@ TEST_F(TCPlayerHostTest, AsksTenTimesASecondWhileItCanBeSeenAndNotOtherwise) {
   EXPECT_EQ(Text("Elapsed time"), QStringLiteral("01:30"));
 }
 
-TEST_F(TCPlayerHostTest, TheButtonsAskAndTouchThePlayerNot) {
+TEST_F(PlayerHost, TheButtonsAskAndTouchThePlayerNot) {
   const QSignalSpy plays(&host, &CWMPHost::playWanted);
   const QSignalSpy pauses(&host, &CWMPHost::pauseWanted);
   const QSignalSpy stops(&host, &CWMPHost::stopWanted);
@@ -119,20 +119,20 @@ TEST_F(TCPlayerHostTest, TheButtonsAskAndTouchThePlayerNot) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(TCPlayerHostTest, NoControlTakesTheKeyboardFocus) {
+TEST_F(PlayerHost, NoControlTakesTheKeyboardFocus) {
   for (const QWidget* control : host.findChildren<QWidget*>()) {
     EXPECT_EQ(control->focusPolicy(), Qt::NoFocus) << control->accessibleName().toStdString();
   }
 }
 
-TEST_F(TCPlayerHostTest, APressOnTheSeekSliderJumpsThere) {
+TEST_F(PlayerHost, APressOnTheSeekSliderJumpsThere) {
   TCJumpSlider* seek = Seek();
   QTest::mouseClick(seek, Qt::LeftButton, {}, QPoint(seek->width() / 2, seek->height() / 2));
   ASSERT_EQ(player.Calls().size(), 1U);
   EXPECT_TRUE(player.Calls()[0].starts_with("SetPosition 100.")) << player.Calls()[0];
 }
 
-TEST_F(TCPlayerHostTest, WhileDraggedTheElapsedTimeFollowsAndThePlayerIsMovedOnRelease) {
+TEST_F(PlayerHost, WhileDraggedTheElapsedTimeFollowsAndThePlayerIsMovedOnRelease) {
   TCJumpSlider* seek = Seek();
   const int middle = seek->height() / 2;
   QTest::mousePress(seek, Qt::LeftButton, {}, QPoint(seek->width() / 4, middle));
@@ -145,7 +145,7 @@ TEST_F(TCPlayerHostTest, WhileDraggedTheElapsedTimeFollowsAndThePlayerIsMovedOnR
   EXPECT_THAT(player.Calls(), ElementsAre("SetPosition 200.4"));
 }
 
-TEST_F(TCPlayerHostTest, AfterASeekTheHandleWaitsForThePlayerInsteadOfJumpingBack) {
+TEST_F(PlayerHost, AfterASeekTheHandleWaitsForThePlayerInsteadOfJumpingBack) {
   TCJumpSlider* seek = Seek();
   QTest::mouseClick(seek, Qt::LeftButton, {}, QPoint(seek->width() / 2, seek->height() / 2));
   const int picked = seek->value();
@@ -156,7 +156,7 @@ TEST_F(TCPlayerHostTest, AfterASeekTheHandleWaitsForThePlayerInsteadOfJumpingBac
   EXPECT_EQ(seek->value(), picked + 3);
 }
 
-TEST_F(TCPlayerHostTest, ASongThatEndsUnderTheHandleIsNotMoved) {
+TEST_F(PlayerHost, ASongThatEndsUnderTheHandleIsNotMoved) {
   TCJumpSlider* seek = Seek();
   const QPoint place(seek->width() / 2, seek->height() / 2);
   QTest::mousePress(seek, Qt::LeftButton, {}, place);
@@ -168,7 +168,7 @@ TEST_F(TCPlayerHostTest, ASongThatEndsUnderTheHandleIsNotMoved) {
   EXPECT_EQ(Text("Elapsed time"), QStringLiteral("00:00"));
 }
 
-TEST_F(TCPlayerHostTest, TheNextSongIsNotMovedByADragThatBeganInTheLast) {
+TEST_F(PlayerHost, TheNextSongIsNotMovedByADragThatBeganInTheLast) {
   TCJumpSlider* seek = Seek();
   const QPoint place(seek->width() / 2, seek->height() / 2);
   QTest::mousePress(seek, Qt::LeftButton, {}, place);
@@ -180,7 +180,7 @@ TEST_F(TCPlayerHostTest, TheNextSongIsNotMovedByADragThatBeganInTheLast) {
   EXPECT_EQ(seek->value(), 20);
 }
 
-TEST_F(TCPlayerHostTest, OnlyASongThatSoundsOrIsPausedCanBeMoved) {
+TEST_F(PlayerHost, OnlyASongThatSoundsOrIsPausedCanBeMoved) {
   for (const auto& [phase, movable] :
        {std::pair{TCPlayerPhase::Empty, false}, std::pair{TCPlayerPhase::Loading, false},
         std::pair{TCPlayerPhase::Stopped, false}, std::pair{TCPlayerPhase::Playing, true},
@@ -191,7 +191,7 @@ TEST_F(TCPlayerHostTest, OnlyASongThatSoundsOrIsPausedCanBeMoved) {
   }
 }
 
-TEST_F(TCPlayerHostTest, TheVolumeSliderSetsTheVolumeWhileItIsDragged) {
+TEST_F(PlayerHost, TheVolumeSliderSetsTheVolumeWhileItIsDragged) {
   TCJumpSlider* volume = Volume();
   QTest::mousePress(volume, Qt::LeftButton, {}, QPoint(0, volume->height() / 2));
   EXPECT_THAT(player.Calls(), ElementsAre("SetVolume 0"));
@@ -205,7 +205,7 @@ TEST_F(TCPlayerHostTest, TheVolumeSliderSetsTheVolumeWhileItIsDragged) {
   EXPECT_EQ(volume->value(), 100) << "the player takes the volume up a moment later";
 }
 
-TEST_F(TCPlayerHostTest, AVolumeChangedElsewhereIsShownAndSetsNothing) {
+TEST_F(PlayerHost, AVolumeChangedElsewhereIsShownAndSetsNothing) {
   monitor.snapshot.volume = 40;
   host.Refresh();
   EXPECT_EQ(Volume()->value(), 40);
@@ -213,7 +213,7 @@ TEST_F(TCPlayerHostTest, AVolumeChangedElsewhereIsShownAndSetsNothing) {
   EXPECT_THAT(player.Calls(), IsEmpty());
 }
 
-TEST_F(TCPlayerHostTest, ANoticeIsShownInClearWordsWithThePlayersOwnInTheToolTip) {
+TEST_F(PlayerHost, ANoticeIsShownInClearWordsWithThePlayersOwnInTheToolTip) {
   monitor.snapshot.notice = TCPlayerNotice::NoSoundDevice;
   monitor.snapshot.detail = "connection <refused>";
   host.Refresh();
@@ -226,7 +226,7 @@ TEST_F(TCPlayerHostTest, ANoticeIsShownInClearWordsWithThePlayersOwnInTheToolTip
   EXPECT_EQ(Text("Notice of the player"), QString());
 }
 
-TEST_F(TCPlayerHostTest, ANoticeThatComesMovesNothingElse) {
+TEST_F(PlayerHost, ANoticeThatComesMovesNothingElse) {
   const QPoint before = Seek()->pos();
   monitor.snapshot.notice = TCPlayerNotice::CannotPlay;
   host.Refresh();
@@ -234,7 +234,7 @@ TEST_F(TCPlayerHostTest, ANoticeThatComesMovesNothingElse) {
   EXPECT_EQ(Seek()->pos(), before);
 }
 
-TEST_F(TCPlayerHostTest, WithoutAPlayerOrItsMonitorTheControlsAreOffAndNothingFails) {
+TEST_F(PlayerHost, WithoutAPlayerOrItsMonitorTheControlsAreOffAndNothingFails) {
   for (const auto& [given, read] :
        {std::pair<TCPlayer*, TCPlayerMonitor*>{nullptr, nullptr}, {&player, nullptr}, {nullptr, &monitor}}) {
     CWMPHost pane(given, read);
@@ -253,7 +253,7 @@ TEST_F(TCPlayerHostTest, WithoutAPlayerOrItsMonitorTheControlsAreOffAndNothingFa
   }
 }
 
-TEST_F(TCPlayerHostTest, EveryControlHasThePictureThatIsGivenForIt) {
+TEST_F(PlayerHost, EveryControlHasThePictureThatIsGivenForIt) {
   const auto filled = [](Qt::GlobalColor colour) {
     QPixmap picture(16, 16);
     picture.fill(colour);
@@ -273,7 +273,7 @@ TEST_F(TCPlayerHostTest, EveryControlHasThePictureThatIsGivenForIt) {
   EXPECT_EQ(pictures, 1);
 }
 
-TEST_F(TCPlayerHostTest, FollowsARealRunOfThePlayer) {
+TEST_F(PlayerHost, FollowsARealRunOfThePlayer) {
   CWMPHost pane(&player, &player);
   player.SetDefaultSong({.length = 100.0});
   player.LoadUrl(u"\\music\\Salt & Iron.wma");

@@ -14,7 +14,7 @@ namespace {
 
 using Id = TCCommandId;
 
-class CommandCategoriesTest : public testing::Test {
+class CommandCategory : public testing::Test {
  protected:
   // A line for each category: its name and its commands.
   [[nodiscard]] std::string Listed(std::set<Id> handled) {
@@ -33,17 +33,17 @@ class CommandCategoriesTest : public testing::Test {
   QWidget window;
 };
 
-TEST_F(CommandCategoriesTest, AMenuOfWhichNobodyCarriesAnythingOutIsLeftOut) {
+TEST_F(CommandCategory, AMenuOfWhichNobodyCarriesAnythingOutIsLeftOut) {
   EXPECT_EQ(Listed({Id::Stop, Id::Play}), "Play: Play, Stop\nAll Commands: Play, Stop\n");
   EXPECT_EQ(Listed({}), "All Commands: \n");
 }
 
-TEST_F(CommandCategoriesTest, TheMenuInsideViewIsListedWithIt) {
+TEST_F(CommandCategory, TheMenuInsideViewIsListedWithIt) {
   EXPECT_EQ(Listed({Id::StatusBarVisible, Id::Customize}),
             "View: Customize..., Status Bar\nAll Commands: Customize..., Status Bar\n");
 }
 
-TEST_F(CommandCategoriesTest, AllCommandsStandByTheirNameAndThoseWithoutOneNowhere) {
+TEST_F(CommandCategory, AllCommandsStandByTheirNameAndThoseWithoutOneNowhere) {
   EXPECT_EQ(Listed({Id::VolumeUp, Id::MediaVolumeUp, Id::AutoRecycle, Id::SelectAll, Id::SwallowF4, Id::Cut}),
             "Play: Increase Volume\nOptions: Auto Recycle\n"
             "All Commands: Auto Recycle, Increase Volume, Increase Volume (volume key)\n");

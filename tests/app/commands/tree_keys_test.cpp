@@ -18,7 +18,7 @@ namespace {
 
 constexpr TCNodeKind kKinds[] = {TCNodeKind::None, TCNodeKind::Group, TCNodeKind::Playlist, TCNodeKind::Song};
 
-TEST(TreeKeys, EnterIsTheTreesOnPlaylistsAndSongsAlone) {
+TEST(TreeKeepsKey, EnterIsTheTreesOnPlaylistsAndSongsAlone) {
   for (const int enter : {Qt::Key_Return, Qt::Key_Enter}) {
     EXPECT_FALSE(TreeKeepsKey(enter, Qt::NoModifier, TCNodeKind::None));
     EXPECT_FALSE(TreeKeepsKey(enter, Qt::NoModifier, TCNodeKind::Group));
@@ -28,7 +28,7 @@ TEST(TreeKeys, EnterIsTheTreesOnPlaylistsAndSongsAlone) {
   }
 }
 
-TEST(TreeKeys, PlainArrowsAndShiftUpAndDownAreTheTreesWhateverIsSelected) {
+TEST(TreeKeepsKey, PlainArrowsAndShiftUpAndDownAreTheTreesWhateverIsSelected) {
   for (const TCNodeKind kind : kKinds) {
     for (const int arrow : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right}) {
       EXPECT_TRUE(TreeKeepsKey(arrow, Qt::NoModifier, kind));
@@ -39,7 +39,7 @@ TEST(TreeKeys, PlainArrowsAndShiftUpAndDownAreTheTreesWhateverIsSelected) {
   }
 }
 
-TEST(TreeKeys, EveryOtherKeyIsTheTables) {
+TEST(TreeKeepsKey, EveryOtherKeyIsTheTables) {
   for (const int key : {Qt::Key_Space, Qt::Key_Delete, Qt::Key_Escape, Qt::Key_F2, Qt::Key_F5, Qt::Key_M,
                         Qt::Key_Home, Qt::Key_Q}) {
     EXPECT_FALSE(TreeKeepsKey(key, Qt::NoModifier, TCNodeKind::Song)) << key;

@@ -15,7 +15,7 @@
 namespace brevant {
 namespace {
 
-class SongProperties : public testing::Test {
+class SongPropertiesDlg : public testing::Test {
  protected:
   void SetUp() override {
     rig.AddGroup(u"Mariner Sets", {{u"Harbour", {u"Anchor.mp3", u"Buoy.mp3"}}});
@@ -47,7 +47,7 @@ class SongProperties : public testing::Test {
   std::optional<TCSongProperties> dialog;
 };
 
-TEST_F(SongProperties, ItsTextsStandToTheLetter) {
+TEST_F(SongPropertiesDlg, ItsTextsStandToTheLetter) {
   Open();
   EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Song properties"));
   QStringList texts;
@@ -70,7 +70,7 @@ TEST_F(SongProperties, ItsTextsStandToTheLetter) {
   EXPECT_EQ(texts, expected);
 }
 
-TEST_F(SongProperties, ShowsTheSongAndWhereItBelongs) {
+TEST_F(SongPropertiesDlg, ShowsTheSongAndWhereItBelongs) {
   Open();
   EXPECT_EQ(TextIn("SongPath"), QStringLiteral("C:\\"));
   EXPECT_EQ(TextIn("SongName"), QStringLiteral("Anchor.mp3"));
@@ -79,7 +79,7 @@ TEST_F(SongProperties, ShowsTheSongAndWhereItBelongs) {
   EXPECT_EQ(TextIn("GroupName"), QStringLiteral("C:\\groups\\Mariner Sets.brvgl"));
 }
 
-TEST_F(SongProperties, TheBoxesStandAsThePlaylistRemembersThem) {
+TEST_F(SongPropertiesDlg, TheBoxesStandAsThePlaylistRemembersThem) {
   Open();
   EXPECT_FALSE(Find<QCheckBox>("PathForAll").isChecked());
   EXPECT_FALSE(Find<QCheckBox>("ExtensionForAll").isChecked());
@@ -96,7 +96,7 @@ TEST_F(SongProperties, TheBoxesStandAsThePlaylistRemembersThem) {
   EXPECT_TRUE(Find<QCheckBox>("ExtensionForAll").isChecked());
 }
 
-TEST_F(SongProperties, WhatIsTypedAndTickedGoesIntoTheForm) {
+TEST_F(SongPropertiesDlg, WhatIsTypedAndTickedGoesIntoTheForm) {
   Open();
   QTest::keyClick(&Find<QLineEdit>("SongPath"), Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(&Find<QLineEdit>("SongPath"), QStringLiteral("D:\\new\\"));
@@ -111,7 +111,7 @@ TEST_F(SongProperties, WhatIsTypedAndTickedGoesIntoTheForm) {
   EXPECT_TRUE(form->extensionForAll);
 }
 
-TEST_F(SongProperties, TimePlaylistAndGroupTakeNoTyping) {
+TEST_F(SongPropertiesDlg, TimePlaylistAndGroupTakeNoTyping) {
   Open();
   for (const char* name : {"SongTime", "PlaylistName", "GroupName"}) {
     auto& field = Find<QLineEdit>(name);
@@ -122,7 +122,7 @@ TEST_F(SongProperties, TimePlaylistAndGroupTakeNoTyping) {
   }
 }
 
-TEST_F(SongProperties, SetDirTakesTheFolderOfTheChosenFileAndKeepsWhatWasTyped) {
+TEST_F(SongPropertiesDlg, SetDirTakesTheFolderOfTheChosenFileAndKeepsWhatWasTyped) {
   rig.record.settings.lastMediaFileName = u"C:\\Anchor.mp3";
   Open();
   QTest::keyClick(&Find<QLineEdit>("SongName"), Qt::Key_End);
@@ -137,7 +137,7 @@ TEST_F(SongProperties, SetDirTakesTheFolderOfTheChosenFileAndKeepsWhatWasTyped) 
   EXPECT_TRUE(dialog->isVisible());
 }
 
-TEST_F(SongProperties, CancellingSetDirKeepsThePathAndForgetsTheLastFile) {
+TEST_F(SongPropertiesDlg, CancellingSetDirKeepsThePathAndForgetsTheLastFile) {
   rig.record.settings.lastMediaFileName = u"C:\\Anchor.mp3";
   Open();
   rig.prompts.mediaAnswers = {std::nullopt};
@@ -146,7 +146,7 @@ TEST_F(SongProperties, CancellingSetDirKeepsThePathAndForgetsTheLastFile) {
   EXPECT_EQ(rig.record.settings.lastMediaFileName, u"");
 }
 
-TEST_F(SongProperties, NothingChangesBeforeOk) {
+TEST_F(SongPropertiesDlg, NothingChangesBeforeOk) {
   Open();
   QTest::keyClicks(&Find<QLineEdit>("SongName"), QStringLiteral("x"));
   QTest::keyClick(&Find<QCheckBox>("PathForAll"), Qt::Key_Space);
@@ -155,7 +155,7 @@ TEST_F(SongProperties, NothingChangesBeforeOk) {
   EXPECT_EQ(rig.modified, 0);
 }
 
-TEST_F(SongProperties, EnterIsOkFromEveryFieldAndEscapeGivesUp) {
+TEST_F(SongPropertiesDlg, EnterIsOkFromEveryFieldAndEscapeGivesUp) {
   for (const char* control : {"SongPath", "SongName", "SongTime", "PathForAll"}) {
     Open();
     Find<QWidget>(control).setFocus();
@@ -171,7 +171,7 @@ TEST_F(SongProperties, EnterIsOkFromEveryFieldAndEscapeGivesUp) {
   }
 }
 
-TEST_F(SongProperties, EnterOnSetDirIsSetDir) {
+TEST_F(SongPropertiesDlg, EnterOnSetDirIsSetDir) {
   Open();
   rig.prompts.mediaAnswers = {TCFakePrompts::TCPaths{u"\\music\\a.mp3"}};
   Find<QPushButton>("SetDir").setFocus();
@@ -180,7 +180,7 @@ TEST_F(SongProperties, EnterOnSetDirIsSetDir) {
   EXPECT_EQ(TextIn("SongPath"), QStringLiteral("\\music\\"));
 }
 
-TEST_F(SongProperties, TheTabKeyGoesRoundAllControls) {
+TEST_F(SongPropertiesDlg, TheTabKeyGoesRoundAllControls) {
   Open();
   EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("SongPath"));
   for (const char* next : {"SetDir", "SongName", "SongTime", "PlaylistName", "GroupName", "PathForAll",
@@ -190,7 +190,7 @@ TEST_F(SongProperties, TheTabKeyGoesRoundAllControls) {
   }
 }
 
-TEST_F(SongProperties, EachFieldIsAnnouncedByItsLabel) {
+TEST_F(SongPropertiesDlg, EachFieldIsAnnouncedByItsLabel) {
   Open();
   const std::pair<const char*, const char*> fields[] = {{"SongPath", "Song File Path:"},
                                                         {"SongName", "Song Name:"},

@@ -15,7 +15,7 @@
 namespace brevant {
 namespace {
 
-class TCGeneralReportsTabTest : public testing::Test {
+class GeneralReportsTab : public testing::Test {
  protected:
   void SetUp() override {
     pane.resize(400, 200);
@@ -61,7 +61,7 @@ class TCGeneralReportsTabTest : public testing::Test {
   TCGeneralReportsTab pane;
 };
 
-TEST_F(TCGeneralReportsTabTest, BeforeItIsEnabledAppendingAndClearingDoNothing) {
+TEST_F(GeneralReportsTab, BeforeItIsEnabledAppendingAndClearingDoNothing) {
   TCGeneralReportsTab sleeping;
   sleeping.Append(u"lost");
   sleeping.AppendMessage(TCTextId::CommandCanceled);
@@ -74,20 +74,20 @@ TEST_F(TCGeneralReportsTabTest, BeforeItIsEnabledAppendingAndClearingDoNothing) 
   EXPECT_EQ(sleeping.toPlainText(), QStringLiteral("kept\n"));
 }
 
-TEST_F(TCGeneralReportsTabTest, LinesStandInOrderEachWithItsEnd) {
+TEST_F(GeneralReportsTab, LinesStandInOrderEachWithItsEnd) {
   pane.Append(u"...Brevant...");
   pane.Append(u"second");
   EXPECT_EQ(Text(), QStringLiteral("...Brevant...\nsecond\n"));
 }
 
-TEST_F(TCGeneralReportsTabTest, Of1025LinesTheFirstIsGone) {
+TEST_F(GeneralReportsTab, Of1025LinesTheFirstIsGone) {
   AppendNumbered(1, 1025);
   EXPECT_TRUE(Text().startsWith(QStringLiteral("line 2\nline 3\n")));
   EXPECT_TRUE(Text().endsWith(QStringLiteral("line 1024\nline 1025\n")));
   EXPECT_EQ(Text().count(QLatin1Char('\n')), 1024);
 }
 
-TEST_F(TCGeneralReportsTabTest, TheBoxHoldsWhatTheRingHoldsAfterEveryAppend) {
+TEST_F(GeneralReportsTab, TheBoxHoldsWhatTheRingHoldsAfterEveryAppend) {
   TCGeneralReportsTab small;
   small.Enable(4);
   TCReportLines ring;
@@ -104,7 +104,7 @@ TEST_F(TCGeneralReportsTabTest, TheBoxHoldsWhatTheRingHoldsAfterEveryAppend) {
   }
 }
 
-TEST_F(TCGeneralReportsTabTest, CharactersThatMeanSomethingToTheBoxAreDroppedWithTheirLine) {
+TEST_F(GeneralReportsTab, CharactersThatMeanSomethingToTheBoxAreDroppedWithTheirLine) {
   TCGeneralReportsTab small;
   small.Enable(2);
   small.Append(u"a\u2029b\uFDD0c\u2028d");
@@ -114,7 +114,7 @@ TEST_F(TCGeneralReportsTabTest, CharactersThatMeanSomethingToTheBoxAreDroppedWit
   EXPECT_EQ(small.toPlainText(), QStringLiteral("second\nthird\n"));
 }
 
-TEST_F(TCGeneralReportsTabTest, AfterAClearExactlyTheNextLineStands) {
+TEST_F(GeneralReportsTab, AfterAClearExactlyTheNextLineStands) {
   AppendNumbered(1, 5);
   pane.Clear();
   EXPECT_EQ(Text(), QString());
@@ -122,12 +122,12 @@ TEST_F(TCGeneralReportsTabTest, AfterAClearExactlyTheNextLineStands) {
   EXPECT_EQ(Text(), QStringLiteral("only\n"));
 }
 
-TEST_F(TCGeneralReportsTabTest, AMessageAndItsDetailAreOneBlankApart) {
+TEST_F(GeneralReportsTab, AMessageAndItsDetailAreOneBlankApart) {
   pane.AppendMessage(TCTextId::UnableToPlayMissingFile, u"C:\\a.mp3");
   EXPECT_EQ(Text(), QStringLiteral("Unable to play song as unable to find file: C:\\a.mp3\n"));
 }
 
-TEST_F(TCGeneralReportsTabTest, EachLineKeepsTheColourOfItsSinger) {
+TEST_F(GeneralReportsTab, EachLineKeepsTheColourOfItsSinger) {
   pane.Append(u"normal");
   pane.SetLineRole(TCLineRole::SingerM);
   pane.Append(u"he sings");
@@ -141,7 +141,7 @@ TEST_F(TCGeneralReportsTabTest, EachLineKeepsTheColourOfItsSinger) {
   EXPECT_EQ(ColourOf("both sing"), QColor(255, 165, 0));
 }
 
-TEST_F(TCGeneralReportsTabTest, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
+TEST_F(GeneralReportsTab, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
   pane.Append(u"normal");
   pane.SetLineRole(TCLineRole::SingerM);
   pane.Append(u"he sings");
@@ -162,7 +162,7 @@ TEST_F(TCGeneralReportsTabTest, ChangingBlackAndWhiteRecoloursWhatStandsThere) {
   EXPECT_EQ(ColourOf("he sings"), QColor(0, 255, 0));
 }
 
-TEST_F(TCGeneralReportsTabTest, TheSingersColoursGoByTheLookNotByTheBackground) {
+TEST_F(GeneralReportsTab, TheSingersColoursGoByTheLookNotByTheBackground) {
   pane.SetLook(TCPaneLook::BlackOnWhite);
   pane.SetLineRole(TCLineRole::SingerM);
   pane.Append(u"he sings");
@@ -171,14 +171,14 @@ TEST_F(TCGeneralReportsTabTest, TheSingersColoursGoByTheLookNotByTheBackground) 
   EXPECT_EQ(ColourOf("he sings"), QColor(0, 0, 255));
 }
 
-TEST_F(TCGeneralReportsTabTest, AClearReturnsToTheNormalColour) {
+TEST_F(GeneralReportsTab, AClearReturnsToTheNormalColour) {
   pane.SetLineRole(TCLineRole::SingerM);
   pane.Clear();
   pane.Append(u"normal");
   EXPECT_EQ(ColourOf("normal"), QColor(Qt::white));
 }
 
-TEST_F(TCGeneralReportsTabTest, TheBackgroundIsDrawnInItsColour) {
+TEST_F(GeneralReportsTab, TheBackgroundIsDrawnInItsColour) {
   const auto corner = [&] {
     const QImage image = pane.viewport()->grab().toImage();
     return image.pixelColor(image.width() - 3, image.height() - 3);
@@ -188,7 +188,7 @@ TEST_F(TCGeneralReportsTabTest, TheBackgroundIsDrawnInItsColour) {
   EXPECT_EQ(corner(), QColor(Qt::white));
 }
 
-TEST_F(TCGeneralReportsTabTest, TheNewestLineIsAlwaysInView) {
+TEST_F(GeneralReportsTab, TheNewestLineIsAlwaysInView) {
   AppendNumbered(1, 100);
   EXPECT_TRUE(NewestLineIsInView());
   pane.verticalScrollBar()->setValue(0);
@@ -205,7 +205,7 @@ TEST_F(TCGeneralReportsTabTest, TheNewestLineIsAlwaysInView) {
   EXPECT_TRUE(NewestLineIsInView());
 }
 
-TEST_F(TCGeneralReportsTabTest, OfLyricLinesThatDoNotFitTheFirstStaysInView) {
+TEST_F(GeneralReportsTab, OfLyricLinesThatDoNotFitTheFirstStaysInView) {
   pane.resize(400, 90);
   ShowLyrics({u"sung now", u"sung next", u"sung later"});
   EXPECT_TRUE(IsInView("sung now"));
@@ -222,7 +222,7 @@ TEST_F(TCGeneralReportsTabTest, OfLyricLinesThatDoNotFitTheFirstStaysInView) {
   EXPECT_TRUE(IsInView("sung then"));
 }
 
-TEST_F(TCGeneralReportsTabTest, TheBlankLinesGoOutOfViewBeforeALyricLineDoes) {
+TEST_F(GeneralReportsTab, TheBlankLinesGoOutOfViewBeforeALyricLineDoes) {
   // Room for four lines of six: the lyric lines are the third and the sixth.
   const int lineHeight = pane.cursorRect().height();
   pane.resize(400, 4 * lineHeight + lineHeight / 2 + pane.height() - pane.viewport()->height());
@@ -231,7 +231,7 @@ TEST_F(TCGeneralReportsTabTest, TheBlankLinesGoOutOfViewBeforeALyricLineDoes) {
   EXPECT_TRUE(IsInView("sung next"));
 }
 
-TEST_F(TCGeneralReportsTabTest, AMessageAfterTheLyricsIsInView) {
+TEST_F(GeneralReportsTab, AMessageAfterTheLyricsIsInView) {
   pane.resize(400, 90);
   ShowLyrics({u"sung now", u"sung next", u"sung later"});
   pane.Append(u"a message");
@@ -244,7 +244,7 @@ TEST_F(TCGeneralReportsTabTest, AMessageAfterTheLyricsIsInView) {
   EXPECT_TRUE(NewestLineIsInView());
 }
 
-TEST_F(TCGeneralReportsTabTest, ALongLineIsNotWrappedAndItsBeginningIsInView) {
+TEST_F(GeneralReportsTab, ALongLineIsNotWrappedAndItsBeginningIsInView) {
   pane.horizontalScrollBar()->setValue(0);
   pane.Append(ToQString(u"word ").repeated(100).toStdU16String());
   EXPECT_EQ(pane.lineWrapMode(), QPlainTextEdit::NoWrap);
@@ -254,12 +254,12 @@ TEST_F(TCGeneralReportsTabTest, ALongLineIsNotWrappedAndItsBeginningIsInView) {
   EXPECT_EQ(pane.horizontalScrollBar()->value(), 0);
 }
 
-TEST_F(TCGeneralReportsTabTest, BothScrollBarsAreThere) {
+TEST_F(GeneralReportsTab, BothScrollBarsAreThere) {
   EXPECT_TRUE(pane.verticalScrollBar()->isVisible());
   EXPECT_TRUE(pane.horizontalScrollBar()->isVisible());
 }
 
-TEST_F(TCGeneralReportsTabTest, NobodyCanTypeIntoIt) {
+TEST_F(GeneralReportsTab, NobodyCanTypeIntoIt) {
   pane.Append(u"text");
   pane.setFocus();
   QTest::keyClicks(&pane, QStringLiteral("abc"));
@@ -268,7 +268,7 @@ TEST_F(TCGeneralReportsTabTest, NobodyCanTypeIntoIt) {
   EXPECT_EQ(Text(), QStringLiteral("text\n"));
 }
 
-TEST_F(TCGeneralReportsTabTest, TabReachesItAndTheMouseSelectsAndCopies) {
+TEST_F(GeneralReportsTab, TabReachesItAndTheMouseSelectsAndCopies) {
   EXPECT_TRUE(pane.focusPolicy() & Qt::TabFocus);
   pane.Append(u"copy");
   QTest::mouseDClick(pane.viewport(), Qt::LeftButton, {},
@@ -278,14 +278,14 @@ TEST_F(TCGeneralReportsTabTest, TabReachesItAndTheMouseSelectsAndCopies) {
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("copy"));
 }
 
-TEST_F(TCGeneralReportsTabTest, ItsPointsAreKeptUsable) {
+TEST_F(GeneralReportsTab, ItsPointsAreKeptUsable) {
   pane.SetDisplayFont(QStringLiteral("Times New Roman"), -3, Qt::white, Qt::black);
   EXPECT_EQ(pane.font().pointSize(), 1);
   pane.SetDisplayFont(QStringLiteral("Times New Roman"), 1'000'000, Qt::white, Qt::black);
   EXPECT_LT(pane.font().pointSize(), 1000);
 }
 
-TEST_F(TCGeneralReportsTabTest, ItsTextCanBeReadByAssistiveTechnology) {
+TEST_F(GeneralReportsTab, ItsTextCanBeReadByAssistiveTechnology) {
   pane.Append(u"...Brevant...");
   QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&pane);
   ASSERT_NE(accessible, nullptr);
