@@ -22,7 +22,7 @@ constexpr std::array<std::string_view, 32> kWords = {
     "home",   "distant", "bright", "hollow",   "wild",     "evening", "bell",   "sky"};
 
 // std::uniform_int_distribution gives other numbers with other libraries; the set list should not change.
-class Chance {
+class TCChance {
  public:
   int Below(int limit) { return static_cast<int>(engine() % static_cast<std::uint32_t>(limit)); }
 
@@ -56,7 +56,7 @@ void WriteFile(const std::filesystem::path& path, std::string_view bytes) {
 }
 
 // About 30 lines of about 25 characters, spread over the song.
-std::string LyricText(Chance& chance, const std::string& artist, const std::string& title, int seconds) {
+std::string LyricText(TCChance& chance, const std::string& artist, const std::string& title, int seconds) {
   std::string text = "[ti:" + title + "]\r\n[ar:" + artist + "]\r\n[al:" + chance.Words(2) +
                      "]\r\n[by:" + chance.Words(2) + "]\r\n[length: " + Time(seconds) + "]\r\n";
   const int lines = 24 + chance.Below(17);
@@ -73,7 +73,7 @@ struct Song {
 };
 
 std::vector<Song> MakeCollection(const std::filesystem::path& folder, const TCSetListSize& size,
-                                 Chance& chance) {
+                                 TCChance& chance) {
   std::vector<Song> songs;
   songs.reserve(static_cast<std::size_t>(size.songs));
   std::filesystem::path album;
@@ -123,7 +123,7 @@ TextLines DocumentLines(const std::vector<Song>& songs, const TCSetListSize& siz
 std::u16string MakeSetList(const std::filesystem::path& folder, const TCSetListSize& size) {
   const std::filesystem::path root = std::filesystem::absolute(folder);
   std::filesystem::create_directories(root);
-  Chance chance;
+  TCChance chance;
   std::vector<Song> songs = MakeCollection(root, size, chance);
   if (size.order == TCSongOrder::Shuffled) {
     for (std::size_t at = songs.size(); at > 1; --at) {

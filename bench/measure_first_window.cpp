@@ -42,9 +42,9 @@ int IgnoreError(Display*, XErrorEvent*) {
   return 0;
 }
 
-class Stage {
+class TCStage {
  public:
-  explicit Stage(Display* opened) : display(opened), root(DefaultRootWindow(opened)) {}
+  explicit TCStage(Display* opened) : display(opened), root(DefaultRootWindow(opened)) {}
 
   // What the window manager manages: no splash screens drawn past it, no menus, no tips.
   [[nodiscard]] std::vector<Window> Windows() const { return Longs(root, "_NET_CLIENT_LIST", XA_WINDOW); }
@@ -100,18 +100,18 @@ class Stage {
 };
 
 // The command in a process group of its own, which ends with this object.
-class Program {
+class TCProgram {
  public:
-  explicit Program(char** command) : process(fork()) {
+  explicit TCProgram(char** command) : process(fork()) {
     if (process != 0) return;
     setpgid(0, 0);
     execvp(command[0], command);
     std::perror(command[0]);
     _exit(127);
   }
-  Program(const Program&) = delete;
-  Program& operator=(const Program&) = delete;
-  ~Program() {
+  TCProgram(const TCProgram&) = delete;
+  TCProgram& operator=(const TCProgram&) = delete;
+  ~TCProgram() {
     if (process <= 0) return;
     kill(-process, SIGTERM);
     const Clock::time_point begin = Clock::now();
@@ -149,9 +149,9 @@ struct FirstWindow {
   double processor = 0.0;
 };
 
-std::optional<FirstWindow> Measure(const Stage& stage, char** command) {
+std::optional<FirstWindow> Measure(const TCStage& stage, char** command) {
   const Clock::time_point begin = Clock::now();
-  Program program(command);
+  TCProgram program(command);
   FirstWindow found;
   while (Clock::now() - begin < kPatience && !program.HasEnded()) {
     for (const Window window : stage.Windows()) {
@@ -181,7 +181,7 @@ int main(int argc, char** argv) {
     return 1;
   }
   XSetErrorHandler(IgnoreError);
-  const Stage stage(display);
+  const TCStage stage(display);
 
   std::vector<double> mapped;
   std::vector<double> painted;

@@ -17,9 +17,9 @@ constexpr std::int32_t kSongs = 100'000;
 constexpr std::int32_t kPlaylistsPerGroup = 25;
 
 // The transport as the document puts it together, with a view that only keeps what it is shown.
-class Stage {
+class TCStage {
  public:
-  explicit Stage(std::int32_t songsPerPlaylist) {
+  explicit TCStage(std::int32_t songsPerPlaylist) {
     files.Put(u"song.mp3");
     const std::int32_t playlists = kSongs / songsPerPlaylist;
     for (std::int32_t i = 0; i < playlists; ++i) {
@@ -56,7 +56,7 @@ class Stage {
 
 // Nearly all ticks are like this one.
 void TickWhileASongPlays(benchmark::State& state) {
-  Stage stage(static_cast<std::int32_t>(state.range(0)));
+  TCStage stage(static_cast<std::int32_t>(state.range(0)));
   stage.PlayToTheMiddle();
   if (!stage.transport.State().started) state.SkipWithError("nothing plays");
   for (auto _ : state) stage.transport.OnPlayTimerTick();
@@ -64,7 +64,7 @@ void TickWhileASongPlays(benchmark::State& state) {
 
 // The first tick behind Play that knows the length: the song's time and the playlist's total change.
 void TickThatLearnsTheTime(benchmark::State& state) {
-  Stage stage(static_cast<std::int32_t>(state.range(0)));
+  TCStage stage(static_cast<std::int32_t>(state.range(0)));
   for (auto _ : state) {
     state.PauseTiming();
     stage.transport.Play();
@@ -75,7 +75,7 @@ void TickThatLearnsTheTime(benchmark::State& state) {
   }
 }
 
-void EndSongs(benchmark::State& state, Stage& stage, std::int32_t songsBeforeTheLast) {
+void EndSongs(benchmark::State& state, TCStage& stage, std::int32_t songsBeforeTheLast) {
   stage.record.settings.autoSongAdvance = true;
   stage.record.settings.autoRecycle = true;
   const std::int32_t group = stage.store.currentGroup;
@@ -96,13 +96,13 @@ void EndSongs(benchmark::State& state, Stage& stage, std::int32_t songsBeforeThe
 
 // All rows are coloured anew.
 void TickThatGoesOnToTheNextSong(benchmark::State& state) {
-  Stage stage(static_cast<std::int32_t>(state.range(0)));
+  TCStage stage(static_cast<std::int32_t>(state.range(0)));
   EndSongs(state, stage, 1);
 }
 
 // Behind the last song of all the first playlist is shown.
 void TickThatStartsTheArrangementAgain(benchmark::State& state) {
-  Stage stage(static_cast<std::int32_t>(state.range(0)));
+  TCStage stage(static_cast<std::int32_t>(state.range(0)));
   EndSongs(state, stage, 0);
 }
 

@@ -37,7 +37,7 @@ std::uint64_t ZigZag(std::int64_t number) {
 }
 
 // Finds out how large a block becomes.
-class Ruler {
+class TCRuler {
  public:
   void PutNumber(std::uint64_t number) { size += SizeOfNumber(number); }
   void PutText(std::string_view text) { size += text.size(); }
@@ -49,9 +49,9 @@ class Ruler {
 };
 
 // Fills a block of that size.
-class Writer {
+class TCWriter {
  public:
-  explicit Writer(char* block) : at(block) {}
+  explicit TCWriter(char* block) : at(block) {}
 
   void PutNumber(std::uint64_t number) {
     for (; number >= 0x80; number >>= 7) *at++ = static_cast<char>(0x80U | (number & 0x7FU));
@@ -63,9 +63,9 @@ class Writer {
   char* at;
 };
 
-class Reader {
+class TCReader {
  public:
-  explicit Reader(const char* block) : at(block) {}
+  explicit TCReader(const char* block) : at(block) {}
 
   std::uint64_t TakeNumber() {
     std::uint64_t number = 0;
@@ -90,9 +90,9 @@ class Reader {
 };
 
 // Takes the lines of a block one after the other.
-class LineReader {
+class TCLineReader {
  public:
-  explicit LineReader(const char* block) : reader(block), left(reader.TakeNumber()) {
+  explicit TCLineReader(const char* block) : reader(block), left(reader.TakeNumber()) {
     for (std::size_t header = 0; header < kHeaderFields.size(); ++header)
       reader.TakeText(reader.TakeNumber());
   }
@@ -113,7 +113,7 @@ class LineReader {
   [[nodiscard]] TCLyric Line() const { return {DecodeLyricText(text), start, end, singer}; }
 
  private:
-  Reader reader;
+  TCReader reader;
   std::uint64_t left = 0;
   std::int32_t start = 0;
   std::int32_t end = 0;
@@ -164,22 +164,22 @@ TCSongLyrics::TCSongLyrics(const TCLyricSheet& sheet) {
   for (std::size_t header = 0; header < headers.size(); ++header) {
     EncodeLyricText(headers[header], sheet.headers.*kHeaderFields[header]);
   }
-  Ruler ruler;
+  TCRuler ruler;
   Pack(sheet, headers, ruler);
   const std::shared_ptr<char[]> block = std::make_shared<char[]>(ruler.Size());
-  Writer writer(block.get());
+  TCWriter writer(block.get());
   Pack(sheet, headers, writer);
   packed = block;
 }
 
 std::size_t TCSongLyrics::LineCount() const {
-  return packed ? Reader(packed.get()).TakeNumber() : 0;
+  return packed ? TCReader(packed.get()).TakeNumber() : 0;
 }
 
 std::vector<TCLyric> TCSongLyrics::LinesFrom(std::size_t first, std::size_t count) const {
   std::vector<TCLyric> lines;
   if (!packed) return lines;
-  LineReader reader(packed.get());
+  TCLineReader reader(packed.get());
   for (std::size_t index = 0; lines.size() < count && reader.Next(); ++index) {
     if (index >= first) lines.push_back(reader.Line());
   }
@@ -188,7 +188,7 @@ std::vector<TCLyric> TCSongLyrics::LinesFrom(std::size_t first, std::size_t coun
 
 std::int32_t TCSongLyrics::FindLineAt(std::int32_t timeMs) const {
   if (!packed) return -1;
-  LineReader reader(packed.get());
+  TCLineReader reader(packed.get());
   for (std::int32_t index = 0; reader.Next(); ++index) {
     if (reader.IsCurrentAt(timeMs)) return index;
   }
@@ -198,7 +198,7 @@ std::int32_t TCSongLyrics::FindLineAt(std::int32_t timeMs) const {
 TCLyricHeaders TCSongLyrics::Headers() const {
   TCLyricHeaders headers;
   if (!packed) return headers;
-  Reader reader(packed.get());
+  TCReader reader(packed.get());
   reader.TakeNumber();  // of lines
   for (const HeaderField field : kHeaderFields) {
     headers.*field = DecodeLyricText(reader.TakeText(reader.TakeNumber()));

@@ -31,9 +31,9 @@ std::u16string ResolveGroupListLine(std::u16string_view documentFolder, std::u16
 
 // Finds the group and playlist of each line by name. A set list of 100,000 songs may name thousands of
 // playlists, so names are looked up and not searched.
-class NameIndex {
+class TCNameIndex {
  public:
-  explicit NameIndex(TCSetListStore& setLists) : store(setLists) {}
+  explicit TCNameIndex(TCSetListStore& setLists) : store(setLists) {}
 
   TCPlayList& PlaylistFor(const TCFlatLine& line) {
     // Nearly always the songs of a playlist stand together.
@@ -146,7 +146,7 @@ bool TCDocumentFile::LoadFolderDocument(std::string_view bytes) {
 
 bool TCDocumentFile::LoadFlatDocument(std::string_view bytes) {
   store.groups.clear();
-  NameIndex names(store);
+  TCNameIndex names(store);
   TCSongTexts texts;
   VisitUtf16Lines(bytes, [&](std::u16string_view text) {
     const TCFlatLine line = ParseFlatLine(text);
