@@ -43,7 +43,7 @@ void TCDocumentSaver::SetUnreadFile(std::u16string_view path) {
 void TCDocumentSaver::Save(std::u16string_view path, TextLines lines) {
   if (lines.empty()) return;
   const auto kept = std::make_shared<const TextLines>(std::move(lines));
-  TCSave save{std::u16string(path), WriteBehindOthers(path, kept), {}};
+  TCSave save{std::u16string(path), kept, WriteBehindOthers(path, kept), {}};
   if (HasCome(save.onDisk, kDiskPatience) && save.onDisk.get()) return;
   save.copy = AskDisk(files, [folder = recoveryFolder, name = FileNamePart(path), kept](TCFileSystem& disk) {
     return WriteRecoveryCopy(disk, folder, name, *kept);
@@ -82,12 +82,21 @@ bool TCDocumentSaver::IsSaving(std::u16string_view path) const {
   return last != nullptr && !HasCome(last->onDisk, kNow);
 }
 
+void TCDocumentSaver::TakeBackCopy(const TCSave& save) {
+  if (save.IsCopied()) RemoveRecoveryCopy(files, save.copy.get(), *save.lines);
+}
+
 bool TCDocumentSaver::DropEndedSaves() {
-  return std::erase_if(underWay, [this](const TCSave& save) {
-           if (!save.HasEnded()) return false;
-           if (save.CameThrough() && save.IsCopied()) files.DeleteFile(save.copy.get());
-           return true;
-         }) > 0;
+  bool news = false;
+  for (TCSave& save : underWay) {
+    if (!save.told && HasCome(save.onDisk, kNow)) news = save.told = true;
+  }
+  std::erase_if(underWay, [this](const TCSave& save) {
+    if (!save.HasEnded()) return false;
+    if (save.CameThrough()) TakeBackCopy(save);
+    return true;
+  });
+  return news;
 }
 
 void TCDocumentSaver::WaitFor(std::u16string_view path) {
@@ -102,14 +111,14 @@ void TCDocumentSaver::Finish(std::chrono::milliseconds patience) {
   for (const TCSave& save : underWay) {
     save.onDisk.wait_until(deadline);
     save.copy.wait_until(deadline);
+    if (&save != LastSaveOf(save.path)) continue;  // of several saves of one file only the last one counts
     while (!save.CameThrough() && !save.IsCopied() && !save.HasEnded()) {
       std::this_thread::sleep_for(kBeforeLookingAgain);
     }
   }
   DropEndedSaves();
-  // Of several saves of one file that hang only the last one counts.
   for (const TCSave& save : underWay) {
-    if (&save != LastSaveOf(save.path) && save.IsCopied()) files.DeleteFile(save.copy.get());
+    if (&save != LastSaveOf(save.path)) TakeBackCopy(save);
   }
   underWay.clear();
 }

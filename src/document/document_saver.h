@@ -21,7 +21,8 @@ class TCDocumentSaver {
   TCDocumentSaver(TCFileSystem& fileSystem, std::u16string_view recovery);
 
   // Waits a moment for the disk. What is not on it by then goes to the recovery folder as well, by itself,
-  // and is taken out of there when the save comes through. The saves of one file take effect in the order
+  // and is taken out of there when the save comes through, unless somebody has made something else of it. The
+  // saves of one file take effect in the order
   // they were asked for, those of different files wait for nobody. Without lines nothing is written.
   void Save(std::u16string_view path, TextLines lines);
 
@@ -50,8 +51,10 @@ class TCDocumentSaver {
  private:
   struct TCSave {
     std::u16string path;
+    std::shared_ptr<const TextLines> lines;
     std::shared_future<bool> onDisk;          // false when it has failed
     std::shared_future<std::u16string> copy;  // in the recovery folder; empty when that has failed, too
+    bool told = false;                        // that `onDisk` has come
 
     [[nodiscard]] bool CameThrough() const;
     [[nodiscard]] bool IsCopied() const;
@@ -69,6 +72,7 @@ class TCDocumentSaver {
                                                            std::shared_ptr<const TextLines> lines);
   // The last save of the file that is under way; null when there is none.
   [[nodiscard]] const TCSave* LastSaveOf(std::u16string_view path) const;
+  void TakeBackCopy(const TCSave& save);
 
   TCFileSystem& files;
   const std::u16string recoveryFolder;

@@ -40,4 +40,9 @@ std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder
   return {};
 }
 
+void RemoveRecoveryCopy(TCFileSystem& files, std::u16string_view copy, const TextLines& lines) {
+  TextLines there;
+  if (ReadTextLines(files, copy, there) && there == lines) files.DeleteFile(copy);
+}
+
 }  // namespace brevant

@@ -16,4 +16,8 @@ namespace brevant {
 std::u16string WriteRecoveryCopy(TCFileSystem& files, std::u16string_view folder,
                                  std::u16string_view fileName, const TextLines& lines);
 
+// Takes the copy away again, unless something else stands under its name by now: somebody may have opened it
+// and gone on working in it.
+void RemoveRecoveryCopy(TCFileSystem& files, std::u16string_view copy, const TextLines& lines);
+
 }  // namespace brevant

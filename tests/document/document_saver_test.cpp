@@ -191,6 +191,38 @@ TEST_F(SaveOnAHangingDisk, WhatHangsIsInTheRecoveryFolderUntilItComesThrough) {
   EXPECT_EQ(Read("Show.brv"), BytesOf(ASong(u"first.mp3")));
 }
 
+TEST_F(SaveOnAHangingDisk, ACopyThatSomebodyHasGoneOnWorkingInStays) {
+  SaveHangs(u"first.mp3");
+  WaitUntilItIsCopied();
+  saver.Save(folder.Model("recovery/Show.brv"), ASong(u"later.mp3"));
+  disk.reset();
+  WaitUntil([this] { return saver.DropEndedSaves(); });
+  EXPECT_EQ(Read("recovery/Show.brv"), BytesOf(ASong(u"later.mp3")));
+}
+
+TEST_F(SaveOnAHangingDisk, ASaveIsOverThoughItsCopyHangs) {
+  disk.reset();
+  disk = std::make_unique<TCHangingDisk>(folder.Native("recovery/Show.brv"));
+  saver.Save(folder.Model("missing/Show.brv"), ASong(u"first.mp3"));
+  WaitUntil([this] { return disk->Waiting() > 0; });
+  EXPECT_FALSE(saver.IsSaving(folder.Model("missing/Show.brv")));
+  EXPECT_TRUE(saver.DropEndedSaves());
+  EXPECT_FALSE(saver.DropEndedSaves()) << "told once";
+  disk.reset();
+  saver.Finish();
+  EXPECT_EQ(Read("recovery/Show.brv"), BytesOf(ASong(u"first.mp3")));
+}
+
+TEST_F(SaveOnAHangingDisk, AtTheEndOfTheProgramASaveThatALaterOneReplacedIsNotWaitedFor) {
+  folder.Write("recovery");  // a file, where the folder would be
+  SaveHangs(u"first.mp3");
+  std::this_thread::sleep_for(milliseconds(200));  // nobody tells when its copy has failed
+  std::filesystem::remove(folder.Native("recovery"));
+  saver.Save(show, ASong(u"last.mp3"));
+  saver.Finish(milliseconds(0));
+  EXPECT_EQ(Read("recovery/Show.brv"), BytesOf(ASong(u"last.mp3")));
+}
+
 TEST_F(SaveOnAHangingDisk, WhoWaitsForAFileReadsWhatWasSavedLast) {
   SaveHangs(u"first.mp3");
   std::thread meanwhile([this] { OnceItIsCopied(); });

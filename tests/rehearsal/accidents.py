@@ -31,10 +31,12 @@ def plays_again(run):
     for _ in range(4):
         look = run.judge.look()
         song = run.material.song(look.green_song() or "")
-        if song is not None and song.path.exists() and look.song is not None and look.volume >= AUDIBLE and run.immediate_play:
+        lost = run.may_be_in_an_empty_playlist(look)  # Enter starts nothing of the rows that stayed
+        if (song is not None and song.path.exists() and look.song is not None and look.volume >= AUDIBLE and
+                run.immediate_play and not lost):
             break
         acts.sets_the_options_right(run)
-        run.do(acts.steps_a_song)
+        run.do(acts.steps_a_playlist if lost else acts.steps_a_song)
         time.sleep(0.3)
     else:
         return

@@ -43,8 +43,8 @@ class TCRunningProgram : public QObject, protected QDBusContext {
   enum class TCHandOver {
     Done,
     DialogOpen,  // and nothing was opened
-    NoAnswer,
-    Gone,  // it ended instead, and this one is the first now
+    NoAnswer,    // or none but that it refuses the file for good
+    Gone,        // it ended instead, and this one is the first now
   };
   // Second only: has the first one open a file, by its absolute native name, or come forward without one.
   // `platformData` as PlatformData() read it. Waits for the answer, `patience` at most: longer than a program

@@ -9,8 +9,8 @@ namespace brevant {
 // One at a time.
 class TCSuddenExit {
  public:
-  // Whoever calls exit() while this lives has `lastWork` done first, on its thread. Not at a crash, and not
-  // at a kill.
+  // Whoever calls exit() while this lives has `lastWork` done on the way, on its thread. Not at a crash, and
+  // not at a kill.
   explicit TCSuddenExit(std::function<void()> lastWork);
   ~TCSuddenExit();
   TCSuddenExit(const TCSuddenExit&) = delete;
