@@ -45,6 +45,12 @@ QSize TCRepeatTimeField::minimumSizeHint() const {
   return sizeHint();
 }
 
+// A bar that floats gives the keys to the first field that Tab reaches, whatever on it was clicked.
+void TCRepeatTimeField::showEvent(QShowEvent* event) {
+  setFocusPolicy(window()->windowType() == Qt::Tool ? Qt::ClickFocus : Qt::StrongFocus);
+  QTimeEdit::showEvent(event);
+}
+
 void TCRepeatTimeField::focusInEvent(QFocusEvent* event) {
   QTimeEdit::focusInEvent(event);
   // Back from another window, or from the field's own menu, the typing goes on where it was.
@@ -76,6 +82,7 @@ void TCRepeatTimeField::keyPressEvent(QKeyEvent* event) {
       return;
   }
   event->accept();
+  clearFocus();  // or it would have the keys again whenever its bar floats and is clicked
   Q_EMIT typingEnded();
 }
 

@@ -30,6 +30,7 @@ class TCRepeatTimeField final : public QTimeEdit {
   void typingEnded();
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QMainWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -66,6 +67,21 @@ TEST_F(PlayControlsBar, AFieldTakenOffABarKeepsItsTimeAndCanStandOnAnother) {
   ASSERT_TRUE(QTest::qWaitFor([this] { return bar->FieldOf(TCCommandId::RepeatBeginField).isVisible(); }));
   EXPECT_EQ(bar->FieldOf(TCCommandId::RepeatBeginField).parentWidget(), other);
   EXPECT_EQ(bar->RepeatBegin(), 75);
+}
+
+TEST_F(PlayControlsBar, ABarThatFloatsLeavesTheKeysAloneUntilAFieldIsClicked) {
+  Show();
+  const TCRepeatTimeField& field = bar->FieldOf(TCCommandId::RepeatBeginField);
+  EXPECT_EQ(field.focusPolicy(), Qt::StrongFocus);
+  bar->setWindowFlags(Qt::Tool);
+  bar->show();
+  bar->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(bar));
+  EXPECT_EQ(QApplication::focusWidget(), nullptr);
+  QTest::mouseClick(&bar->FieldOf(TCCommandId::RepeatBeginField), Qt::LeftButton);
+  EXPECT_TRUE(field.hasFocus());
+  QTest::keyClick(&bar->FieldOf(TCCommandId::RepeatBeginField), Qt::Key_Return);
+  EXPECT_EQ(bar->focusWidget(), nullptr) << "the next click on the bar does not bring it back";
 }
 
 TEST_F(PlayControlsBar, TellsWhenTheTypingEnds) {
