@@ -1,6 +1,7 @@
 #include "views/play_list_manager_tree_view.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QPainter>
@@ -18,6 +19,13 @@ namespace brevant {
 namespace {
 
 constexpr QSize kPictureSize(23, 19);
+
+// Null when the widget is in none.
+QDockWidget* PaneAround(QWidget& widget) {
+  QWidget* around = widget.parentWidget();
+  while (around != nullptr && qobject_cast<QDockWidget*>(around) == nullptr) around = around->parentWidget();
+  return static_cast<QDockWidget*>(around);
+}
 
 }  // namespace
 
@@ -143,7 +151,10 @@ void TCPlayListManagerTreeView::OpenWayTo(TCTreeNode node) {
 }
 
 void TCPlayListManagerTreeView::TakeFocus() {
-  // In a pane that is closed it would be nowhere, and the keys with it.
+  // In a pane that is closed, or behind another tab, it would be nowhere, and the keys with it.
+  QDockWidget* pane = PaneAround(*this);
+  if (pane != nullptr && pane->isHidden()) return;
+  if (pane != nullptr) pane->raise();
   if (window()->isVisible() && !isVisible()) return;
   GiveKeyboardTo(*this);
 }
@@ -157,7 +168,8 @@ bool TCPlayListManagerTreeView::KeysGoHere() const {
   const QWidget* focus = window()->focusWidget();
   if (focus != this && !isAncestorOf(focus)) return false;
   const QWidget* active = QApplication::activeWindow();
-  return active == window() || active == nullptr || QApplication::activeModalWidget() != nullptr;
+  const bool taken = QApplication::focusWidget() != nullptr;  // not by a bar that floats and was clicked
+  return active == window() || active == nullptr || QApplication::activeModalWidget() != nullptr || !taken;
 }
 
 void TCPlayListManagerTreeView::focusInEvent(QFocusEvent* event) {
@@ -168,6 +180,7 @@ void TCPlayListManagerTreeView::focusInEvent(QFocusEvent* event) {
 void TCPlayListManagerTreeView::focusOutEvent(QFocusEvent* event) {
   buttonPressed = false;
   enterDown = 0;
+  keyMoveSource = TCTreeNode::None;
   ForgetClick();
   QTreeView::focusOutEvent(event);
 }

@@ -119,6 +119,17 @@ TEST_F(TreeKeys, ShiftWithAnArrowMovesTheNodeWhenTheKeyComesUp) {
   EXPECT_THAT(Moves(), ElementsAre(TCMove(first[0], first[1])));
 }
 
+TEST_F(TreeKeys, AShiftArrowWhoseReleaseWentElsewhereMovesNothing) {
+  OpenAll();
+  tree.TakeFocus();
+  tree.SelectNode(first[0]);
+  QTest::keyPress(&tree, Qt::Key_Down, Qt::ShiftModifier);
+  other.setFocus();
+  tree.TakeFocus();
+  QTest::keyRelease(&tree, Qt::Key_Down);
+  EXPECT_THAT(Moves(), IsEmpty());
+}
+
 TEST_F(TreeKeys, ShiftHeldWalksANodeAlongAsTheDocumentMovesIt) {
   OpenAll();
   tree.TakeFocus();

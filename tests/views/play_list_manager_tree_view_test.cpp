@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QDockWidget>
 #include <QImage>
+#include <QLineEdit>
+#include <QMainWindow>
 #include <QPixmap>
 #include <QTest>
 #include <QToolTip>
@@ -208,6 +211,47 @@ TEST_F(Tree, TakesTheFocusButNotIntoAPaneThatIsClosed) {
   EXPECT_TRUE(other.hasFocus());
   tree.show();
   EXPECT_TRUE(other.hasFocus());
+}
+
+// In two panes of one place, as the user may lay them.
+class TreeBehindATab : public testing::Test {
+ protected:
+  TreeBehindATab() {
+    pane->setWidget(tree);
+    front->setWidget(new QLineEdit);
+    main.addDockWidget(Qt::LeftDockWidgetArea, pane);
+    main.tabifyDockWidget(pane, front);
+    main.setCentralWidget(playlist);
+    main.resize(600, 400);
+    main.show();
+    QCoreApplication::processEvents();
+    front->raise();
+    main.activateWindow();
+    playlist->setFocus();
+    QCoreApplication::processEvents();
+  }
+
+  QMainWindow main;
+  QDockWidget* pane = new QDockWidget(&main);
+  QDockWidget* front = new QDockWidget(&main);
+  TCPlayListManagerTreeView* tree = new TCPlayListManagerTreeView(nullptr);
+  QLineEdit* playlist = new QLineEdit;
+};
+
+TEST_F(TreeBehindATab, ComesToTheFrontForTheKeys) {
+  ASSERT_TRUE(tree->viewport()->visibleRegion().isEmpty());
+  tree->TakeFocus();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !tree->viewport()->visibleRegion().isEmpty(); }));
+  EXPECT_TRUE(tree->hasFocus());
+}
+
+TEST_F(TreeBehindATab, TakesNoKeysIntoAPaneThatFloatsAndIsClosed) {
+  pane->setFloating(true);
+  pane->hide();
+  playlist->setFocus();
+  tree->TakeFocus();
+  EXPECT_TRUE(playlist->hasFocus());
+  EXPECT_TRUE(pane->isHidden());
 }
 
 TEST_F(Tree, EveryLevelHasItsPictureAndTheSelectedNodeAnother) {

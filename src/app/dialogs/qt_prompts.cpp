@@ -1,10 +1,12 @@
 #include "app/dialogs/qt_prompts.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QTreeView>
 #include <utility>
@@ -14,6 +16,7 @@
 #include "app/dialogs/media_file_filters.h"
 #include "app/dialogs/refused_name.h"
 #include "app/dialogs/song_properties_dlg.h"
+#include "app/part_of.h"
 #include "resources/string_table.h"
 #include "text/disk_question.h"
 #include "text/regular_file.h"
@@ -54,11 +57,13 @@ bool TCQtPrompts::MayAsk() const {
 int TCQtPrompts::Run(QDialog& dialog) {
   if (!MayAsk()) return QDialog::Rejected;
   const QScopedValueRollback<QDialog*> now(open, &dialog);
+  const QPointer<QWidget> before = QApplication::activeWindow();
   dialog.setWindowModality(Qt::WindowModal);
   const int answer = dialog.exec();
   // Where a question closes together with the dialog that asked it, a busy window manager gives the keys to
-  // the dialog that is gone, which leaves them with nobody.
-  dialog.parentWidget()->activateWindow();
+  // the dialog that is gone, which leaves them with nobody. A pane that floats gets them back.
+  const bool isOurs = before != nullptr && before->isVisible() && IsPartOf(frame, before);
+  (isOurs ? before.data() : dialog.parentWidget())->activateWindow();
   return answer;
 }
 

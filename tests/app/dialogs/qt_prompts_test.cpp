@@ -134,6 +134,17 @@ TEST_F(QtPrompts, TheKeysComeBackToTheWindowThatAskedWhoeverHasThemBehindTheDial
   EXPECT_TRUE(QTest::qWaitFor([this] { return frame.isActiveWindow(); }, 2000));
 }
 
+TEST_F(QtPrompts, TheKeysComeBackToAPaneThatFloats) {
+  frame.show();
+  QWidget pane(&frame, Qt::Tool);
+  pane.show();
+  pane.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&pane));
+  const TCDialogAnswer<QMessageBox> answer([](QMessageBox& box) { box.reject(); });
+  (void)prompts.ConfirmRemove(u"Remove it?");
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&pane));
+}
+
 TEST_F(QtPrompts, NoQuestionOpensOverAnother) {
   const TCDialogAnswer<QDialog> answer([this](QDialog& dialog) {
     EXPECT_EQ(prompts.EnterText({TCTextPromptMode::Property, u"Another", u"", u""}), std::nullopt);
