@@ -32,7 +32,8 @@ bool TCFileDrops::eventFilter(QObject* watched, QEvent* event) {
   if (!isDrag && event->type() != QEvent::Drop) return QObject::eventFilter(watched, event);
 
   auto& drop = *static_cast<QDropEvent*>(event);
-  const QList<QByteArray> names = FilesIn(*drop.mimeData());
+  // Not at every step of the mouse: each look fetches the whole list from the other program.
+  if (event->type() != QEvent::DragMove) names = FilesIn(*drop.mimeData());
   if (names.isEmpty() || QApplication::activeModalWidget() != nullptr) {
     drop.ignore();
     return true;
@@ -43,9 +44,9 @@ bool TCFileDrops::eventFilter(QObject* watched, QEvent* event) {
     window.activateWindow();
     QMetaObject::invokeMethod(
         this,
-        [this, names] {
+        [this, dropped = names] {
           // A key that came with the drop may have opened a dialog, which no drop may edit behind.
-          if (QApplication::activeModalWidget() == nullptr) Q_EMIT filesDropped(names);
+          if (QApplication::activeModalWidget() == nullptr) Q_EMIT filesDropped(dropped);
         },
         Qt::QueuedConnection);
   }

@@ -34,6 +34,7 @@ class TCFileDrops final : public QObject {
   [[nodiscard]] static QList<QByteArray> FilesIn(const QMimeData& data);
 
   QWidget& window;
+  QList<QByteArray> names;  // of the drag that is over the window, or was last
 };
 
 }  // namespace brevant

@@ -86,6 +86,36 @@ TEST_F(FileDrops, ADragOfFilesIsWelcomeAndOneOfTextIsNot) {
   EXPECT_TRUE(files.isAccepted());
 }
 
+// What another program carries is fetched from it at each question.
+class TCFetchedFiles : public QMimeData {
+ public:
+  mutable int fetched = 0;
+
+  [[nodiscard]] QStringList formats() const override { return {QStringLiteral("text/uri-list")}; }
+  [[nodiscard]] bool hasFormat(const QString& format) const override { return formats().contains(format); }
+
+ protected:
+  [[nodiscard]] QVariant retrieveData(const QString& /*format*/, QMetaType /*type*/) const override {
+    ++fetched;
+    return QVariantList{QUrl(QStringLiteral("file:///m/a.mp3"))};
+  }
+};
+
+TEST_F(FileDrops, WhatIsDraggedIsFetchedOnceHoweverFarTheMouseGoes) {
+  const TCFetchedFiles data;
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &enter);
+  const int fetched = data.fetched;
+  ASSERT_GT(fetched, 0);
+  for (int x = 6; x < 20; ++x) {
+    QDragMoveEvent move(QPoint(x, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    move.ignore();
+    QCoreApplication::sendEvent(&window, &move);
+    EXPECT_TRUE(move.isAccepted());
+  }
+  EXPECT_EQ(data.fetched, fetched);
+}
+
 TEST_F(FileDrops, ADropBringsTheWindowForward) {
   window.show();
   QWidget fileManager;
