@@ -1,5 +1,6 @@
 #include "app/panes/status_pane.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 #include <utility>
@@ -49,10 +50,12 @@ void TCStatusPane::paintEvent(QPaintEvent* /*event*/) {
                         isEnabled(), ShownText(area.width()), foregroundRole());
 }
 
-void TCStatusPane::resizeEvent(QResizeEvent* event) {
-  QLabel::resizeEvent(event);
-  const bool cut = ShownText(contentsRect().width()) != text();
-  setToolTip(cut ? text() : QString());
+bool TCStatusPane::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const bool cut = ShownText(contentsRect().width()) != text();
+    setToolTip(cut ? text() : QString());
+  }
+  return QLabel::event(event);
 }
 
 }  // namespace brevant

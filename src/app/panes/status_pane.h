@@ -19,7 +19,8 @@ class TCStatusPane : public QLabel {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  // The tool tip says what is cut.
+  bool event(QEvent* event) override;
 
  private:
   QString separator;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QHelpEvent>
+
 namespace brevant {
 namespace {
 
@@ -33,12 +36,20 @@ TEST_F(StatusPane, CutsAnEntryWhenNotOneFits) {
 }
 
 TEST_F(StatusPane, WhatIsCutStandsInTheToolTip) {
+  const auto tip = [this] {
+    QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), pane.mapToGlobal(QPoint(1, 1)));
+    QCoreApplication::sendEvent(&pane, &rest);
+    return pane.toolTip();
+  };
   pane.resize(WidthOf(kText) / 2, 20);
   pane.show();
-  EXPECT_EQ(pane.toolTip(), kText);
+  EXPECT_EQ(tip(), kText);
   EXPECT_EQ(pane.text(), kText);
+  pane.setText(kText + kText);
+  EXPECT_EQ(tip(), kText + kText) << "what it says now";
+  pane.setText(kText);
   pane.resize(WidthOf(kText) + 20, 20);
-  EXPECT_EQ(pane.toolTip(), QString());
+  EXPECT_EQ(tip(), QString());
 }
 
 TEST_F(StatusPane, NeverKeepsItsWindowWide) {
