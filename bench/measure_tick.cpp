@@ -24,6 +24,7 @@ class TCNoDisplay final : public TCSetListDisplay {
   void SetSongTime(std::int32_t, std::u16string_view) override {}
   void RefreshPlaylistTotal() override {}
   void FocusPlaylist() override {}
+  void FocusPlaylistUnlessTyping() override {}
 };
 
 class TCLineCounter final : public TCMessageDisplay {

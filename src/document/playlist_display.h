@@ -57,6 +57,8 @@ class TCPlaylistDisplay {
   virtual void SelectRow(std::int32_t row) = 0;
   virtual void ScrollToRow(std::int32_t row) = 0;
   virtual void TakeFocus() = 0;
+  // Not out of a text that somebody types.
+  virtual void TakeFocusUnlessTyping() = 0;
   // Of the rows and the header. `points` may be any value; what is drawn stays usable.
   virtual void SetDisplayFont(std::u16string_view face, std::int32_t points) = 0;
   // Drops a mouse drag that is under way.

@@ -94,6 +94,10 @@ void TCPlaylistPresenter::FocusPlaylist() {
   view.TakeFocus();
 }
 
+void TCPlaylistPresenter::FocusPlaylistUnlessTyping() {
+  view.TakeFocusUnlessTyping();
+}
+
 void TCPlaylistPresenter::Clear() {
   record.setLists.shown = {};
   rowToMove = -1;

@@ -26,6 +26,7 @@ class TCPlaylistPresenter final : public TCSetListDisplay {
   void SetSongTime(std::int32_t row, std::u16string_view time) override;
   void RefreshPlaylistTotal() override;
   void FocusPlaylist() override;
+  void FocusPlaylistUnlessTyping() override;
 
   // Sets the play marks after the current song and redraws the colours. Nothing when no song is current.
   void Recolour();

@@ -25,6 +25,8 @@ class TCSetListDisplay {
   // The total in the header, after a song's time changed.
   virtual void RefreshPlaylistTotal() = 0;
   virtual void FocusPlaylist() = 0;
+  // For what nobody pressed a key for: a text that is being typed keeps the keyboard.
+  virtual void FocusPlaylistUnlessTyping() = 0;
 };
 
 }  // namespace brevant

@@ -228,7 +228,8 @@ bool TCTransport::AdvanceAfterSong() {
       break;
   }
   store.currentSong = 0;
-  if (!NextPlaylist()) StepPlaylist({true, 0, 0});  // the whole arrangement starts again
+  display.FocusPlaylistUnlessTyping();
+  if (!StepPlaylist(StepToNextPlaylist(store))) StepPlaylist({true, 0, 0});  // it all starts again
   return true;
 }
 

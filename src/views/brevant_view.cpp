@@ -195,6 +195,10 @@ void TCBrevantView::TakeFocus() {
   GiveKeyboardTo(*this);
 }
 
+void TCBrevantView::TakeFocusUnlessTyping() {
+  if (!IsSomebodyTyping()) TakeFocus();
+}
+
 void TCBrevantView::SetDisplayFont(std::u16string_view face, std::int32_t points) {
   const QFont wanted = DisplayFont(face, points, *this);
   const bool keepRow = IsInView(rowKeptInView, viewport()->height());

@@ -52,6 +52,7 @@ class TCBrevantView final : public QTableView, public TCPlaylistDisplay {
   void SelectRow(std::int32_t row) override;
   void ScrollToRow(std::int32_t row) override;
   void TakeFocus() override;
+  void TakeFocusUnlessTyping() override;
   void SetDisplayFont(std::u16string_view face, std::int32_t points) override;
   void ResetMouseState() override;
 

@@ -1,6 +1,8 @@
 #include "views/keyboard_focus.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QLineEdit>
 
 namespace brevant {
 
@@ -10,6 +12,13 @@ void GiveKeyboardTo(QWidget& widget) {
     widget.activateWindow();
   }
   widget.setFocus(Qt::OtherFocusReason);
+}
+
+bool IsSomebodyTyping() {
+  const QWidget* focus = QApplication::focusWidget();
+  const auto* line = qobject_cast<const QLineEdit*>(focus);
+  const auto* field = qobject_cast<const QAbstractSpinBox*>(focus);  // times, too
+  return (line != nullptr && !line->isReadOnly()) || (field != nullptr && !field->isReadOnly());
 }
 
 }  // namespace brevant

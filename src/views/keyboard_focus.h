@@ -9,4 +9,7 @@ namespace brevant {
 // playlists also change by themselves. Then it comes here as soon as the window has it again.
 void GiveKeyboardTo(QWidget& widget);
 
+// A field has the keyboard that takes texts: a label that is edited in place, a time, what is searched for.
+[[nodiscard]] bool IsSomebodyTyping();
+
 }  // namespace brevant

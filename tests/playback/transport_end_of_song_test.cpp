@@ -81,6 +81,18 @@ TEST_F(Transport, RecyclingGoesThroughAllPlaylistsAndStartsAgain) {
   EXPECT_THAT(display.calls, Contains("ShowPlaylist 0 0"));
 }
 
+TEST_F(Transport, TheNextPlaylistTakesTheKeysWhenAKeyAskedForItAndElseFromNobodyWhoTypes) {
+  settings.autoRecycle = true;
+  settings.autoPlayPlayList = true;
+  store.currentSong = 2;
+  transport.Play();
+  Run(11.4);
+  EXPECT_THAT(display.calls, Contains("Focus unless typing"));
+  EXPECT_THAT(display.calls, testing::Not(Contains("Focus")));
+  transport.NextPlaylist();
+  EXPECT_THAT(display.calls, Contains("Focus"));
+}
+
 TEST_F(Transport, RecyclingFromTheMiddleOfAPlaylistStaysInIt) {
   settings.autoRecycle = true;
   transport.Play();

@@ -18,6 +18,7 @@ class TCFakePlaylistView final : public TCPlaylistDisplay {
   std::int32_t scrolledTo = -1;
   int shows = 0;
   int focuses = 0;
+  int focusesUnlessTyping = 0;
   int mouseResets = 0;
 
   void ShowRows(std::vector<TCPlaylistRow> newRows, TCShowRows mode) override {
@@ -49,6 +50,7 @@ class TCFakePlaylistView final : public TCPlaylistDisplay {
   }
   void ScrollToRow(std::int32_t row) override { scrolledTo = row; }
   void TakeFocus() override { ++focuses; }
+  void TakeFocusUnlessTyping() override { ++focusesUnlessTyping; }
   void SetDisplayFont(std::u16string_view, std::int32_t) override {}
   void ResetMouseState() override { ++mouseResets; }
 

@@ -10,7 +10,8 @@ namespace brevant {
 
 class TCSetListDisplayLog final : public TCSetListDisplay {
  public:
-  std::vector<std::string> calls;  // "ShowPlaylist 0 1", "Highlight", "Row 2", "Time 2", "Total", "Focus"
+  std::vector<std::string>
+      calls;  // "ShowPlaylist 0 1", "Highlight", "Row 2", "Time 2", "Total", "Focus" and so on
 
   void ShowPlaylist(std::int32_t group, std::int32_t playlist) override {
     calls.push_back("ShowPlaylist " + std::to_string(group) + " " + std::to_string(playlist));
@@ -24,6 +25,7 @@ class TCSetListDisplayLog final : public TCSetListDisplay {
   }
   void RefreshPlaylistTotal() override { calls.emplace_back("Total"); }
   void FocusPlaylist() override { calls.emplace_back("Focus"); }
+  void FocusPlaylistUnlessTyping() override { calls.emplace_back("Focus unless typing"); }
 };
 
 }  // namespace brevant

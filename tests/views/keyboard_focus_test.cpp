@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QTest>
+#include <QTimeEdit>
 #include <QWindow>
 
 namespace brevant {
@@ -53,6 +55,23 @@ TEST_F(KeyboardFocus, ComesFromNoOtherProgram) {
   GiveKeyboardTo(field);
   QCoreApplication::processEvents();
   EXPECT_EQ(QGuiApplication::focusWindow(), &foreign);
+}
+
+TEST_F(KeyboardFocus, OnlyAFieldThatTakesTextsIsTypedInto) {
+  QLineEdit line(&window);
+  QTimeEdit time(&window);
+  line.show();
+  time.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  field.setFocus();
+  EXPECT_FALSE(IsSomebodyTyping());
+  line.setFocus();
+  EXPECT_TRUE(IsSomebodyTyping());
+  line.setReadOnly(true);
+  EXPECT_FALSE(IsSomebodyTyping());
+  time.setFocus();
+  EXPECT_TRUE(IsSomebodyTyping());
 }
 
 }  // namespace
