@@ -2,7 +2,10 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
 
 namespace brevant {
 
@@ -14,11 +17,17 @@ void GiveKeyboardTo(QWidget& widget) {
   widget.setFocus(Qt::OtherFocusReason);
 }
 
+bool TakesText(const QWidget* widget) {
+  if (const auto* line = qobject_cast<const QLineEdit*>(widget)) return !line->isReadOnly();
+  if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(widget)) return !spin->isReadOnly();
+  if (const auto* combo = qobject_cast<const QComboBox*>(widget)) return combo->isEditable();
+  if (const auto* plain = qobject_cast<const QPlainTextEdit*>(widget)) return !plain->isReadOnly();
+  if (const auto* rich = qobject_cast<const QTextEdit*>(widget)) return !rich->isReadOnly();
+  return false;
+}
+
 bool IsSomebodyTyping() {
-  const QWidget* focus = QApplication::focusWidget();
-  const auto* line = qobject_cast<const QLineEdit*>(focus);
-  const auto* field = qobject_cast<const QAbstractSpinBox*>(focus);  // times, too
-  return (line != nullptr && !line->isReadOnly()) || (field != nullptr && !field->isReadOnly());
+  return TakesText(QApplication::focusWidget());
 }
 
 }  // namespace brevant

@@ -9,7 +9,11 @@ namespace brevant {
 // playlists also change by themselves. Then it comes here as soon as the window has it again.
 void GiveKeyboardTo(QWidget& widget);
 
-// A field has the keyboard that takes texts: a label that is edited in place, a time, what is searched for.
+// A field that texts are typed into: a label that is edited in place, a time, what is searched for. Null is
+// none.
+[[nodiscard]] bool TakesText(const QWidget* widget);
+
+// Such a field has the keyboard.
 [[nodiscard]] bool IsSomebodyTyping();
 
 }  // namespace brevant

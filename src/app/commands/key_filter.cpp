@@ -1,18 +1,14 @@
 #include "app/commands/key_filter.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 #include <QWhatsThis>
 #include <algorithm>
 #include <utility>
 
 #include "app/bars/key_field.h"
 #include "app/part_of.h"
+#include "views/keyboard_focus.h"
 
 namespace brevant {
 namespace {
@@ -28,19 +24,7 @@ TCKeyFocus FocusKind(const QWidget* focus) {
   if (qobject_cast<const QMenuBar*>(focus) != nullptr) return TCKeyFocus::Menu;
   if (qobject_cast<const TCKeyField*>(focus) != nullptr) return TCKeyFocus::Asking;
 
-  bool typing = false;
-  if (const auto* line = qobject_cast<const QLineEdit*>(focus)) {
-    typing = !line->isReadOnly();
-  } else if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(focus)) {  // time fields too
-    typing = !spin->isReadOnly();
-  } else if (const auto* combo = qobject_cast<const QComboBox*>(focus)) {
-    typing = combo->isEditable();
-  } else if (const auto* plain = qobject_cast<const QPlainTextEdit*>(focus)) {
-    typing = !plain->isReadOnly();
-  } else if (const auto* rich = qobject_cast<const QTextEdit*>(focus)) {
-    typing = !rich->isReadOnly();
-  }
-  return typing ? TCKeyFocus::Typing : TCKeyFocus::Ordinary;
+  return TakesText(focus) ? TCKeyFocus::Typing : TCKeyFocus::Ordinary;
 }
 
 TCKeyFilter::TCKeyFilter(const TCCommandActions& commandActions, QWidget& window)
