@@ -23,24 +23,24 @@ class TCAskingWindow : public QWidget {
   }
 };
 
-TEST(SessionEnd, TheSessionManagersQuitAsksNoWindow) {
+class SessionEnd : public testing::Test {
+ protected:
+  SessionEnd() { window.show(); }
+
   TCAskingWindow window;
-  window.show();
-  TCSessionEnd sessionEnd(*qApp);
-  QSignalSpy ends(&sessionEnd, &TCSessionEnd::endWanted);
-  QEvent quit(QEvent::Quit);
+  TCSessionEnd sessionEnd{*qApp};
+  QSignalSpy ends{&sessionEnd, &TCSessionEnd::endWanted};
+  QEvent quit{QEvent::Quit};
+};
+
+TEST_F(SessionEnd, TheSessionManagersQuitAsksNoWindow) {
   QSpontaneKeyEvent::setSpontaneous(&quit);
   qApp->notify(qApp, &quit);  // sendEvent() would make it the program's own
   EXPECT_EQ(ends.count(), 1);
   EXPECT_EQ(window.asked, 0);
 }
 
-TEST(SessionEnd, TheProgramsOwnQuitStaysAsItIs) {
-  TCAskingWindow window;
-  window.show();
-  TCSessionEnd sessionEnd(*qApp);
-  QSignalSpy ends(&sessionEnd, &TCSessionEnd::endWanted);
-  QEvent quit(QEvent::Quit);
+TEST_F(SessionEnd, TheProgramsOwnQuitStaysAsItIs) {
   QCoreApplication::sendEvent(qApp, &quit);
   EXPECT_EQ(ends.count(), 0);
   EXPECT_EQ(window.asked, 1);
